@@ -1,0 +1,78 @@
+// The one arrow of the design: the program stands on the platform, the platform knows nothing of the program,
+// and only the platform reaches the libraries. Read from the #include lines and the words of the sources.
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+
+namespace {
+
+const QString Sources = QStringLiteral(SOURCE_FOLDER "/src");
+const QStringList ProgramParts = {"shell", "data", "search", "material", "design", "reports", "pma"};
+
+struct Line {
+    QString file;
+    QString text;
+};
+
+QList<Line> linesBelow(const QString &folder) {
+    QList<Line> lines;
+    QDirIterator files(Sources + "/" + folder, {"*.h", "*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        if (!file.open(QIODevice::ReadOnly)) continue;
+        const QStringList texts = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+        for (const QString &text : texts)
+            lines.append({file.fileName(), text});
+    }
+    return lines;
+}
+
+/// The lines that match, each with its file, as one text that a failing test prints.
+QString matching(const QList<Line> &lines, const QString &pattern) {
+    const QRegularExpression expression(pattern);
+    QString found;
+    for (const Line &line : lines)
+        if (expression.match(line.text).hasMatch()) found += line.file + ": " + line.text.trimmed() + "\n";
+    return found;
+}
+
+} // namespace
+
+TEST(IncludeRules, ReadsTheSources) {
+    EXPECT_GT(linesBelow("platform").size(), 1000);
+    EXPECT_NE(matching(linesBelow("platform/dao"), "#include <sqlite3\\.h>"), "");
+}
+
+TEST(IncludeRules, PlatformIncludesNoProgramHeader) {
+    EXPECT_EQ(matching(linesBelow("platform"), "#include \"(" + ProgramParts.join("|") + ")/").toStdString(),
+              "");
+}
+
+TEST(IncludeRules, PlatformHoldsNoWordOfTheProgram) {
+    const QString words = QStringLiteral("\\bRp02\\b|\\bRp10\\b|\\bChemComp\\b|\\bmatID\\b|\\bthickness\\b|"
+                                         "\\bgrade\\b|[Vv]elmar|frmSearch|frmMaterial|mdiV|actRep");
+    QList<Line> lines = linesBelow("platform");
+    EXPECT_EQ(matching(lines, words).toStdString(), "");
+}
+
+TEST(IncludeRules, PlatformPartsStandInOrder) {
+    const QStringList order = {"runtime", "dao", "forms", "printing", "desktop"};
+    for (int i = 0; i < order.size(); ++i) {
+        const QStringList above = order.mid(i + 1);
+        if (above.isEmpty()) continue;
+        EXPECT_EQ(
+            matching(linesBelow("platform/" + order[i]), "#include \"platform/(" + above.join("|") + ")/")
+                .toStdString(),
+            "");
+    }
+}
+
+TEST(IncludeRules, ProgramReachesNoLibraryPastThePlatform) {
+    for (const QString &part : ProgramParts)
+        EXPECT_EQ(matching(linesBelow(part),
+                           "#include [<\"](sqlite3|mdbtools|mdbsql|glib|qcustomplot|QtHelp|QHelp)")
+                      .toStdString(),
+                  "");
+}
