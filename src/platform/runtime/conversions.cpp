@@ -75,8 +75,10 @@ std::optional<QByteArray> plainNumber(const QString &written) {
 double numberOfText(const QString &text) {
     const std::optional<QByteArray> plain = plainNumber(text);
     if (!plain) throw RuntimeError(13);
-    const double number = plain->toDouble();
-    if (std::isinf(number)) throw RuntimeError(6);
+    bool inRange = false;
+    const double number = plain->toDouble(&inRange);
+    // Too small is zero, too large is an error.
+    if (!inRange && !plain->contains("e-")) throw RuntimeError(6);
     return number;
 }
 
