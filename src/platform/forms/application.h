@@ -1,0 +1,48 @@
+// The application object: one look for all windows, and the one place where a run-time error ends.
+#pragma once
+
+#include <functional>
+
+#include <QApplication>
+
+class RuntimeError;
+
+/// An error that reaches an event procedure is told by the standard report; then the end hook runs and the
+/// process ends with status 1, so that no statement below the failed one is ever run.
+class Application : public QApplication {
+    Q_OBJECT
+
+public:
+    Application(int &argc, char **argv);
+    ~Application() override;
+
+    static Application *instance();
+
+    bool notify(QObject *receiver, QEvent *event) override;
+    /// Runs what stands outside the event loop under the same rule. Without an application object it only
+    /// runs it.
+    static void guarded(const std::function<void()> &procedure);
+
+    /// The event loop, until the last form is unloaded; at once where none is loaded. The status of the
+    /// process.
+    int run();
+    /// Called when the forms collection has become empty.
+    void lastFormUnloaded();
+
+    /// Closes the database, keeps the settings. Its own errors are passed over.
+    void setEndHook(std::function<void()> hook) { m_endHook = std::move(hook); }
+
+    /// A test reads the error here, and the program goes on.
+    void setFaultSeam(std::function<void(const RuntimeError &)> seam) { m_faultSeam = std::move(seam); }
+
+    /// "Run-time error '3075':", an empty line, the description.
+    static QString reportText(const RuntimeError &error);
+
+private:
+    void report(const RuntimeError &error);
+
+    std::function<void()> m_endHook;
+    std::function<void(const RuntimeError &)> m_faultSeam;
+    bool m_reporting = false;
+    bool m_running = false;
+};
