@@ -1,0 +1,144 @@
+// A grid with a caption, headings and footers, bound to a data control or fed by an array.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QFrame>
+#include <QPointer>
+#include <QVariant>
+
+#include "platform/forms/grid_column.h"
+#include "platform/forms/grid_look.h"
+
+class DataControl;
+class GridFooter;
+class GridHeader;
+class GridModel;
+class GridView;
+class QHelpEvent;
+class QLabel;
+class QModelIndex;
+class QScrollBar;
+class XArrayDB;
+
+/// The part of a grid under the mouse, for cell tips.
+enum class GridArea { Header, Cell, Footer };
+
+/// Bound, it reads from the data control's recordset only the rows on the screen, and its current row and the
+/// recordset's follow each other. Rows and columns count from 0.
+class TDBGrid : public QFrame {
+    Q_OBJECT
+public:
+    explicit TDBGrid(QWidget *parent = nullptr);
+    ~TDBGrid() override;
+
+    /// The bar over the headings; without a caption there is none.
+    QString Caption() const;
+    void setCaption(const QString &caption);
+
+    void setDataSource(DataControl *source);
+    DataControl *DataSource() const;
+    /// Shown from the next Rebind() or Refresh() on. Grid column c shows the array's c-th column, whatever
+    /// its lower bound.
+    void setArray(std::shared_ptr<XArrayDB> array);
+
+    /// Reads bounds and values anew. The columns keep their layout.
+    void Rebind();
+    void Refresh();
+    /// A bound grid that was never given a column shows every field of each new recordset; after this call it
+    /// keeps the columns it has. Adding a column has the same effect.
+    void HoldFields();
+
+    /// Raises 9 for an index that no column has.
+    GridColumn &Columns(int index);
+    int ColumnCount() const;
+    /// Behind the last column.
+    GridColumn &AddColumn(const QString &caption = {});
+    /// Raises 9 for an index that no column has.
+    void RemoveColumn(int index);
+
+    /// The text on the screen; empty for Null. Raises 9 outside the grid.
+    QString CellText(int row, int column) const;
+    int RowCount() const;
+    /// The current row, -1 without one. Setting it raises 9 for a row that is not there.
+    int Row() const;
+    void setRow(int row);
+    /// The current row as its source counts it: the recordset's position, or the array's own index. Null
+    /// without a current row.
+    QVariant Bookmark() const;
+    void setBookmark(const QVariant &bookmark);
+    void ScrollToFirstColumn();
+
+    /// The first row counts as odd.
+    GridRowStyle EvenRowStyle() const { return m_look.evenRow; }
+    void setEvenRowStyle(const GridRowStyle &style);
+    GridRowStyle OddRowStyle() const { return m_look.oddRow; }
+    void setOddRowStyle(const GridRowStyle &style);
+    /// The two styles show only while this is on. Off at first.
+    bool AlternatingRowStyle() const { return m_look.alternating; }
+    void setAlternatingRowStyle(bool on);
+    void setMarqueeStyle(MarqueeStyle style);
+
+    /// The narrow cells left of the rows, with an arrow at the current one; a click selects the row. On at
+    /// first.
+    void setRecordSelectors(bool shown);
+    /// Off at first.
+    void setColumnFooters(bool shown);
+
+    /// 0 none, 2 shown while the mouse rests.
+    int CellTips() const { return m_cellTips; }
+    void setCellTips(int mode) { m_cellTips = mode; }
+    /// Gives the tip of a place; `column` is -1 beside the columns. Where it is empty the grid's own tool tip
+    /// shows.
+    using CellTipFetcher = std::function<QString(GridArea area, int column)>;
+    void setCellTipFetcher(CellTipFetcher fetcher) { m_fetchCellTip = std::move(fetcher); }
+
+    /// On, a mouse drag from a cell makes its row the current one and starts a drag that carries the grid's
+    /// object name; off (at first), it selects cells.
+    void setCellDrag(bool on);
+
+Q_SIGNALS:
+    void HeadClick(int column);
+    void FootClick(int column);
+    /// The user has made the column wider or narrower.
+    void ColResize(int column);
+    /// On a row.
+    void DblClick();
+    void EnterPressed();
+    /// A drag was let go over the grid.
+    void Dropped(const QString &sourceName);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void layOut();
+    void connectView();
+    void applyColumn(int index);
+    void applyAllColumns();
+    void userResized(int column, int pixels);
+    void showRecordset();
+    void showArray();
+    void followRecordset();
+    void moveRecordset(const QModelIndex &current);
+    void selectRow(int row);
+    bool showCellTip(QObject *place, const QHelpEvent &event);
+    void updateScrollBar();
+
+    QLabel *m_caption;
+    GridModel *m_model;
+    GridView *m_view;
+    GridHeader *m_header;
+    GridFooter *m_footer;
+    QScrollBar *m_scrollBar;
+    GridLook m_look;
+    QPointer<DataControl> m_source;
+    std::shared_ptr<XArrayDB> m_array;
+    CellTipFetcher m_fetchCellTip;
+    int m_cellTips = 0;
+    bool m_fieldsHeld = false;
+    bool m_layingOut = false;
+};
