@@ -4,18 +4,18 @@
 #include <array>
 #include <memory>
 
-#include <QColor>
 #include <QPointer>
 #include <QString>
 
+#include "data/Materials.h"
+#include "platform/forms/common_dialog.h"
+#include "platform/forms/image_list.h"
 #include "platform/forms/mdi_form.h"
-#include "shell/materials.h"
+#include "shell/main_menu.h"
 #include "shell/status_messages.h"
 
-class CommonDialog;
-class frmMaterial2;
-class ImageList;
-class MainMenu;
+class Form;
+class Material;
 class StatusBar;
 class TDBGrid;
 class Toolbar;
@@ -23,17 +23,14 @@ class Toolbar;
 class mdiVelmar : public MDIForm {
     Q_OBJECT
 public:
-    /// The one global instance, made on first use.
+    /// The one global instance, made and loaded on first use.
     static mdiVelmar &instance();
-    /// Whether it is there at all: False before the start window has loaded it and after its end.
-    static bool exists();
 
     mdiVelmar();
     ~mdiVelmar() override;
 
     // The state that all windows share.
     std::shared_ptr<Material> mCurrent;
-    /// In the order of selection, each under the decimal text of its ID.
     Materials colMaterials;
     qint16 iMaterialsOpen = 0;
     QString strTableButton;
@@ -42,41 +39,45 @@ public:
     bool bLowRes = false;
     bool bColoursOff = false;
     bool bBatchPrint = false;
-    bool bToolTips = true;
+    bool bToolTips = false;
     bool bDecimalPoint = false;
     bool bCommaGroup = false;
+    /// The material window in which the user last acted on the design temperature.
     QPointer<Form> frmDesignSource;
-    QColor cGreen;
-    QColor cBlue;
-    QColor cInfoBack;
-    QColor cWorkspace;
+    // Colour numbers, see platform/forms/colours.h.
+    int cGreen = 0;
+    int cBlue = 0;
+    int cInfoBack = 0;
+    int cWorkspace = 0;
 
-    /// Indices 0 to 5, 0 to 5 and 0 to 7; any other raises 9. Widths in twips.
+    /// Index 0 to 5, widths in twips. Another index raises 9.
     float ColumnSize(int index) const;
     void setColumnSize(int index, float twips);
+    /// Index 0 to 5. Another index raises 9.
     bool ColumnVisible(int index) const;
     void setColumnVisible(int index, bool visible);
+    /// Index 0 to 7. Another index raises 9.
     QString SavedSearch(int index) const;
     void setSavedSearch(int index, const QString &text);
 
-    // Table vocabulary; the functions of data/table_vocabulary.
-    void InitTableNames();
+    // The vocabulary of tables.
     QString GetTableName(int index) const;
     QString GetShortTableName(int index) const;
     qint16 GetTableIndex(const QString &key) const;
     QString GetCaption(const QString &key) const;
 
     // One look for all grids.
-    void SetRowColors(TDBGrid *grid, bool swapped);
+    /// Even rows green and odd rows blue, or `swapped`.
+    void SetRowColors(TDBGrid &grid, bool swapped);
     void Do_Undo_Colour_All();
-    void Do_Undo_Colour(frmMaterial2 *frm);
+    /// `frm` is a material window; its colours follow the Colour entry.
+    void Do_Undo_Colour(Form &frm);
     void GetDecimal();
 
-    // Per-user settings.
     void ReadSettings();
     void WriteSettings();
 
-    // Commands.
+    // Status line and commands.
     void SetStatus();
     /// 0 to 20 show and remember, 100 restores, 101 to 120 show without remembering; any other code raises 9.
     void ShowStatus(int code);
@@ -88,19 +89,34 @@ public:
     /// Pixels.
     qint16 CheckScreenResolution() const;
 
-    // Material windows as a group.
+    // The material windows as a group.
     void SetCurrentMaterial(const std::shared_ptr<Material> &mat);
     void CountMaterialsOpen();
     void CloseMaterial();
     void DoCascade();
     void DoTileHorizontal();
 
+    /// Ends the program.
     void UnloadMain();
 
-    // Controls that other windows reach.
-    MainMenu *menu = nullptr;
+    // What other windows reach.
+    MainMenu menu;
     Toolbar *Toolbar1 = nullptr;
     StatusBar *stbStatus = nullptr;
-    ImageList *ImageList1 = nullptr;
-    CommonDialog *comDlg = nullptr;
+    ImageList ImageList1;
+    CommonDialog comDlg;
+
+protected:
+    void Form_Load() override;
+    void Form_Unload(bool &cancel) override;
+
+private:
+    void buildControls();
+    void connectCommands();
+
+    StatusMessages strStatusText;
+    int iLastStatus = 0;
+    std::array<float, 6> m_columnSize{};
+    std::array<bool, 6> m_columnVisible{true, true, true, true, true, true};
+    std::array<QString, 8> m_savedSearch;
 };

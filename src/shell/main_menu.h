@@ -1,0 +1,25 @@
+// The menu tree of the main window.
+#pragma once
+
+#include "platform/forms/menu_entry.h"
+
+class MDIForm;
+
+/// Made with the captions, short cuts and states that hold at the program's start.
+struct MainMenu {
+    explicit MainMenu(MDIForm &window);
+
+    MenuEntry *mnuFile;
+    MenuArray mnuFileElem;
+    MenuEntry *mnuView;
+    MenuArray mnuViewElem;
+    MenuArray mnuViewMechElem;
+    MenuArray mnuViewPhysElem;
+    MenuEntry *mnuSettings;
+    MenuArray mnuSettingsElem;
+    MenuArray mnuSettingsToolElem;
+    MenuEntry *mnuWindow;
+    MenuArray mnuWindowElem;
+    MenuEntry *mnuHelp;
+    MenuArray mnuHelpElem;
+};
