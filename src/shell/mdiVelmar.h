@@ -15,6 +15,7 @@
 #include "shell/status_messages.h"
 
 class Form;
+class MainCommands;
 class Material;
 class StatusBar;
 class TDBGrid;
@@ -85,7 +86,6 @@ public:
     void UpdateMenusAndButtons(const QString &group, int index);
     void ShowAbout();
     void SelectMaterials();
-    void DoBatchPrint();
     /// Pixels.
     qint16 CheckScreenResolution() const;
 
@@ -113,7 +113,11 @@ protected:
 private:
     void buildControls();
     void connectCommands();
+    void openDatabase();
+    void testScreen();
+    std::shared_ptr<Material> materialOf(const Form &form) const;
 
+    std::unique_ptr<MainCommands> m_commands;
     StatusMessages strStatusText;
     int iLastStatus = 0;
     std::array<float, 6> m_columnSize{};

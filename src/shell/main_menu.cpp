@@ -1,0 +1,103 @@
+#include "shell/main_menu.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+#include "platform/forms/mdi_form.h"
+
+namespace {
+
+MenuEntry *addToBar(MDIForm &window, const QString &name, const QString &caption) {
+    auto *entry = new MenuEntry(name, caption, &window);
+    entry->SubMenu();
+    window.menuBar()->addAction(entry);
+    return entry;
+}
+
+QKeySequence ctrl(char key) {
+    return QKeySequence(QStringLiteral("Ctrl+") + QLatin1Char(key));
+}
+
+/// A separator is an entry of its own in its array.
+void addSeparator(MenuArray &array, MenuEntry *menu, int index) {
+    array.add(menu, index, "-").setSeparator(true);
+}
+
+void buildFile(MainMenu &menu) {
+    menu.mnuFileElem.add(menu.mnuFile, 0, "Show Selected &Material(s)", ctrl('M'));
+    addSeparator(menu.mnuFileElem, menu.mnuFile, 1);
+    menu.mnuFileElem.add(menu.mnuFile, 2, "&Save Report For Current Material To File...", ctrl('S'));
+    menu.mnuFileElem.add(menu.mnuFile, 3, "&Print (Preview) Report For Current Material...", ctrl('P'));
+    addSeparator(menu.mnuFileElem, menu.mnuFile, 4);
+    menu.mnuFileElem.add(menu.mnuFile, 5, "&Generial Information", ctrl('G')); // so spelt since its first release
+    addSeparator(menu.mnuFileElem, menu.mnuFile, 6);
+    menu.mnuFileElem.add(menu.mnuFile, 7, "E&xit", ctrl('Q'));
+    menu.mnuFileElem(2).setEnabled(false);
+    menu.mnuFileElem(3).setEnabled(false);
+}
+
+void buildView(MainMenu &menu) {
+    menu.mnuView->setVisible(false);
+    menu.mnuViewElem.add(menu.mnuView, 0, "&References").setEnabled(false);
+    menu.mnuViewElem.add(menu.mnuView, 1, "&Chemical Composition");
+    MenuEntry &mech = menu.mnuViewElem.add(menu.mnuView, 2, "&Mechanical Properties");
+    menu.mnuViewMechElem.add(&mech, 0, "At &Room Temperature");
+    menu.mnuViewMechElem.add(&mech, 1, "At &Elevated Temperature");
+    addSeparator(menu.mnuViewMechElem, &mech, 2);
+    menu.mnuViewMechElem.add(&mech, 3, "&Creep Properties");
+    menu.mnuViewElem.add(menu.mnuView, 3, "&Impact Energy");
+    MenuEntry &phys = menu.mnuViewElem.add(menu.mnuView, 4, "&Physical Properties");
+    menu.mnuViewPhysElem.add(&phys, 0, "&Modulus Of Elasticity");
+    menu.mnuViewPhysElem.add(&phys, 1, "Thermal &Expansion");
+    menu.mnuViewPhysElem.add(&phys, 2, "Thermal &Conductivity");
+    menu.mnuViewPhysElem.add(&phys, 3, "Specific &Thermal Capacity");
+    menu.mnuViewPhysElem.add(&phys, 4, "Specific Electrical &Resistivity");
+    menu.mnuViewElem.add(menu.mnuView, 5, "&Additional Information");
+    menu.mnuViewElem.add(menu.mnuView, 6, "&Design Values");
+}
+
+void buildSettings(MainMenu &menu) {
+    MenuEntry &toolbar = menu.mnuSettingsElem.add(menu.mnuSettings, 0, "&Toolbar");
+    toolbar.setEnabled(false);
+    menu.mnuSettingsToolElem.add(&toolbar, 0, "&Show").setEnabled(false);
+    menu.mnuSettingsToolElem.add(&toolbar, 1, "&Hide");
+    menu.mnuSettingsToolElem.add(&toolbar, 2, "Align &Top").setEnabled(false);
+    menu.mnuSettingsToolElem.add(&toolbar, 3, "Align &Bottom");
+    menu.mnuSettingsElem.add(menu.mnuSettings, 1, "Status &Bar").setChecked(true);
+    menu.mnuSettingsElem.add(menu.mnuSettings, 2, "&Colour").setChecked(true);
+    menu.mnuSettingsElem.add(menu.mnuSettings, 3, "ToolTi&ps").setChecked(true);
+    menu.mnuSettingsElem.add(menu.mnuSettings, 4, "C&hange Back Colour");
+}
+
+void buildWindowAndHelp(MainMenu &menu) {
+    menu.mnuWindowElem.add(menu.mnuWindow, 0, "&Cascade").setChecked(true);
+    menu.mnuWindowElem.add(menu.mnuWindow, 1, "Tile &Horizontal");
+    menu.mnuHelpElem.add(menu.mnuHelp, 0, "&Contents", QKeySequence(Qt::Key_F1));
+    menu.mnuHelpElem.add(menu.mnuHelp, 1, "&Index");
+    menu.mnuHelpElem.add(menu.mnuHelp, 2, "&Search");
+    addSeparator(menu.mnuHelpElem, menu.mnuHelp, 3);
+    menu.mnuHelpElem.add(menu.mnuHelp, 4, "&About VELMAR-PED");
+}
+
+} // namespace
+
+MainMenu::MainMenu(MDIForm &window)
+    : mnuFile(addToBar(window, "mnuFile", "&File"))
+    , mnuFileElem("mnuFileElem")
+    , mnuView(addToBar(window, "mnuView", "&View"))
+    , mnuViewElem("mnuViewElem")
+    , mnuViewMechElem("mnuViewMechElem")
+    , mnuViewPhysElem("mnuViewPhysElem")
+    , mnuSettings(addToBar(window, "mnuSettings", "&Settings"))
+    , mnuSettingsElem("mnuSettingsElem")
+    , mnuSettingsToolElem("mnuSettingsToolElem")
+    , mnuWindow(addToBar(window, "mnuWindow", "&Window"))
+    , mnuWindowElem("mnuWindowElem")
+    , mnuHelp(addToBar(window, "mnuHelp", "&Help"))
+    , mnuHelpElem("mnuHelpElem") {
+    buildFile(*this);
+    buildView(*this);
+    buildSettings(*this);
+    buildWindowAndHelp(*this);
+    window.setWindowList(mnuWindow);
+}

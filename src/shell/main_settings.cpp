@@ -1,0 +1,85 @@
+#include "shell/main_settings.h"
+
+#include "platform/forms/status_bar.h"
+#include "platform/forms/toolbar.h"
+#include "shell/mdiVelmar.h"
+#include "shell/modFileHandler.h"
+#include "shell/settings_file.h"
+
+namespace MainSettings {
+
+namespace {
+
+const QString FileName = QStringLiteral("Settings.vlp");
+
+/// The entry for the state that holds is the disabled one.
+void applyToolbar(mdiVelmar &window, const Settings &settings) {
+    MenuArray &entries = window.menu.mnuSettingsToolElem;
+    if (!settings.toolbarShown) {
+        window.Toolbar1->setVisible(false);
+        entries(0).setEnabled(true);
+        entries(1).setEnabled(false);
+    }
+    if (settings.toolbarAtBottom) {
+        window.Toolbar1->setAlign(vbAlignBottom);
+        entries(2).setEnabled(true);
+        entries(3).setEnabled(false);
+    }
+}
+
+void applyMenus(mdiVelmar &window, const Settings &settings) {
+    MainMenu &menu = window.menu;
+    if (settings.tileHorizontal) {
+        window.iArrangement = 1;
+        menu.mnuWindowElem(0).setChecked(false);
+        menu.mnuWindowElem(1).setChecked(true);
+    }
+    applyToolbar(window, settings);
+    if (!settings.statusShown) {
+        window.stbStatus->setVisible(false);
+        menu.mnuSettingsElem(1).setChecked(false);
+    }
+    // starting over would meet a colour that is no number again and again: the error goes up instead, and
+    // what is written at the end mends the file
+    if (const auto colour = settings.backColor()) window.setBackColor(*colour);
+    if (settings.coloursOff) {
+        window.bColoursOff = true;
+        menu.mnuSettingsElem(2).setChecked(false);
+    }
+    window.bToolTips = settings.toolTips;
+    if (!settings.toolTips) menu.mnuSettingsElem(3).setChecked(false);
+}
+
+} // namespace
+
+void read(mdiVelmar &window) {
+    const Settings settings = SettingsFile::read(modFileHandler::GetUserPath(FileName));
+    applyMenus(window, settings);
+    for (int i = 0; i < 6; ++i) {
+        window.setColumnSize(i, settings.columnSize[static_cast<std::size_t>(i)]);
+        window.setColumnVisible(i, settings.columnVisible[static_cast<std::size_t>(i)]);
+    }
+    for (int i = 0; i < 8; ++i)
+        window.setSavedSearch(i, settings.savedSearch[static_cast<std::size_t>(i)]);
+}
+
+void write(const mdiVelmar &window) {
+    const MainMenu &menu = window.menu;
+    Settings settings;
+    settings.tileHorizontal = !menu.mnuWindowElem(0).Checked();
+    settings.toolbarShown = !menu.mnuSettingsToolElem(0).Enabled();
+    settings.toolbarAtBottom = window.Toolbar1->Align() != vbAlignTop;
+    settings.statusShown = window.stbStatus->Visible();
+    settings.setBackColor(window.BackColor());
+    settings.coloursOff = window.bColoursOff;
+    settings.toolTips = window.bToolTips;
+    for (int i = 0; i < 6; ++i) {
+        settings.columnSize[static_cast<std::size_t>(i)] = window.ColumnSize(i);
+        settings.columnVisible[static_cast<std::size_t>(i)] = window.ColumnVisible(i);
+    }
+    for (int i = 0; i < 8; ++i)
+        settings.savedSearch[static_cast<std::size_t>(i)] = window.SavedSearch(i);
+    SettingsFile::write(modFileHandler::GetUserPath(FileName), settings);
+}
+
+} // namespace MainSettings
