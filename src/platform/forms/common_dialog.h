@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// Set the members, show, read FileName.
 class CommonDialog {
@@ -29,4 +30,5 @@ public:
 
 private:
     void show(bool save);
+    QString ask(bool save) const;
 };

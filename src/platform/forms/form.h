@@ -59,6 +59,7 @@ protected:
 
 private:
     void applyWindowFlags();
+    void standAbove(QWidget *owner);
     void endModal();
 
     Kind m_kind;

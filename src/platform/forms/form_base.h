@@ -51,8 +51,6 @@ public:
     /// The area inside the frame.
     int ScaleWidth() const;
     int ScaleHeight() const;
-    /// Gives the frame the size that leaves this area inside it.
-    void setScaleSize(int width, int height);
 
     FormWindowState WindowState() const;
     void setWindowState(FormWindowState state);
@@ -95,7 +93,8 @@ protected:
     virtual void focusFrame() = 0;
     /// False where a dependent form refuses.
     virtual bool queryDependents() { return true; }
-    virtual void unloadDependents() {}
+    /// False where one of them stays after all.
+    virtual bool unloadDependents() { return true; }
     virtual void leaveScreen();
 
     /// Called by the windows' own event handlers.
@@ -111,7 +110,7 @@ private:
 
     bool queryUnload(UnloadMode mode);
     bool finishUnload();
-    void setOuter(const QRect &twips);
+    void setPixelSize(const QSize &size);
 
     Phase m_phase = Phase::New;
     int m_mousePointer = vbDefault;

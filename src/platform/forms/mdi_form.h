@@ -52,7 +52,7 @@ protected:
     void showFrame() override;
     void focusFrame() override;
     bool queryDependents() override;
-    void unloadDependents() override;
+    bool unloadDependents() override;
 
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -66,8 +66,11 @@ private:
     friend class Form;
     void addChild(ChildFrame *frame);
     void removeChild(ChildFrame *frame);
+    /// A child was shown, hidden, activated or renamed.
     void childChanged();
-    QList<Form *> children() const;
+    void activateBehind(const ChildFrame *hidden);
+    void frameActivated(QMdiSubWindow *frame);
+    QList<Form *> forms() const;
 
     QMdiArea *m_area;
     int m_backColor;

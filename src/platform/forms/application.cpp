@@ -1,0 +1,91 @@
+#include "platform/forms/application.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+#include <QFont>
+
+#include "platform/forms/forms.h"
+#include "platform/forms/msg_box.h"
+#include "platform/forms/platform_style.h"
+#include "platform/runtime/runtime_error.h"
+
+namespace {
+Application *theApplication = nullptr;
+}
+
+Application::Application(int &argc, char **argv)
+    : QApplication(argc, argv) {
+    theApplication = this;
+    setStyle(new PlatformStyle);
+    // The windows are laid out in twips for this font; a larger one would be cut off.
+    QFont font(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+    font.setPointSize(9);
+    setFont(font);
+    setQuitOnLastWindowClosed(false);
+}
+
+Application::~Application() {
+    theApplication = nullptr;
+}
+
+Application *Application::instance() {
+    return theApplication;
+}
+
+bool Application::notify(QObject *receiver, QEvent *event) {
+    bool handled = false;
+    guarded([&] { handled = QApplication::notify(receiver, event); });
+    return handled;
+}
+
+void Application::guarded(const std::function<void()> &procedure) {
+    if (theApplication == nullptr) {
+        procedure();
+        return;
+    }
+    try {
+        procedure();
+    } catch (const RuntimeError &error) {
+        theApplication->report(error);
+    } catch (const std::bad_alloc &) {
+        theApplication->report(RuntimeError(7));
+    }
+}
+
+int Application::run() {
+    if (Forms::Count() == 0) return 0;
+    m_running = true;
+    const int status = exec();
+    m_running = false;
+    return status;
+}
+
+void Application::lastFormUnloaded() {
+    if (m_running) exit(0);
+}
+
+QString Application::reportText(const RuntimeError &error) {
+    return QStringLiteral("Run-time error '%1':\r\n\r\n%2").arg(error.number()).arg(error.description());
+}
+
+void Application::report(const RuntimeError &error) {
+    if (m_faultSeam) {
+        m_faultSeam(error);
+        return;
+    }
+    if (m_reporting) return;
+    m_reporting = true;
+    while (overrideCursor() != nullptr)
+        restoreOverrideCursor();
+    MsgBox(reportText(error), vbCritical);
+    try {
+        if (m_endHook) m_endHook();
+    } catch (...) {
+        // The run ends for the first error; what fails while it ends has nobody left to tell.
+    }
+    std::fflush(nullptr);
+    // Leaving by the event loop would first run on in every procedure that is still below this one.
+    std::_Exit(1);
+}

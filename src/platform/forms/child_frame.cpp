@@ -1,0 +1,47 @@
+#include "platform/forms/child_frame.h"
+
+#include <QCloseEvent>
+#include <QWindowStateChangeEvent>
+
+#include "platform/forms/form.h"
+#include "platform/forms/mdi_form.h"
+
+ChildFrame::ChildFrame(Form &form)
+    : m_content(&form)
+    , m_form(&form) {
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setWidget(&form);
+}
+
+Form *ChildFrame::form() const {
+    return m_content ? m_form : nullptr;
+}
+
+void ChildFrame::closeEvent(QCloseEvent *event) {
+    event->ignore();
+    if (Form *content = form()) content->Unload(vbFormControlMenu);
+}
+
+void ChildFrame::changeEvent(QEvent *event) {
+    QMdiSubWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        // Every other change of state resizes the form inside, which hears of it by itself.
+        const bool wasMinimized =
+            static_cast<QWindowStateChangeEvent *>(event)->oldState().testFlag(Qt::WindowMinimized);
+        if (form() != nullptr && isMinimized() != wasMinimized) form()->sizeChanged();
+    }
+    if (event->type() == QEvent::WindowTitleChange && MDIForm::current() != nullptr)
+        MDIForm::current()->childChanged();
+}
+
+void ChildFrame::showEvent(QShowEvent *event) {
+    QMdiSubWindow::showEvent(event);
+    if (MDIForm::current() != nullptr) MDIForm::current()->childChanged();
+}
+
+void ChildFrame::hideEvent(QHideEvent *event) {
+    QMdiSubWindow::hideEvent(event);
+    if (MDIForm::current() == nullptr || !isHidden()) return;
+    MDIForm::current()->activateBehind(this);
+    MDIForm::current()->childChanged();
+}

@@ -1,0 +1,44 @@
+#include "platform/forms/image_box.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "platform/runtime/runtime_error.h"
+
+ImageBox::ImageBox(QWidget *parent)
+    : QWidget(parent) {}
+
+void ImageBox::setPicture(const QString &picture) {
+    if (picture == m_picture) return;
+    if (!picture.isEmpty() && !QFileInfo::exists(picture)) throw RuntimeError(53);
+    m_picture = picture;
+    m_icon = QIcon(picture);
+    update();
+}
+
+void ImageBox::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    m_icon.paint(&painter, rect(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+}
+
+void ImageBox::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Q_EMIT Click();
+}
+
+void ImageBox::mouseDoubleClickEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton) Q_EMIT DblClick();
+}
+
+void ImageBox::dragEnterEvent(QDragEnterEvent *event) {
+    if (qobject_cast<QWidget *>(event->source()) != nullptr) event->acceptProposedAction();
+}
+
+void ImageBox::dropEvent(QDropEvent *event) {
+    auto *source = qobject_cast<QWidget *>(event->source());
+    if (source == nullptr) return;
+    event->acceptProposedAction();
+    Q_EMIT DragDrop(source);
+}

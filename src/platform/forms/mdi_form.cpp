@@ -1,0 +1,206 @@
+#include "platform/forms/mdi_form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenu>
+
+#include "platform/forms/child_frame.h"
+#include "platform/forms/colours.h"
+#include "platform/forms/form.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/menu_entry.h"
+#include "platform/forms/platform_style.h"
+#include "platform/runtime/runtime_error.h"
+
+namespace {
+MDIForm *theMainWindow = nullptr;
+}
+
+MDIForm::MDIForm(const QString &name)
+    : m_area(new QMdiArea)
+    , m_backColor(vbApplicationWorkspace) {
+    if (current() != nullptr) throw RuntimeError(5);
+    theMainWindow = this;
+    setObjectName(name);
+    setContextMenuPolicy(Qt::PreventContextMenu); // else a right click could hide the tool bar past the menu
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setBackColor(m_backColor);
+    setCentralWidget(m_area);
+    m_area->viewport()->installEventFilter(this);
+    qApp->installEventFilter(this);
+    connect(m_area, &QMdiArea::subWindowActivated, this, &MDIForm::frameActivated);
+}
+
+MDIForm::~MDIForm() {
+    if (theMainWindow == this) theMainWindow = nullptr;
+}
+
+MDIForm *MDIForm::current() {
+    return theMainWindow != nullptr && !theMainWindow->isUnloaded() ? theMainWindow : nullptr;
+}
+
+QSize MDIForm::nominalFrame() const {
+    return PlatformStyle::frameSize();
+}
+
+void MDIForm::showFrame() {
+    show();
+}
+
+void MDIForm::focusFrame() {
+    raise();
+    activateWindow();
+    if (activeChild() == nullptr) becomeActive();
+}
+
+QList<Form *> MDIForm::forms() const {
+    QList<Form *> result;
+    for (QMdiSubWindow *frame : m_area->subWindowList(QMdiArea::CreationOrder))
+        if (Form *form = static_cast<ChildFrame *>(frame)->form()) result.append(form);
+    return result;
+}
+
+QList<Form *> MDIForm::visibleChildren() const {
+    QList<Form *> result = forms();
+    result.removeIf([](const Form *form) { return !form->Visible() || form->isUnloaded(); });
+    return result;
+}
+
+Form *MDIForm::activeChild() const {
+    const auto *frame = static_cast<ChildFrame *>(m_area->currentSubWindow());
+    return frame != nullptr && !frame->isHidden() ? frame->form() : nullptr;
+}
+
+void MDIForm::activateNextChild(bool backward) {
+    const QList<Form *> shown = visibleChildren();
+    if (shown.isEmpty()) return;
+    const qsizetype at = shown.indexOf(activeChild());
+    const qsizetype next = at < 0 ? 0 : (at + (backward ? shown.size() - 1 : 1)) % shown.size();
+    shown.at(next)->SetFocus();
+}
+
+void MDIForm::setBackColor(int colour) {
+    m_backColor = colour;
+    m_area->setBackground(toQColor(colour));
+}
+
+void MDIForm::setWindowList(MenuEntry *menu) {
+    m_windowList = menu;
+    childChanged();
+}
+
+void MDIForm::addChild(ChildFrame *frame) {
+    m_area->addSubWindow(frame);
+}
+
+void MDIForm::removeChild(ChildFrame *frame) {
+    m_area->removeSubWindow(frame);
+    childChanged();
+}
+
+void MDIForm::activateBehind(const ChildFrame *hidden) {
+    if (m_area->currentSubWindow() != hidden) return;
+    const QList<QMdiSubWindow *> stack = m_area->subWindowList(QMdiArea::StackingOrder);
+    for (auto frame = stack.crbegin(); frame != stack.crend(); ++frame)
+        if (*frame != hidden && !(*frame)->isHidden()) {
+            m_area->setActiveSubWindow(*frame);
+            return;
+        }
+}
+
+void MDIForm::frameActivated(QMdiSubWindow *frame) {
+    // Null says that the whole main window is no longer the active one: its active child stays what it was.
+    if (frame == nullptr) return;
+    if (Form *form = static_cast<ChildFrame *>(frame)->form()) form->becomeActive();
+    childChanged();
+}
+
+void MDIForm::childChanged() {
+    if (!m_windowList) return;
+    qDeleteAll(m_windowListActions);
+    m_windowListActions.clear();
+    const QList<Form *> shown = visibleChildren();
+    if (shown.isEmpty()) return;
+    QMenu *menu = m_windowList->SubMenu();
+    m_windowListActions.append(menu->addSeparator());
+    int number = 0;
+    for (Form *form : shown) {
+        ++number;
+        const QString caption = form->Caption().replace(QLatin1Char('&'), QLatin1String("&&"));
+        const QString digit = number < 10 ? QStringLiteral("&%1").arg(number) : QString::number(number);
+        QAction *action = menu->addAction(digit + QLatin1Char(' ') + caption);
+        action->setObjectName(QStringLiteral("%1List(%2)").arg(m_windowList->objectName()).arg(number));
+        action->setCheckable(true);
+        action->setChecked(form == activeChild());
+        // Later, since taking the focus makes this list anew.
+        connect(
+            action, &QAction::triggered, form, [form] { form->SetFocus(); }, Qt::QueuedConnection);
+        m_windowListActions.append(action);
+    }
+}
+
+bool MDIForm::queryDependents() {
+    for (Form *form : forms())
+        if (form->isLoaded() && !form->queryUnload(vbFormMDIForm)) return false;
+    return true;
+}
+
+bool MDIForm::unloadDependents() {
+    for (FormBase &form : Forms()) {
+        Form *child = form.as<Form>();
+        if (child != nullptr && child->isMdiChild() && child->isLoaded() && !child->finishUnload())
+            return false;
+    }
+    return true;
+}
+
+void MDIForm::closeEvent(QCloseEvent *event) {
+    event->ignore();
+    Unload(vbFormControlMenu);
+}
+
+void MDIForm::showEvent(QShowEvent *event) {
+    QMainWindow::showEvent(event);
+    shown();
+}
+
+void MDIForm::resizeEvent(QResizeEvent *event) {
+    QMainWindow::resizeEvent(event);
+    sizeChanged();
+}
+
+void MDIForm::changeEvent(QEvent *event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_area != nullptr) setBackColor(m_backColor);
+}
+
+bool MDIForm::event(QEvent *event) {
+    const bool handled = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate) {
+        if (Form *child = activeChild())
+            child->becomeActive();
+        else
+            becomeActive();
+    }
+    return handled;
+}
+
+bool MDIForm::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == m_area->viewport() && event->type() == QEvent::MouseButtonDblClick) {
+        Q_EMIT DblClick();
+        return true;
+    }
+    // QMdiArea's own Ctrl+Tab goes back and forth between the two windows used last.
+    if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
+        static_cast<QWidget *>(watched)->window() == this) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+        if (tab && key->modifiers().testFlag(Qt::ControlModifier)) {
+            activateNextChild(key->key() == Qt::Key_Backtab || key->modifiers().testFlag(Qt::ShiftModifier));
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
