@@ -15,8 +15,8 @@ enum class HeadPicturePosition { PictureOnly = 6, TextOnly = 7 };
 /// Every setting shows at once; a field shows its values.
 class GridColumn {
 public:
-    /// `changed` is called after every change.
-    explicit GridColumn(std::function<void()> changed);
+    /// `changed` is called with this column after every change.
+    explicit GridColumn(std::function<void(const GridColumn &)> changed);
 
     /// The heading; CR LF or LF parts its lines.
     const QString &Caption() const { return m_caption; }
@@ -57,7 +57,7 @@ private:
     template <typename T>
     void set(T &member, const T &value);
 
-    std::function<void()> m_changed;
+    std::function<void(const GridColumn &)> m_changed;
     QString m_caption;
     QString m_dataField;
     double m_width = 1740;

@@ -112,13 +112,11 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     void layOut();
     void connectView();
-    void applyColumn(int index);
-    void applyAllColumns();
+    void applyColumns(int first, int last);
     void userResized(int column, int pixels);
     void showRecordset();
     void showArray();

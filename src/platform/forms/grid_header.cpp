@@ -1,0 +1,87 @@
+#include "platform/forms/grid_header.h"
+
+#include <QPainter>
+#include <QStyleOptionHeader>
+#include <QSvgRenderer>
+
+#include "platform/forms/grid_model.h"
+
+namespace {
+constexpr int Margin = 4;
+constexpr int MinimumSection = 8;
+} // namespace
+
+GridHeader::GridHeader(const GridModel &model, QWidget *parent)
+    : QHeaderView(Qt::Horizontal, parent)
+    , m_model(model) {
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setMinimumSectionSize(MinimumSection);
+    connect(this, &QHeaderView::sectionResized, this, &GridHeader::headingsChanged);
+}
+
+QSize GridHeader::sizeHint() const {
+    int height = fontMetrics().height();
+    for (int i = 0; i < m_model.columnCount(); ++i)
+        if (!isSectionHidden(i)) height = qMax(height, headingSize(i, sectionSize(i) - 2 * Margin).height());
+    return {QHeaderView::sizeHint().width(), height + 2 * Margin};
+}
+
+void GridHeader::headingsChanged() {
+    viewport()->update();
+    Q_EMIT geometriesChanged();
+}
+
+void GridHeader::paintSection(QPainter *painter, const QRect &rect, int index) const {
+    QStyleOptionHeaderV2 option;
+    initStyleOption(&option);
+    initStyleOptionForIndex(&option, index);
+    option.rect = rect;
+    painter->save();
+    style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
+
+    const QRect inner = rect.adjusted(Margin, Margin, -Margin, -Margin);
+    const QColor colour = option.palette.color(QPalette::ButtonText);
+    if (m_model.column(index).shownPicture()) {
+        paintPicture(painter, inner, index, colour);
+    } else {
+        painter->setPen(colour);
+        const Qt::Alignment alignment = m_model.column(index).HeadAlignment() | Qt::AlignVCenter;
+        painter->drawText(inner, int(alignment) | Qt::TextWordWrap, text(index));
+    }
+    painter->restore();
+}
+
+QSize GridHeader::sectionSizeFromContents(int index) const {
+    return headingSize(index, QWIDGETSIZE_MAX) + QSize(2 * Margin + 1, 2 * Margin);
+}
+
+void GridHeader::paintPicture(QPainter *painter, const QRect &rect, int index, const QColor &colour) const {
+    const QSize size = headingSize(index, rect.width()).boundedTo(rect.size());
+    if (size.isEmpty()) return;
+    const qreal scale = painter->device()->devicePixelRatioF();
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter pen(&image);
+    m_model.column(index).shownPicture()->render(&pen, QRectF(QPointF(0, 0), QSizeF(size * scale)));
+    pen.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    pen.fillRect(image.rect(), colour);
+    pen.end();
+    const QRect place = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, rect);
+    painter->drawImage(place, image);
+}
+
+QSize GridHeader::headingSize(int index, int width) const {
+    if (const QSvgRenderer *picture = m_model.column(index).shownPicture()) {
+        const QSize natural = picture->defaultSize();
+        return natural.width() <= width
+                   ? natural
+                   : natural.scaled(qMax(width, 1), natural.height(), Qt::KeepAspectRatio);
+    }
+    const QRect bounds(0, 0, qMax(width, 1), QWIDGETSIZE_MAX);
+    return fontMetrics().boundingRect(bounds, int(Qt::AlignLeft) | Qt::TextWordWrap, text(index)).size();
+}
+
+QString GridHeader::text(int index) const {
+    return m_model.headerData(index, Qt::Horizontal, Qt::DisplayRole).toString();
+}

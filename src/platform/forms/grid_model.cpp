@@ -1,0 +1,118 @@
+#include "platform/forms/grid_model.h"
+
+#include <algorithm>
+
+#include "platform/dao/recordset.h"
+#include "platform/runtime/conversions.h"
+#include "platform/runtime/x_array_db.h"
+
+GridModel::GridModel(QObject *parent)
+    : QAbstractTableModel(parent) {}
+
+GridModel::~GridModel() = default;
+
+void GridModel::showRecordset(std::shared_ptr<Recordset> recordset) {
+    beginResetModel();
+    m_array = nullptr;
+    m_recordset = std::move(recordset);
+    m_rows = m_recordset ? m_recordset->RecordCount() : 0;
+    findFields();
+    endResetModel();
+}
+
+void GridModel::showArray(std::shared_ptr<XArrayDB> array) {
+    beginResetModel();
+    m_recordset = nullptr;
+    m_array = std::move(array);
+    m_rows = m_array ? m_array->Count(1) : 0;
+    m_firstArrayRow = m_array ? m_array->LowerBound(1) : 0;
+    m_firstArrayColumn = m_array ? m_array->LowerBound(2) : 0;
+    endResetModel();
+}
+
+bool GridModel::shows(const XArrayDB &array) const {
+    return m_array.get() == &array && m_rows == array.Count(1) && m_firstArrayRow == array.LowerBound(1);
+}
+
+GridColumn &GridModel::addColumn() {
+    const int index = columnCount();
+    beginInsertColumns({}, index, index);
+    m_columns.push_back(
+        std::make_unique<GridColumn>([this](const GridColumn &changed) { onColumnChanged(changed); }));
+    m_fields.push_back(-1);
+    endInsertColumns();
+    return *m_columns.back();
+}
+
+void GridModel::removeColumn(int index) {
+    beginRemoveColumns({}, index, index);
+    m_columns.erase(m_columns.begin() + index);
+    m_fields.erase(m_fields.begin() + index);
+    endRemoveColumns();
+}
+
+void GridModel::makeColumnsOfFields() {
+    while (columnCount() > 0)
+        removeColumn(columnCount() - 1);
+    if (!m_recordset) return;
+    for (const FieldDefinition &field : m_recordset->fieldDefinitions()) {
+        GridColumn &column = addColumn();
+        column.setDataField(field.name);
+        column.setCaption(field.name);
+    }
+}
+
+int GridModel::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : m_rows;
+}
+
+int GridModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+}
+
+QVariant GridModel::data(const QModelIndex &index, int role) const {
+    if (!index.isValid()) return {};
+    switch (role) {
+    case Qt::DisplayRole: {
+        const QVariant cell = value(index.row(), index.column());
+        return IsNull(cell) ? QString() : CStr(cell).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    }
+    case Qt::TextAlignmentRole:
+        return int(column(index.column()).Alignment() | Qt::AlignVCenter);
+    default:
+        return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole) return {};
+    if (orientation == Qt::Vertical) return section + 1;
+    return QString(column(section).Caption()).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+void GridModel::onColumnChanged(const GridColumn &column) {
+    const auto found = std::find_if(m_columns.begin(), m_columns.end(),
+                                    [&column](const auto &own) { return own.get() == &column; });
+    findFields();
+    Q_EMIT columnChanged(static_cast<int>(found - m_columns.begin()));
+}
+
+QVariant GridModel::value(int row, int column) const {
+    if (m_recordset) {
+        const int field = m_fields[static_cast<std::size_t>(column)];
+        return field < 0 ? QVariant() : m_recordset->value(row, field);
+    }
+    if (!m_array) return {};
+    // Its owner may have made the array smaller since it was shown.
+    const int arrayRow = m_firstArrayRow + row;
+    const int arrayColumn = m_firstArrayColumn + column;
+    if (arrayRow < m_array->LowerBound(1) || arrayRow > m_array->UpperBound(1)) return {};
+    if (arrayColumn < m_array->LowerBound(2) || arrayColumn > m_array->UpperBound(2)) return {};
+    return m_array->Get(arrayRow, arrayColumn);
+}
+
+void GridModel::findFields() {
+    if (!m_recordset) return;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        m_fields[i] = m_recordset->fieldIndex(m_columns[i]->DataField());
+}

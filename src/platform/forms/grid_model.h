@@ -1,0 +1,56 @@
+// The cells of a grid: its columns over the rows of a recordset or of an array.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QAbstractTableModel>
+
+#include "platform/forms/grid_column.h"
+
+class Recordset;
+class XArrayDB;
+
+/// Keeps no values: each is read from its source when the view asks for it.
+class GridModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit GridModel(QObject *parent = nullptr);
+    ~GridModel() override;
+
+    /// Null shows no rows.
+    void showRecordset(std::shared_ptr<Recordset> recordset);
+    void showArray(std::shared_ptr<XArrayDB> array);
+    bool showsArray() const { return m_array != nullptr; }
+    /// The array on show, with the bounds that it had when it was shown.
+    bool shows(const XArrayDB &array) const;
+    /// The bookmark of row 0.
+    int firstBookmark() const { return m_array ? m_firstArrayRow : 0; }
+
+    GridColumn &addColumn();
+    void removeColumn(int index);
+    GridColumn &column(int index) const { return *m_columns[static_cast<std::size_t>(index)]; }
+    /// One column for each field of the recordset on show, in the place of all others.
+    void makeColumnsOfFields();
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+Q_SIGNALS:
+    void columnChanged(int index);
+
+private:
+    void onColumnChanged(const GridColumn &column);
+    QVariant value(int row, int column) const;
+    void findFields();
+
+    std::vector<std::unique_ptr<GridColumn>> m_columns;
+    std::vector<int> m_fields; // of each column its field's position in the recordset, or -1
+    std::shared_ptr<Recordset> m_recordset;
+    std::shared_ptr<XArrayDB> m_array;
+    int m_rows = 0;
+    int m_firstArrayRow = 0;
+    int m_firstArrayColumn = 0;
+};

@@ -1,0 +1,191 @@
+#include "platform/forms/grid_view.h"
+
+#include <algorithm>
+#include <set>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QStringList>
+
+#include "platform/forms/drop_target.h"
+#include "platform/forms/grid_model.h"
+#include "platform/forms/grid_row_selector.h"
+
+namespace {
+
+/// Spreadsheets take a quoted text as one cell, whatever is in it.
+QString clipboardCell(const QString &text) {
+    static const QString special = QStringLiteral("\t\n\r\"");
+    const bool quoted = std::any_of(text.begin(), text.end(), [](QChar c) { return special.contains(c); });
+    if (!quoted) return text;
+    return QLatin1Char('"') + QString(text).replace(QLatin1Char('"'), QLatin1String("\"\"")) +
+           QLatin1Char('"');
+}
+
+constexpr int WidestDragPicture = 320;
+
+} // namespace
+
+GridView::GridView(GridModel &model, QWidget *parent)
+    : QTableView(parent)
+    , m_model(model) {
+    setModel(&model);
+    setVerticalHeader(new GridRowSelector(this));
+    setFrameShape(QFrame::NoFrame);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    auto *copy = new QAction(tr("&Copy"), this);
+    copy->setObjectName(QStringLiteral("Copy"));
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &GridView::copySelection);
+    auto *all = new QAction(tr("Select &All"), this);
+    all->setObjectName(QStringLiteral("SelectAll"));
+    all->setShortcut(QKeySequence::SelectAll);
+    all->setShortcutContext(Qt::WidgetShortcut);
+    connect(all, &QAction::triggered, this, &GridView::selectAll);
+    addActions({copy, all});
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+bool GridView::severalCellsSelected() const {
+    const QItemSelection selection = selectionModel()->selection();
+    return selection.size() > 1 ||
+           (selection.size() == 1 && (selection.first().height() > 1 || selection.first().width() > 1));
+}
+
+int GridView::firstVisibleColumn() const {
+    for (int i = 0; i < m_model.columnCount(); ++i)
+        if (!isColumnHidden(i)) return i;
+    return 0;
+}
+
+void GridView::columnsChanged() {
+    m_rowsGrow = m_model.showsArray() || anyColumnWraps();
+    forgetRowHeights();
+    fitVisibleRows();
+    viewport()->update();
+}
+
+QString GridView::selectedText() const {
+    std::set<int> rows;
+    std::set<int> columns;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.insert(row);
+        for (int column = range.left(); column <= range.right(); ++column)
+            if (!isColumnHidden(column)) columns.insert(column);
+    }
+    QStringList lines;
+    for (const int row : rows) {
+        QStringList cells;
+        for (const int column : columns) {
+            const QModelIndex index = m_model.index(row, column);
+            cells << (selection.contains(index) ? clipboardCell(index.data().toString()) : QString());
+        }
+        lines << cells.join(QLatin1Char('\t'));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void GridView::copySelection() const {
+    if (selectionModel()->hasSelection()) QApplication::clipboard()->setText(selectedText());
+}
+
+void GridView::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        Q_EMIT enterPressed();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void GridView::mousePressEvent(QMouseEvent *event) {
+    m_pressed = event->button() == Qt::LeftButton ? indexAt(event->pos()) : QModelIndex();
+    m_pressedAt = event->pos();
+    QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseMoveEvent(QMouseEvent *event) {
+    if (!m_dragSource || !(event->buttons() & Qt::LeftButton)) {
+        QTableView::mouseMoveEvent(event);
+        return;
+    }
+    const bool farEnough =
+        (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
+    if (m_pressed.isValid() && farEnough) startCellDrag();
+}
+
+void GridView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
+    QTableView::currentChanged(current, previous);
+    viewport()->update(); // the mark of the current row spans cells that the base class leaves alone
+    if (current.isValid() && current.row() != previous.row()) Q_EMIT currentRowChanged(current);
+}
+
+void GridView::resizeEvent(QResizeEvent *event) {
+    QTableView::resizeEvent(event);
+    fitVisibleRows();
+}
+
+void GridView::verticalScrollbarValueChanged(int value) {
+    QTableView::verticalScrollbarValueChanged(value);
+    fitVisibleRows();
+}
+
+void GridView::startCellDrag() {
+    const QModelIndex index = m_pressed;
+    m_pressed = QPersistentModelIndex();
+    setCurrentIndex(index);
+    const QRect row(0, rowViewportPosition(index.row()), qMin(viewport()->width(), WidestDragPicture),
+                    rowHeight(index.row()));
+    dragControl(m_dragSource, viewport()->grab(row));
+    setState(QAbstractItemView::NoState);
+}
+
+bool GridView::anyColumnWraps() const {
+    for (int i = 0; i < m_model.columnCount(); ++i)
+        if (m_model.column(i).WordWrap() && !isColumnHidden(i)) return true;
+    return false;
+}
+
+/// Only rows that come into view are measured, so that a long list is not read for its heights.
+void GridView::fitVisibleRows() {
+    if (!m_rowsGrow) return;
+    m_fitted.resize(static_cast<std::size_t>(m_model.rowCount()), false);
+    for (int row = qMax(rowAt(0), 0); row < m_model.rowCount(); ++row) {
+        if (rowViewportPosition(row) >= viewport()->height()) break;
+        const auto at = static_cast<std::size_t>(row);
+        if (m_fitted[at]) continue;
+        m_fitted[at] = true;
+        setRowHeight(row, neededHeight(row));
+    }
+}
+
+int GridView::neededHeight(int row) const {
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    int height = verticalHeader()->defaultSectionSize();
+    for (int column = 0; column < m_model.columnCount(); ++column) {
+        if (isColumnHidden(column)) continue;
+        option.rect = QRect(0, 0, columnWidth(column) - 1, height);
+        const QModelIndex index = m_model.index(row, column);
+        height = qMax(height, itemDelegateForIndex(index)->sizeHint(option, index).height() + 1);
+    }
+    return height;
+}
+
+void GridView::forgetRowHeights() {
+    for (std::size_t row = 0; row < m_fitted.size() && static_cast<int>(row) < m_model.rowCount(); ++row)
+        if (m_fitted[row]) setRowHeight(static_cast<int>(row), verticalHeader()->defaultSectionSize());
+    m_fitted.clear();
+}
