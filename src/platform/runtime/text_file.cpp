@@ -1,0 +1,74 @@
+#include "platform/runtime/text_file.h"
+
+#include <cerrno>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStringDecoder>
+
+#include "platform/runtime/runtime_error.h"
+
+namespace {
+
+// Windows-1252 is Latin-1 but for these 32 places. The five that it leaves free stay control characters.
+constexpr char16_t Windows1252Special[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+QString decode(const QByteArray &bytes) {
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString text = utf8(bytes);
+    if (!utf8.hasError()) return text;
+    text = QString::fromLatin1(bytes);
+    for (QChar &sign : text)
+        if (sign.unicode() >= 0x80 && sign.unicode() < 0xA0)
+            sign = QChar(Windows1252Special[sign.unicode() - 0x80]);
+    return text;
+}
+
+[[noreturn]] void raise(int number, const QString &path) {
+    throw RuntimeError(number,
+                       RuntimeError::standardDescription(number) + QStringLiteral(": '%1'").arg(path));
+}
+
+} // namespace
+
+QStringList TextFile::readLines(const QString &path) {
+    const QFileInfo info(path);
+    if (!info.exists()) raise(info.dir().exists() ? 53 : 76, path);
+    if (info.isDir()) raise(75, path);
+    if (!info.isReadable()) raise(70, path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) raise(75, path);
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) raise(57, path);
+
+    QString text = decode(bytes);
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    if (text.endsWith(QLatin1Char('\n')))
+        text.chop(1);
+    else if (text.isEmpty())
+        return {};
+    return text.split(QLatin1Char('\n'));
+}
+
+void TextFile::writeLines(const QString &path, const QStringList &lines) {
+    const QFileInfo info(path);
+    if (!info.dir().exists()) raise(76, path);
+    if (info.isDir()) raise(75, path);
+    if (info.exists() && !info.isWritable()) raise(70, path);
+
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (!file.open(QIODevice::WriteOnly)) raise(QFileInfo(info.path()).isWritable() ? 75 : 70, path);
+    QByteArray bytes;
+    for (const QString &line : lines)
+        bytes += line.toUtf8() + "\r\n";
+    errno = 0;
+    const bool written = file.write(bytes) == bytes.size() && file.flush();
+    const bool full = errno == ENOSPC || errno == EDQUOT;
+    if (!written || !file.commit()) raise(full ? 61 : 57, path);
+}

@@ -1,0 +1,20 @@
+// Small text files, read and written whole.
+#pragma once
+
+#include <QStringList>
+
+namespace TextFile {
+
+/// The lines without their ends (CR LF, LF or CR, also mixed). A line end at the end of the file starts no
+/// further line. The bytes are UTF-8, with or without its mark, or else Windows-1252.
+/// Raises 53 (no such file), 76 (no such folder), 70 (no right to read), 75 (a folder, or no way to open it),
+/// 57 (the device failed).
+QStringList readLines(const QString &path);
+
+/// Writes each line in UTF-8 with CR LF behind it. The file is replaced as a whole: after a failure it holds
+/// what it held before, except in a folder where no second file may be made, which is written in place.
+/// Raises 76 (no such folder), 70 (no right to write), 75 (a folder, or no way to open it), 61 (disk full),
+/// 57 (the device failed).
+void writeLines(const QString &path, const QStringList &lines);
+
+} // namespace TextFile
