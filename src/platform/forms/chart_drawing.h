@@ -1,0 +1,41 @@
+// What a chart shows, and its drawing by the plot library.
+#pragma once
+
+#include <vector>
+
+#include <QPointF>
+#include <QString>
+
+#include "platform/forms/chart_picture.h"
+
+class XArrayDB;
+
+/// One curve: its points in the order of the rows, those without a value left out.
+struct ChartSeries {
+    QString label;
+    std::vector<QPointF> points;
+};
+
+struct ChartContent {
+    QString title;
+    /// X axis, Y axis.
+    QString axisTitle[2];
+    /// One unit takes the same length on both axes.
+    bool uniformAxis = false;
+    bool showLegend = false;
+    std::vector<ChartSeries> series;
+};
+
+/// Reads the first `columnCount` columns in pairs, X and then Y; a column without a partner is left out. A
+/// cell is a number or a text that is one by the regional settings; a pair in which one cell is neither is no
+/// point.
+std::vector<ChartSeries> seriesFromPairs(const XArrayDB &cells, int columnCount);
+
+enum class ChartMedium {
+    Screen, ///< lines sit on whole pixels
+    Paper,  ///< lines are drawn where they are
+};
+
+/// Lays the chart out for `size` pixels of 1/96 inch. Black on white whatever the desktop's colours, so that
+/// a curve has the same colour on the screen as on paper.
+ChartPicture drawChart(const ChartContent &content, QSize size, ChartMedium medium);

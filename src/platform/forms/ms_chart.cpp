@@ -1,0 +1,121 @@
+// The chart control.
+#include "platform/forms/ms_chart.h"
+
+#include <QPainter>
+
+#include "platform/runtime/runtime_error.h"
+
+namespace {
+
+constexpr int InvalidPropertyValue = 380;
+constexpr int SubscriptOutOfRange = 9;
+
+QString plainLabel(std::size_t index) {
+    return QStringLiteral("C%1").arg(index + 1);
+}
+
+} // namespace
+
+MSChart::MSChart(QWidget *parent)
+    : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    changed();
+}
+
+void MSChart::setChartType(int type) {
+    if (type != VtChChartType2dXY) throw RuntimeError(InvalidPropertyValue, tr("Invalid property value"));
+}
+
+void MSChart::setChartData(const XArrayDB &cells) {
+    m_data = cells;
+    m_column = 1;
+    m_labels.clear();
+    setColumnCount(cells.Count(2));
+}
+
+void MSChart::setTitleText(const QString &text) {
+    m_content.title = text;
+    changed();
+}
+
+QString MSChart::AxisTitle(int axis) const {
+    if (axis != 0 && axis != 1) throw RuntimeError(SubscriptOutOfRange);
+    return m_content.axisTitle[axis];
+}
+
+void MSChart::setAxisTitle(int axis, const QString &text) {
+    if (axis != 0 && axis != 1) throw RuntimeError(SubscriptOutOfRange);
+    m_content.axisTitle[axis] = text;
+    changed();
+}
+
+void MSChart::setUniformAxis(bool uniform) {
+    m_content.uniformAxis = uniform;
+    changed();
+}
+
+void MSChart::setShowLegend(bool show) {
+    m_content.showLegend = show;
+    changed();
+}
+
+void MSChart::setColumnCount(int count) {
+    if (count < 0) throw RuntimeError(SubscriptOutOfRange);
+    const std::size_t before = m_labels.size();
+    m_labels.resize(std::size_t(count));
+    for (std::size_t i = before; i < m_labels.size(); ++i)
+        m_labels[i] = plainLabel(i);
+    changed();
+}
+
+void MSChart::setColumn(int column) {
+    if (column < 1 || column > ColumnCount()) throw RuntimeError(SubscriptOutOfRange);
+    m_column = column;
+}
+
+std::size_t MSChart::labelIndex() const {
+    if (m_column > ColumnCount()) throw RuntimeError(SubscriptOutOfRange);
+    return std::size_t(m_column - 1);
+}
+
+QString MSChart::ColumnLabel() const {
+    return m_labels[labelIndex()];
+}
+
+void MSChart::setColumnLabel(const QString &label) {
+    m_labels[labelIndex()] = label;
+    changed();
+}
+
+ChartContent MSChart::content() const {
+    ChartContent content = m_content;
+    content.series = seriesFromPairs(m_data, ColumnCount());
+    for (std::size_t i = 0; i < content.series.size(); ++i)
+        content.series[i].label = m_labels[2 * i];
+    return content;
+}
+
+ChartPicture MSChart::picture(QSize size) const {
+    return drawChart(content(), size, ChartMedium::Paper);
+}
+
+void MSChart::changed() {
+    m_screen = {};
+    const QString title = m_content.title.simplified();
+    setAccessibleName(title.isEmpty() ? tr("Chart") : tr("Chart: %1").arg(title));
+    QStringList curves;
+    if (m_content.showLegend) {
+        for (const ChartSeries &series : content().series)
+            curves.append(series.label.simplified());
+    }
+    const QString axes =
+        tr("%1 over %2").arg(m_content.axisTitle[1].simplified(), m_content.axisTitle[0].simplified());
+    setAccessibleDescription(curves.isEmpty() ? axes : tr("%1. Curves: %2").arg(axes, curves.join(", ")));
+    update();
+}
+
+void MSChart::paintEvent(QPaintEvent *) {
+    if (m_screen.size() != size()) m_screen = drawChart(content(), size(), ChartMedium::Screen);
+    QPainter painter(this);
+    m_screen.paint(&painter, rect());
+}
