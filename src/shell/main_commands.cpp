@@ -24,7 +24,7 @@ struct TableCommand {
     int status;
 };
 
-const TableCommand ViewTables[] = {{"Ref", 1}, {"ChemComp", 1}, {"", 0},   {"ImpEnergy", 1},
+const TableCommand ViewTables[] = {{"Ref", 1}, {"ChemComp", 1}, {"", 0},      {"ImpEnergy", 1},
                                    {"", 0},    {"AddInfo", 1},  {"Design", 6}};
 const TableCommand MechanicalTables[] = {{"MechProp", 1}, {"Elevated", 13}, {"", 0}, {"CreepProp", 14}};
 const TableCommand PhysicalTables[] = {
@@ -49,9 +49,14 @@ MainCommands::MainCommands(mdiVelmar &window)
 
 void MainCommands::file(int index) {
     switch (index) {
-    case 0: showSelectedOrSearch(); break;
-    case 7: leaveProgram(); break;
-    default: break;
+    case 0:
+        showSelectedOrSearch();
+        break;
+    case 7:
+        leaveProgram();
+        break;
+    default:
+        break;
     }
 }
 
@@ -174,8 +179,11 @@ void MainCommands::settings(int index) {
         entry.setChecked(!entry.Checked());
         m_window.bToolTips = !m_window.bToolTips;
         break;
-    case 4: changeBackColour(); break;
-    default: break;
+    case 4:
+        changeBackColour();
+        break;
+    default:
+        break;
     }
 }
 
@@ -194,10 +202,10 @@ void MainCommands::toolbarSettings(int index) {
 void MainCommands::changeBackColour() {
     const int colour = m_window.BackColor();
     // a colour outside the cycle, as a settings file may hold, stays for good
-    const QList<int> cycle = m_window.bColoursOff
-                                 ? QList<int>{vbWhite, m_window.cWorkspace}
-                                 : QList<int>{m_window.cBlue, m_window.cGreen, m_window.cInfoBack,
-                                              m_window.cWorkspace, vbWhite};
+    const QList<int> cycle =
+        m_window.bColoursOff
+            ? QList<int>{vbWhite, m_window.cWorkspace}
+            : QList<int>{m_window.cBlue, m_window.cGreen, m_window.cInfoBack, m_window.cWorkspace, vbWhite};
     const qsizetype at = cycle.indexOf(colour);
     if (at >= 0) m_window.setBackColor(cycle[(at + 1) % cycle.size()]);
 }

@@ -29,7 +29,8 @@ void buildFile(MainMenu &menu) {
     menu.mnuFileElem.add(menu.mnuFile, 2, "&Save Report For Current Material To File...", ctrl('S'));
     menu.mnuFileElem.add(menu.mnuFile, 3, "&Print (Preview) Report For Current Material...", ctrl('P'));
     addSeparator(menu.mnuFileElem, menu.mnuFile, 4);
-    menu.mnuFileElem.add(menu.mnuFile, 5, "&Generial Information", ctrl('G')); // so spelt since its first release
+    menu.mnuFileElem.add(menu.mnuFile, 5, "&Generial Information",
+                         ctrl('G')); // so spelt since its first release
     addSeparator(menu.mnuFileElem, menu.mnuFile, 6);
     menu.mnuFileElem.add(menu.mnuFile, 7, "E&xit", ctrl('Q'));
     menu.mnuFileElem(2).setEnabled(false);

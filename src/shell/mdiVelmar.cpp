@@ -134,7 +134,8 @@ void mdiVelmar::testScreen() {
 }
 
 void mdiVelmar::openDatabase() {
-    if (!modDBase::OpenDBase(comDlg, DatabaseFile, PathFile, true, true, Password, missingDatabaseMessage())) {
+    if (!modDBase::OpenDBase(comDlg, DatabaseFile, PathFile, true, true, Password,
+                             missingDatabaseMessage())) {
         UnloadMain();
         return;
     }

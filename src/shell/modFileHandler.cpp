@@ -33,16 +33,17 @@ void SetupFileEnvironment() {
     strUserFolder = programFolder();
     try {
         const QString appData = qEnvironmentVariable("APPDATA");
-        strUserFolder = appData.isEmpty() ? folderWithoutAppData()
-                                          : QDir::cleanPath(QDir::fromNativeSeparators(appData)) + FolderOfTheUser;
+        strUserFolder = appData.isEmpty()
+                            ? folderWithoutAppData()
+                            : QDir::cleanPath(QDir::fromNativeSeparators(appData)) + FolderOfTheUser;
         if (!QFileInfo::exists(strUserFolder)) {
             MakeFolderPath(strUserFolder);
             CopyProgramFiles();
         }
     } catch (const RuntimeError &error) {
         strUserFolder = programFolder();
-        MsgBox(QString::number(error.number()) + ": Error in SetupFileEnvironment(). Error Description: " +
-                   error.description(),
+        MsgBox(QString::number(error.number()) +
+                   ": Error in SetupFileEnvironment(). Error Description: " + error.description(),
                vbCritical, "Error");
     }
 }

@@ -12,7 +12,8 @@ StatusMessages statusMessages(const QString &programTitle) {
                   " appropriate option button and then press 'Save...'";
     messages[4] = "Checking data...";
     messages[5] = "Mark the required item in list and press 'Select' or double-click the item.";
-    messages[6] = "Design Values - Enter 'Design Temperature' in box above grid, values calculated automatically.";
+    messages[6] =
+        "Design Values - Enter 'Design Temperature' in box above grid, values calculated automatically.";
     messages[7] = "About " + programTitle;
     messages[8] = "Enlarged Chart - Press 'Return to Material'(Opened folder symbol) or 'X' to return.";
     messages[9] = "Select 'File Format' then press 'Save...'";

@@ -11,8 +11,8 @@ namespace WindowArrangement {
 /// Each window 300 lower than the one before, centred, and in front of it. `placed` is called for each.
 void cascade(int mainWidth, const std::function<void(Form &)> &placed);
 
-/// Two rows, centred for windows 11280 wide; `materials` is the number of selected materials. The first window
-/// ends in front.
+/// Two rows, centred for windows 11280 wide; `materials` is the number of selected materials. The first
+/// window ends in front.
 void tileHorizontal(int mainWidth, int materials, const std::function<void(Form &)> &placed);
 
 } // namespace WindowArrangement
