@@ -6,11 +6,20 @@
 
 #include <QStringList>
 #include <QVariant>
+#include <QVector>
 
 #include "platform/dao/field_type.h"
 
 /// One row, in the order of the table's definition. The sink is called for each row in the order of the file.
 using RowSink = std::function<void(const QVector<QVariant> &row)>;
+
+/// A column and the value that a row must hold in it: an integer for a Byte, Integer or Long column, a text
+/// for a Text column, where capitals do not count (QString::compare). Null meets no condition. Names of
+/// columns are not case sensitive.
+struct ColumnCondition {
+    QString column;
+    QVariant value;
+};
 
 /// Raises 3343 when the file turns out to be damaged, whatever it is asked.
 class TableSource {
@@ -23,6 +32,8 @@ public:
     /// Rows that the file says the table has: an estimate, good enough to choose a way of reading.
     virtual qint64 rowCount(const QString &table) = 0;
     virtual void readAll(const QString &table, const RowSink &sink) = 0;
-    /// The rows whose integer column `column` holds `key`.
-    virtual void readKey(const QString &table, const QString &column, int key, const RowSink &sink) = 0;
+    /// The rows that meet every one of `conditions`, in the order of the file. Raises 3265 for an unknown
+    /// column, 3421 for a column of another type or a value that is not of the column's kind.
+    virtual void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
+                              const RowSink &sink) = 0;
 };
