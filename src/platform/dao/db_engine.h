@@ -13,8 +13,8 @@ class DBEngine {
 public:
     static DBEngine &instance();
 
-    /// Tells the file by its content: an Access file (97 to 2007) or an SQLite file with the same tables. A file
-    /// that is open in this engine opens again, with or without its password, on the same rows.
+    /// Tells the file by its content: an Access file (97 to 2007) or an SQLite file with the same tables. A
+    /// file that is open in this engine opens again, with or without its password, on the same rows.
     ///
     /// `connect` is ";Pwd=..." or "Access 2000;". Raises 3024 (no such file), 3044 (no such folder), 3343 (no
     /// database, or a damaged one), 3031 (wrong password), 3356 (held exclusively by another run).

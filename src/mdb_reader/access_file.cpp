@@ -1,0 +1,126 @@
+#include "mdb_reader/access_file.h"
+
+#include <fcntl.h>
+#include <memory>
+#include <unistd.h>
+
+#include "mdb_reader/bytes.h"
+#include "mdb_reader/damaged.h"
+
+using MdbProtocol::CellType;
+
+namespace {
+
+CellType cellType(int storedType) {
+    switch (storedType) {
+    case MDB_BOOL:
+        return CellType::Boolean;
+    case MDB_BYTE:
+        return CellType::Byte;
+    case MDB_INT:
+        return CellType::Integer;
+    case MDB_LONGINT:
+        return CellType::Long;
+    case MDB_MONEY:
+        return CellType::Currency;
+    case MDB_FLOAT:
+        return CellType::Single;
+    case MDB_DOUBLE:
+    case MDB_NUMERIC:
+        return CellType::Double;
+    case MDB_DATETIME:
+        return CellType::Date;
+    case MDB_TEXT:
+        return CellType::Text;
+    default:
+        return CellType::Memo;
+    }
+}
+
+Column readColumn(const MdbColumn &stored, bool jet3) {
+    Column column;
+    column.name = stored.name;
+    column.type = cellType(stored.col_type);
+    column.storedType = stored.col_type;
+    column.storedSize = static_cast<unsigned>(stored.col_size);
+    if (column.type == CellType::Text) column.size = jet3 ? column.storedSize : column.storedSize / 2;
+    column.scale = stored.col_scale;
+    column.number = static_cast<unsigned>(stored.col_num);
+    column.fixed = stored.is_fixed != 0;
+    column.fixedOffset = static_cast<unsigned>(stored.fixed_offset);
+    column.variableIndex = stored.var_col_num;
+    return column;
+}
+
+Table readTable(MdbCatalogEntry *entry, bool jet3) {
+    const std::unique_ptr<MdbTableDef, void (*)(MdbTableDef *)> stored(mdb_read_table(entry),
+                                                                       mdb_free_tabledef);
+    if (!stored || !mdb_read_columns(stored.get())) throw Damaged("unreadable table definition");
+    Table table;
+    table.name = entry->object_name;
+    table.rows = stored->num_rows;
+    table.definitionPage = static_cast<std::uint32_t>(entry->table_pg);
+    table.hasVariablePart = stored->num_var_cols > 0;
+    table.usageMap.assign(stored->usage_map, stored->usage_map + stored->map_sz);
+    for (guint i = 0; i < stored->columns->len; ++i)
+        table.columns.push_back(
+            readColumn(*static_cast<const MdbColumn *>(g_ptr_array_index(stored->columns, i)), jet3));
+    return table;
+}
+
+/// Adds the pages whose bits are set in `bits`; the first bit stands for `first`.
+void addPages(std::vector<std::uint32_t> &owned, const std::uint8_t *bits, std::size_t size,
+              std::uint64_t first, std::uint32_t pagesOfFile) {
+    for (std::size_t i = 0; i < size; ++i) {
+        for (unsigned bit = 0; bits[i] >> bit != 0; ++bit) {
+            if ((bits[i] >> bit & 1) == 0) continue;
+            const std::uint64_t page = first + i * 8 + bit;
+            if (page >= pagesOfFile) throw Damaged("page beyond the end of the file");
+            owned.push_back(static_cast<std::uint32_t>(page));
+        }
+    }
+}
+
+} // namespace
+
+AccessFile::AccessFile(const char *path)
+    : m_file(open(path, O_RDONLY | O_CLOEXEC)) {
+    m_handle = m_file >= 0 ? mdb_open(path, MDB_NOFLAGS) : nullptr;
+    if (!m_handle) throw Damaged("not an Access file");
+    m_jet3 = IS_JET3(m_handle);
+    readCatalog();
+}
+
+AccessFile::~AccessFile() {
+    if (m_handle) mdb_close(m_handle);
+    if (m_file >= 0) close(m_file);
+}
+
+void AccessFile::readCatalog() {
+    const GPtrArray *entries = mdb_read_catalog(m_handle, MDB_TABLE);
+    if (!entries) throw Damaged("unreadable catalog");
+    for (guint i = 0; i < entries->len; ++i) {
+        auto *entry = static_cast<MdbCatalogEntry *>(g_ptr_array_index(entries, i));
+        if (mdb_is_user_table(entry)) m_tables.push_back(readTable(entry, m_jet3));
+    }
+}
+
+std::vector<std::uint32_t> AccessFile::pagesOf(const Table &table) const {
+    const std::vector<std::uint8_t> &map = table.usageMap;
+    const int kind = map.empty() ? -1 : map[0];
+    Pages mapPages = pages();
+    std::vector<std::uint32_t> owned;
+    if (kind == 0 && map.size() >= 5) {
+        addPages(owned, map.data() + 5, map.size() - 5, bytes::u32(map.data() + 1), mapPages.count());
+    } else if (kind == 1) {
+        const std::size_t bytesOfPage = mapPages.pageSize() - 4;
+        for (std::size_t i = 0; 1 + 4 * i + 4 <= map.size(); ++i) {
+            const std::uint32_t mapPage = bytes::u32(map.data() + 1 + 4 * i);
+            if (mapPage != 0)
+                addPages(owned, mapPages.at(mapPage) + 4, bytesOfPage, i * bytesOfPage * 8, mapPages.count());
+        }
+    } else {
+        throw Damaged("unknown kind of usage map");
+    }
+    return owned;
+}

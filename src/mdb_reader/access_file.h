@@ -1,0 +1,63 @@
+// An open Access file: its tables, their columns, and the pages that belong to a table.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "mdb_reader/pages.h"
+#include "platform/dao/mdb_protocol.h"
+
+struct Column {
+    std::string name; // UTF-8
+    MdbProtocol::CellType type = MdbProtocol::CellType::Memo;
+    /// Characters of a Text.
+    unsigned size = 0;
+    /// As libmdb numbers the types; one that has no CellType reads as Null.
+    int storedType = 0;
+    unsigned storedSize = 0;
+    /// Digits behind the decimal sign of an MDB_NUMERIC.
+    int scale = 0;
+    /// The bit in a row's null mask.
+    unsigned number = 0;
+    bool fixed = false;
+    unsigned fixedOffset = 0;
+    unsigned variableIndex = 0;
+};
+
+struct Table {
+    std::string name; // UTF-8
+    std::uint32_t rows = 0;
+    std::uint32_t definitionPage = 0;
+    /// Whether its rows have a section of variable length.
+    bool hasVariablePart = false;
+    std::vector<Column> columns;
+    /// Libmdb's copy of the map of the pages that belong to the table.
+    std::vector<std::uint8_t> usageMap;
+};
+
+class AccessFile {
+public:
+    /// Reads the catalog. Raises Damaged for what is no Access file.
+    explicit AccessFile(const char *path);
+    ~AccessFile();
+    AccessFile(const AccessFile &) = delete;
+    AccessFile &operator=(const AccessFile &) = delete;
+
+    MdbHandle *handle() const { return m_handle; }
+    bool isJet3() const { return m_jet3; }
+    const std::vector<Table> &tables() const { return m_tables; }
+
+    /// A reader of its own: what it has read ahead, no other one sees.
+    Pages pages() const { return Pages(m_handle, m_file); }
+    /// The pages that the table's map lists, in the order of the file.
+    std::vector<std::uint32_t> pagesOf(const Table &table) const;
+
+private:
+    void readCatalog();
+
+    MdbHandle *m_handle = nullptr;
+    int m_file = -1;
+    bool m_jet3 = false;
+    std::vector<Table> m_tables;
+};

@@ -1,0 +1,19 @@
+// Numbers in the byte order of the file, from any address.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+namespace bytes {
+
+inline std::uint16_t u16(const std::uint8_t *at) {
+    return static_cast<std::uint16_t>(at[0] | at[1] << 8);
+}
+inline std::uint32_t u32(const std::uint8_t *at) {
+    return u16(at) | static_cast<std::uint32_t>(u16(at + 2)) << 16;
+}
+inline std::uint64_t u64(const std::uint8_t *at) {
+    return u32(at) | static_cast<std::uint64_t>(u32(at + 4)) << 32;
+}
+
+} // namespace bytes

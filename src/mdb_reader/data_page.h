@@ -1,0 +1,36 @@
+// A page of rows, or of pieces of long values.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+/// What a slot of the page points at.
+struct Slot {
+    const std::uint8_t *data = nullptr;
+    std::size_t size = 0;
+    /// Deleted, or the new place of a moved row, which is read by way of its old one.
+    bool hidden = false;
+    /// The row has moved: here stands only where to.
+    bool moved = false;
+};
+
+class DataPage {
+public:
+    /// The owner of the pages of long values, which belong to no table.
+    static constexpr std::uint32_t LongValues = 0x4c41564c; // "LVAL"
+
+    /// Raises Damaged where the slots do not fit in the page.
+    DataPage(const std::uint8_t *bytes, std::size_t size, bool jet3);
+
+    /// Whether it is a page of the table with this definition page.
+    bool belongsTo(std::uint32_t owner) const;
+    std::size_t slots() const { return m_slots; }
+    /// Raises Damaged for a slot that is none, or that points outside the page.
+    Slot slot(std::size_t index) const;
+
+private:
+    const std::uint8_t *m_bytes;
+    std::size_t m_size;
+    std::size_t m_slotTable;
+    std::size_t m_slots = 0;
+};

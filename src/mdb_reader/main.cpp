@@ -1,0 +1,72 @@
+// mdb_reader FILE: hands over the tables of an Access file. Requests come on the standard input, answers go
+// to the standard output, both in the form of platform/dao/mdb_protocol.h. It ends with its input.
+#include <cstdlib>
+#include <memory>
+#include <new>
+
+#include <unistd.h>
+
+#include "mdb_reader/access_file.h"
+#include "mdb_reader/damaged.h"
+#include "mdb_reader/limits.h"
+#include "mdb_reader/reply.h"
+#include "mdb_reader/request.h"
+#include "mdb_reader/table_search.h"
+
+namespace {
+
+/// Libmdb prints to the standard output now and then, which must not reach the answers.
+int takeStandardOutput() {
+    const int answers = dup(STDOUT_FILENO);
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+    return answers;
+}
+
+void sendCatalog(const AccessFile &file, Reply &reply) {
+    reply.number(static_cast<std::uint16_t>(file.tables().size()));
+    for (const Table &table : file.tables()) {
+        reply.name(table.name);
+        reply.number(table.rows);
+        reply.number(static_cast<std::uint16_t>(table.columns.size()));
+        for (const Column &column : table.columns) {
+            reply.name(column.name);
+            reply.number(column.type);
+            reply.number(static_cast<std::uint16_t>(column.size));
+        }
+    }
+    reply.send(MdbProtocol::Reply::Catalog);
+}
+
+void answerRequests(const AccessFile &file, Reply &reply) {
+    std::vector<std::unique_ptr<TableSearch>> searches(file.tables().size());
+    while (const std::optional<Request> request = readRequest(STDIN_FILENO, file)) {
+        limits::allowProcessorTime();
+        try {
+            std::unique_ptr<TableSearch> &search = searches[request->table];
+            if (!search) search = std::make_unique<TableSearch>(file, file.tables()[request->table]);
+            search->run(request->conditions, reply);
+        } catch (const Damaged &damage) {
+            reply.fail(damage.what());
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    if (argc != 2) return EXIT_FAILURE;
+    limits::set();
+    Reply reply(takeStandardOutput());
+    try {
+        const AccessFile file(argv[1]);
+        sendCatalog(file, reply);
+        answerRequests(file, reply);
+    } catch (const Damaged &damage) {
+        reply.fail(damage.what());
+        return EXIT_FAILURE;
+    } catch (const std::bad_alloc &) {
+        reply.fail("out of memory");
+        return EXIT_FAILURE;
+    }
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,79 @@
+#include "mdb_reader/reply.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include <unistd.h>
+
+#include "mdb_reader/damaged.h"
+#include "mdb_reader/limits.h"
+
+namespace {
+
+constexpr std::size_t GoodFrame = 64 * 1024;
+constexpr std::chrono::milliseconds SignOfLife(500);
+
+void writeAll(int file, const void *data, std::size_t size) {
+    const char *at = static_cast<const char *>(data);
+    while (size > 0) {
+        const ssize_t written = write(file, at, size);
+        if (written <= 0) std::_Exit(EXIT_FAILURE);
+        at += written;
+        size -= static_cast<std::size_t>(written);
+    }
+}
+
+} // namespace
+
+void Reply::name(std::string_view utf8) {
+    number(static_cast<std::uint16_t>(utf8.size()));
+    m_content.insert(m_content.end(), utf8.begin(), utf8.end());
+}
+
+void Reply::text(const std::u16string &text) {
+    number(static_cast<std::uint32_t>(text.size()));
+    const auto *at = reinterpret_cast<const std::uint8_t *>(text.data());
+    m_content.insert(m_content.end(), at, at + text.size() * sizeof(char16_t));
+}
+
+std::size_t Reply::zeros(std::size_t size) {
+    const std::size_t place = m_content.size();
+    m_content.resize(place + size);
+    return place;
+}
+
+void Reply::setBit(std::size_t place, std::size_t bit) {
+    m_content[place + bit / 8] = static_cast<std::uint8_t>(m_content[place + bit / 8] | 1u << bit % 8);
+}
+
+void Reply::send(MdbProtocol::Reply kind) {
+    std::uint8_t head[5];
+    const auto length = static_cast<std::uint32_t>(m_content.size() + 1);
+    std::copy_n(reinterpret_cast<const std::uint8_t *>(&length), 4, head);
+    head[4] = static_cast<std::uint8_t>(kind);
+    writeAll(m_file, head, sizeof head);
+    writeAll(m_file, m_content.data(), m_content.size());
+    m_content.clear();
+    m_sent = Clock::now();
+    limits::allowProcessorTime();
+}
+
+void Reply::endRow() {
+    if (m_content.size() >= MdbProtocol::LongestFrame) throw Damaged("row of absurd size");
+    if (m_content.size() >= GoodFrame) send(MdbProtocol::Reply::Rows);
+}
+
+void Reply::endRows() {
+    if (!m_content.empty()) send(MdbProtocol::Reply::Rows);
+    send(MdbProtocol::Reply::End);
+}
+
+void Reply::stillBusy() {
+    if (Clock::now() - m_sent < SignOfLife) return;
+    send(m_content.empty() ? MdbProtocol::Reply::Busy : MdbProtocol::Reply::Rows);
+}
+
+void Reply::fail(std::string_view reason) {
+    m_content.assign(reason.begin(), reason.end());
+    send(MdbProtocol::Reply::Failure);
+}

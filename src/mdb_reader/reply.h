@@ -1,0 +1,46 @@
+// What is on its way to the main program.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/dao/mdb_protocol.h"
+
+/// Collects values in a frame and sends it when it is worth it. Ends the process where nobody reads any more.
+class Reply {
+public:
+    explicit Reply(int file)
+        : m_file(file) {}
+
+    template <typename Number>
+    void number(Number value) {
+        const auto *at = reinterpret_cast<const std::uint8_t *>(&value);
+        m_content.insert(m_content.end(), at, at + sizeof value);
+    }
+    void name(std::string_view utf8);
+    void text(const std::u16string &text);
+    /// Room for `size` bytes of zero; gives their place for setBit().
+    std::size_t zeros(std::size_t size);
+    void setBit(std::size_t place, std::size_t bit);
+
+    /// Sends what was collected as one frame of this kind.
+    void send(MdbProtocol::Reply kind);
+    /// A row is complete: sends the rows where they fill a frame. Raises Damaged for a row beyond any frame.
+    void endRow();
+    /// The last row, if any, is complete.
+    void endRows();
+    /// To be called now and then on a long search, so that the other end sees that it goes on.
+    void stillBusy();
+    /// Drops what was collected.
+    void fail(std::string_view reason);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    int m_file;
+    std::vector<std::uint8_t> m_content;
+    Clock::time_point m_sent = Clock::now();
+};

@@ -1,0 +1,29 @@
+// Stored rows to the rows of an answer.
+#pragma once
+
+#include <string>
+
+#include "mdb_reader/access_file.h"
+#include "mdb_reader/cell_text.h"
+#include "mdb_reader/long_values.h"
+#include "mdb_reader/reply.h"
+#include "mdb_reader/row.h"
+
+class RowWriter {
+public:
+    RowWriter(const AccessFile &file, const Table &table);
+
+    /// A new answer begins.
+    void restart() { m_longValues.restart(); }
+    /// Raises Damaged.
+    void write(const Row &row, Reply &reply);
+
+private:
+    /// False for a Null, which has no value to write.
+    bool writeCell(const Column &column, const Row &row, Reply &reply);
+
+    const Table &m_table;
+    CellText m_texts;
+    LongValues m_longValues;
+    std::u16string m_text;
+};

@@ -1,0 +1,177 @@
+#include "mdb_reader/table_search.h"
+
+#include <algorithm>
+
+#include "mdb_reader/bytes.h"
+#include "mdb_reader/damaged.h"
+#include "mdb_reader/data_page.h"
+
+namespace {
+
+constexpr std::uint64_t AllGroups = ~std::uint64_t(0);
+constexpr int MostMoves = 16;
+
+class KeyHash {
+public:
+    void add(std::uint64_t value) { m_hash = (m_hash ^ value) * 0x100000001b3u; }
+    std::uint64_t group() const { return std::uint64_t(1) << (m_hash * 0x9e3779b97f4a7c15u >> 58); }
+
+private:
+    std::uint64_t m_hash = 0xcbf29ce484222325u;
+};
+
+bool isAscii(char16_t unit) {
+    return unit < 0x80;
+}
+
+char16_t folded(char16_t unit) {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+}
+
+/// False where the text has characters whose other capitals are not known here.
+bool addText(KeyHash &hash, const std::u16string &text) {
+    bool known = true;
+    for (const char16_t unit : text) {
+        known = known && isAscii(unit);
+        hash.add(folded(unit));
+    }
+    hash.add(text.size());
+    return known;
+}
+
+bool mayBeEqual(const std::u16string &a, const std::u16string &b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char16_t x, char16_t y) {
+        return !isAscii(x) || !isAscii(y) || folded(x) == folded(y);
+    });
+}
+
+std::int32_t integerOf(const Column &column, const CellBytes &cell) {
+    if (cell.size < column.storedSize) throw Damaged("number cut off");
+    switch (column.type) {
+    case MdbProtocol::CellType::Byte:
+        return cell.data[0];
+    case MdbProtocol::CellType::Integer:
+        return static_cast<std::int16_t>(bytes::u16(cell.data));
+    default:
+        return static_cast<std::int32_t>(bytes::u32(cell.data));
+    }
+}
+
+} // namespace
+
+TableSearch::TableSearch(const AccessFile &file, const Table &table)
+    : m_table(table)
+    , m_jet3(file.isJet3())
+    , m_texts(file.handle(), file.isJet3())
+    , m_pages(file.pages())
+    , m_movedRows(file.pages())
+    , m_writer(file, table)
+    , m_owned(file.pagesOf(table)) {}
+
+void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
+    m_writer.restart();
+    m_lastKey.clear();
+    PageGroups &groups = groupsBy(conditions);
+    KeyHash key;
+    bool known = true;
+    for (const Condition &condition : conditions) {
+        if (condition.isText)
+            known = addText(key, condition.text) && known;
+        else
+            key.add(static_cast<std::uint32_t>(condition.integer));
+    }
+    const Groups wanted = known ? key.group() : AllGroups;
+
+    for (std::size_t i = 0; i < m_owned.size(); ++i) {
+        if (i < groups.ofPage.size()) {
+            if ((groups.ofPage[i] & wanted) != 0) searchPage(m_owned[i], conditions, reply);
+        } else {
+            groups.ofPage.push_back(searchPage(m_owned[i], conditions, reply));
+        }
+        if (i % 64 == 0) reply.stillBusy();
+    }
+    reply.endRows();
+}
+
+TableSearch::PageGroups &TableSearch::groupsBy(const std::vector<Condition> &conditions) {
+    std::vector<std::size_t> columns;
+    for (const Condition &condition : conditions)
+        columns.push_back(condition.column);
+    const auto known = std::find_if(m_groups.begin(), m_groups.end(),
+                                    [&](const PageGroups &groups) { return groups.columns == columns; });
+    if (known != m_groups.end()) return *known;
+    m_groups.push_back({std::move(columns), {}});
+    return m_groups.back();
+}
+
+TableSearch::Groups TableSearch::searchPage(std::uint32_t number, const std::vector<Condition> &conditions,
+                                            Reply &reply) {
+    const DataPage page(m_pages.at(number), m_pages.pageSize(), m_jet3);
+    // A map sometimes lists a page that has gone to another table.
+    if (!page.belongsTo(m_table.definitionPage)) return 0;
+    Groups groups = 0;
+    for (std::size_t i = 0; i < page.slots(); ++i) {
+        const Slot slot = page.slot(i);
+        if (slot.hidden || slot.size == 0) continue;
+        if (slot.moved && slot.size < 4) throw Damaged("moved row without a place");
+        const Row row =
+            slot.moved ? follow(bytes::u32(slot.data)) : Row(slot.data, slot.size, m_table, m_jet3);
+        const Match found = match(row, conditions);
+        groups |= found.groups;
+        if (found.found) m_writer.write(row, reply);
+    }
+    return groups;
+}
+
+Row TableSearch::follow(std::uint32_t place) {
+    for (int moves = 0; moves < MostMoves; ++moves) {
+        const DataPage page(m_movedRows.at(place >> 8), m_movedRows.pageSize(), m_jet3);
+        if (!page.belongsTo(m_table.definitionPage)) throw Damaged("row moved out of its table");
+        const Slot slot = page.slot(place & 0xff);
+        if (!slot.moved) return Row(slot.data, slot.size, m_table, m_jet3);
+        if (slot.size < 4) throw Damaged("moved row without a place");
+        place = bytes::u32(slot.data);
+    }
+    throw Damaged("row that moves in a circle");
+}
+
+TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
+    if (conditions.empty()) return {true, AllGroups};
+    m_cells.clear();
+    m_key.clear();
+    for (const Condition &condition : conditions) {
+        const Column &column = m_table.columns[condition.column];
+        const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
+        if (!cell.data) return {false, 0}; // Null
+        m_cells.push_back(cell);
+        m_key.push_back(static_cast<std::uint8_t>(cell.size));
+        m_key.push_back(static_cast<std::uint8_t>(cell.size >> 8));
+        m_key.insert(m_key.end(), cell.data, cell.data + cell.size);
+    }
+    // Rows of one key mostly follow one another.
+    if (m_key != m_lastKey) {
+        m_lastMatch = compare(m_cells, conditions);
+        m_lastKey.swap(m_key);
+    }
+    return m_lastMatch;
+}
+
+TableSearch::Match TableSearch::compare(const std::vector<CellBytes> &cells,
+                                        const std::vector<Condition> &conditions) {
+    Match result;
+    KeyHash key;
+    bool known = true;
+    for (std::size_t i = 0; i < conditions.size(); ++i) {
+        if (conditions[i].isText) {
+            m_texts.decode(cells[i].data, cells[i].size, m_text);
+            known = addText(key, m_text) && known;
+            result.found = result.found && mayBeEqual(m_text, conditions[i].text);
+        } else {
+            const std::int32_t value = integerOf(m_table.columns[conditions[i].column], cells[i]);
+            key.add(static_cast<std::uint32_t>(value));
+            result.found = result.found && value == conditions[i].integer;
+        }
+    }
+    result.groups = known ? key.group() : AllGroups;
+    return result;
+}

@@ -1,0 +1,68 @@
+// The rows of a table that meet conditions.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "mdb_reader/access_file.h"
+#include "mdb_reader/cell_text.h"
+#include "mdb_reader/reply.h"
+#include "mdb_reader/row.h"
+#include "mdb_reader/row_writer.h"
+
+/// A column, by its position, and what it must hold.
+struct Condition {
+    std::size_t column = 0;
+    bool isText = false;
+    std::int32_t integer = 0;
+    std::u16string text;
+};
+
+/// Texts are compared without regard to ASCII capitals, and any other character counts as equal to any: the
+/// main program, which knows all capitals, looks again.
+///
+/// There are no indexes to use, so the first search by some columns notes for every page which of 64 groups
+/// of keys its rows belong to, and later ones leave out the pages that cannot hold theirs: rows of one key
+/// mostly lie together.
+class TableSearch {
+public:
+    TableSearch(const AccessFile &file, const Table &table);
+
+    /// Sends every matching row, in the order of the file, and the end. Raises Damaged.
+    void run(const std::vector<Condition> &conditions, Reply &reply);
+
+private:
+    using Groups = std::uint64_t; // one bit for each group
+    struct PageGroups {
+        std::vector<std::size_t> columns;
+        std::vector<Groups> ofPage;
+    };
+    struct Match {
+        bool found = true;
+        Groups groups = 0;
+    };
+
+    PageGroups &groupsBy(const std::vector<Condition> &conditions);
+    /// Sends the page's matching rows. Gives the groups of all of them.
+    Groups searchPage(std::uint32_t page, const std::vector<Condition> &conditions, Reply &reply);
+    /// Where the row really lies.
+    Row follow(std::uint32_t place);
+    Match match(const Row &row, const std::vector<Condition> &conditions);
+    Match compare(const std::vector<CellBytes> &cells, const std::vector<Condition> &conditions);
+
+    const Table &m_table;
+    bool m_jet3;
+    CellText m_texts;
+    Pages m_pages;
+    Pages m_movedRows;
+    RowWriter m_writer;
+    std::vector<std::uint32_t> m_owned;
+    std::vector<PageGroups> m_groups;
+    std::vector<CellBytes> m_cells;
+    std::vector<std::uint8_t> m_key; // the stored bytes of the cells that are compared
+    std::vector<std::uint8_t> m_lastKey;
+    Match m_lastMatch;
+    std::u16string m_text;
+};

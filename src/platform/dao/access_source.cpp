@@ -1,0 +1,242 @@
+#include "platform/dao/access_source.h"
+
+#include <algorithm>
+#include <limits>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include "platform/dao/date_serial.h"
+#include "platform/dao/frame_reader.h"
+#include "platform/dao/mdb_protocol.h"
+#include "platform/runtime/app.h"
+#include "platform/runtime/runtime_error.h"
+
+using MdbProtocol::CellType;
+using MdbProtocol::Reply;
+using MdbProtocol::ValueKind;
+
+namespace {
+
+constexpr qsizetype PieceOfFrame = 1 << 20;
+
+FieldType fieldType(CellType type) {
+    switch (type) {
+    case CellType::Boolean:
+        return FieldType::Boolean;
+    case CellType::Byte:
+        return FieldType::Byte;
+    case CellType::Integer:
+        return FieldType::Integer;
+    case CellType::Long:
+        return FieldType::Long;
+    case CellType::Currency:
+        return FieldType::Currency;
+    case CellType::Single:
+        return FieldType::Single;
+    case CellType::Double:
+        return FieldType::Double;
+    case CellType::Date:
+        return FieldType::Date;
+    case CellType::Text:
+        return FieldType::Text;
+    case CellType::Memo:
+        return FieldType::Memo;
+    }
+    throw MalformedFrame();
+}
+
+QVariant readCell(FrameReader &frame, FieldType type) {
+    switch (type) {
+    case FieldType::Boolean:
+        return frame.number<quint8>() != 0;
+    case FieldType::Byte:
+        return int(frame.number<quint8>());
+    case FieldType::Integer:
+        return int(frame.number<qint16>());
+    case FieldType::Long:
+        return int(frame.number<qint32>());
+    case FieldType::Currency:
+        return double(frame.number<qint64>()) / 10000;
+    case FieldType::Single:
+        return frame.number<float>();
+    case FieldType::Double:
+        return frame.number<double>();
+    case FieldType::Date: {
+        const std::optional<QDateTime> moment = fromDateSerial(frame.number<double>());
+        if (!moment) throw MalformedFrame();
+        return *moment;
+    }
+    case FieldType::Text:
+    case FieldType::Memo:
+        return frame.text();
+    }
+    throw MalformedFrame();
+}
+
+/// Rows until the end of the frame.
+void readRows(FrameReader &frame, const FieldDefinitions &fields, const RowSink &sink) {
+    QVector<QVariant> row(fields.size());
+    while (!frame.atEnd()) {
+        const char *nulls = frame.take((fields.size() + 7) / 8);
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            row[i] = (nulls[i / 8] >> i % 8 & 1) != 0 ? QVariant() : readCell(frame, fields[i].type);
+        sink(row);
+    }
+}
+
+template <typename Number>
+void append(QByteArray &request, Number value) {
+    request.append(reinterpret_cast<const char *>(&value), sizeof value);
+}
+
+QByteArray rowsRequest(qsizetype table, const QVector<BoundCondition> &conditions) {
+    QByteArray request;
+    append(request, MdbProtocol::Request::Rows);
+    append(request, static_cast<quint16>(table));
+    append(request, static_cast<quint16>(conditions.size()));
+    for (const BoundCondition &condition : conditions) {
+        append(request, static_cast<quint16>(condition.column));
+        append(request, condition.isText ? ValueKind::Text : ValueKind::Integer);
+        if (condition.isText) {
+            append(request, static_cast<quint32>(condition.text.size()));
+            request.append(reinterpret_cast<const char *>(condition.text.constData()),
+                           condition.text.size() * qsizetype(sizeof(QChar)));
+        } else {
+            append(request, condition.integer);
+        }
+    }
+    QByteArray framed;
+    append(framed, static_cast<quint32>(request.size()));
+    return framed + request;
+}
+
+} // namespace
+
+AccessSource::AccessSource(QString path, const QString &helper, int patience)
+    : m_path(std::move(path))
+    , m_helper(helper, {QFileInfo(m_path).absoluteFilePath()}, patience) {
+    m_tables = openHelper();
+}
+
+QString AccessSource::helperProgram() {
+    const QString name = QStringLiteral("mdb_reader");
+    QStringList candidates;
+    for (const QString &folder : {App::current().path, QCoreApplication::applicationDirPath()}) {
+        candidates << folder + "/" + name;
+        for (const char *place : {"/../lib/", "/../libexec/"})
+            candidates << folder + place + App::current().exeName + "/" + name;
+    }
+    for (const QString &candidate : candidates)
+        if (QFileInfo(candidate).isExecutable()) return candidate;
+    return candidates.first();
+}
+
+QStringList AccessSource::tableNames() {
+    QStringList names;
+    for (const Table &table : m_tables)
+        names << table.name;
+    return names;
+}
+
+FieldDefinitions AccessSource::fields(const QString &table) {
+    return m_tables[indexOf(table)].fields;
+}
+
+qint64 AccessSource::rowCount(const QString &table) {
+    return m_tables[indexOf(table)].rows;
+}
+
+void AccessSource::readAll(const QString &table, const RowSink &sink) {
+    read(indexOf(table), {}, sink);
+}
+
+void AccessSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
+                                const RowSink &sink) {
+    const qsizetype index = indexOf(table);
+    const std::optional<QVector<BoundCondition>> bound = bindConditions(m_tables[index].fields, conditions);
+    if (!bound) return;
+    read(index, *bound, [&](const QVector<QVariant> &row) {
+        if (meetsTexts(row, *bound)) sink(row);
+    });
+}
+
+qsizetype AccessSource::indexOf(const QString &table) const {
+    const auto found =
+        std::find_if(m_tables.begin(), m_tables.end(), [&](const Table &each) { return each.name == table; });
+    if (found == m_tables.end()) throw RuntimeError(3078);
+    return found - m_tables.begin();
+}
+
+void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
+    if (!m_helper.isRunning() && openHelper() != m_tables) raiseDamaged();
+    try {
+        if (!m_helper.send(rowsRequest(table, conditions))) raiseDamaged();
+        while (true) {
+            const Frame answer = receiveFrame();
+            FrameReader frame(answer.content);
+            if (answer.kind == Reply::Rows)
+                readRows(frame, m_tables[table].fields, sink);
+            else if (answer.kind == Reply::End)
+                return;
+            else if (answer.kind != Reply::Busy)
+                raiseDamaged();
+        }
+    } catch (const MalformedFrame &) {
+        m_helper.stop();
+        raiseDamaged();
+    } catch (...) {
+        // The rest of the answer would be taken for the next one's.
+        m_helper.stop();
+        throw;
+    }
+}
+
+QVector<AccessSource::Table> AccessSource::openHelper() {
+    if (!m_helper.start())
+        throw RuntimeError(53, RuntimeError::standardDescription(53) + ": '" + m_helper.program() + "'");
+    try {
+        const Frame answer = receiveFrame();
+        if (answer.kind != Reply::Catalog) raiseDamaged();
+        FrameReader frame(answer.content);
+        QVector<Table> tables(frame.number<quint16>());
+        for (Table &table : tables) {
+            table.name = frame.name();
+            table.rows = frame.number<quint32>();
+            table.fields.resize(frame.number<quint16>());
+            for (FieldDefinition &field : table.fields) {
+                field.name = frame.name();
+                field.type = fieldType(frame.number<CellType>());
+                field.size = frame.number<quint16>();
+            }
+        }
+        return tables;
+    } catch (const MalformedFrame &) {
+        m_helper.stop();
+        raiseDamaged();
+    } catch (...) {
+        m_helper.stop();
+        throw;
+    }
+}
+
+AccessSource::Frame AccessSource::receiveFrame() {
+    quint32 length = 0;
+    Frame frame;
+    if (!m_helper.receive(&length, sizeof length)) raiseDamaged();
+    if (length == 0 || length > MdbProtocol::LongestFrame) throw MalformedFrame();
+    if (!m_helper.receive(&frame.kind, sizeof frame.kind)) raiseDamaged();
+    --length;
+    while (frame.content.size() < qsizetype(length)) {
+        const qsizetype have = frame.content.size();
+        // A length is believed only as far as there are bytes.
+        const qsizetype piece = std::min(PieceOfFrame, qsizetype(length) - have);
+        frame.content.resize(have + piece);
+        if (!m_helper.receive(frame.content.data() + have, static_cast<std::size_t>(piece))) raiseDamaged();
+    }
+    return frame;
+}
+
+void AccessSource::raiseDamaged() const {
+    throw RuntimeError(3343, "Unrecognized database format '" + m_path + "'.");
+}

@@ -1,0 +1,57 @@
+// The tables of an Access file.
+#pragma once
+
+#include "platform/dao/bound_condition.h"
+#include "platform/dao/child_process.h"
+#include "platform/dao/mdb_protocol.h"
+#include "platform/dao/table_source.h"
+
+/// The file is read by a helper program in a process of its own: a damaged one can crash the library that
+/// knows the format, or make it spin. A helper that has gone between two requests is started again; one that
+/// goes, stays silent or talks nonsense while it answers is a damaged file, 3343. A sink must not call back
+/// into its source.
+class AccessSource : public TableSource {
+public:
+    static constexpr int Patience = 5000; // milliseconds of silence
+
+    /// Opens the file and reads its catalog. Raises 3343, or 53 where the helper program is missing.
+    explicit AccessSource(QString path, const QString &helper = helperProgram(), int patience = Patience);
+
+    /// `mdb_reader` beside the program, or where an installed program has its own: in ../lib or ../libexec,
+    /// in the folder of the program's name.
+    static QString helperProgram();
+
+    QStringList tableNames() override;
+    FieldDefinitions fields(const QString &table) override;
+    qint64 rowCount(const QString &table) override;
+    void readAll(const QString &table, const RowSink &sink) override;
+    void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
+                      const RowSink &sink) override;
+
+    /// The helper's process, -1 where none runs.
+    pid_t helperId() const { return m_helper.id(); }
+
+private:
+    struct Table {
+        QString name;
+        FieldDefinitions fields;
+        qint64 rows = 0;
+
+        bool operator==(const Table &other) const = default;
+    };
+    struct Frame {
+        MdbProtocol::Reply kind = MdbProtocol::Reply::Failure;
+        QByteArray content;
+    };
+
+    /// Starts the helper and takes the catalog from it.
+    QVector<Table> openHelper();
+    qsizetype indexOf(const QString &table) const;
+    void read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink);
+    Frame receiveFrame();
+    [[noreturn]] void raiseDamaged() const;
+
+    QString m_path;
+    ChildProcess m_helper;
+    QVector<Table> m_tables;
+};

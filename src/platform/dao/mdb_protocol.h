@@ -1,0 +1,58 @@
+// The words that pass between the main program and the program that reads Access files.
+//
+// Both directions carry frames: the length of what follows (32 bits), one byte of kind, the content. Numbers
+// are in the machine's own byte order: both ends run on one machine. A text is its number of UTF-16 units (32
+// bits) and the units; a name is its number of bytes (16 bits) and its UTF-8.
+#pragma once
+
+#include <cstdint>
+
+namespace MdbProtocol {
+
+enum class Request : std::uint8_t {
+    /// Table's position in the catalog (16 bits), number of conditions (16 bits), and for each one the
+    /// column's
+    /// position (16 bits), a ValueKind and the value: 32 bits or a text. No condition asks for all rows.
+    Rows = 1,
+};
+
+enum class Reply : std::uint8_t {
+    /// Sent once, unasked, as soon as the file is open. Number of tables (16 bits), and for each one its
+    /// name, its
+    /// rows (32 bits), the number of its columns (16 bits), and for each of these its name, a CellType and
+    /// its
+    /// size in characters (16 bits).
+    Catalog = 1,
+    /// Any number of whole rows. A row is one bit for each column, set where it is Null, in whole bytes from
+    /// the
+    /// lowest bit, and then the other columns' values.
+    Rows,
+    /// Nothing found for a while, still at it.
+    Busy,
+    /// The last row has been sent.
+    End,
+    /// What is wrong with the file, as UTF-8. It ends the answer.
+    Failure,
+};
+
+enum class ValueKind : std::uint8_t { Integer = 1, Text };
+
+/// Value's form: Boolean and Byte 8 bits, Integer 16, Long 32, Currency 64 (ten-thousandths), Single and
+/// Double IEEE, Date a Double of days since 1899-12-30, Text and Memo a text.
+enum class CellType : std::uint8_t {
+    Boolean,
+    Byte,
+    Integer,
+    Long,
+    Currency,
+    Single,
+    Double,
+    Date,
+    Text,
+    Memo
+};
+
+/// No frame is longer; one row fits in a frame.
+constexpr std::uint32_t LongestFrame = 128u << 20;
+
+} // namespace MdbProtocol
