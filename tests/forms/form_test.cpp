@@ -81,7 +81,7 @@ TEST_F(FormTest, PlaceAndSizeComeBackInTwips) {
         EXPECT_EQ(form->Width(), 11280);
         EXPECT_EQ(form->Height(), 5040);
         EXPECT_EQ(form->ScaleWidth(), 11280 - 90) << "a child and a window leave the same area inside";
-        EXPECT_EQ(form->ScaleHeight(), 5040 - 390);
+        EXPECT_EQ(form->ScaleHeight(), 5040 - 375);
     }
 }
 
