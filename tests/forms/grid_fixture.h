@@ -15,7 +15,8 @@
 /// Row 4 of field "name" holds "name 4", unless another value was put there. A criterion is a row's number.
 class MadeRows : public RecordsetRows {
 public:
-    explicit MadeRows(int count, const QStringList &names = {"name", "number", "date"}) : m_count(count) {
+    explicit MadeRows(int count, const QStringList &names = {"name", "number", "date"})
+        : m_count(count) {
         for (const QString &name : names)
             m_fields.append({name, FieldType::Text, 255});
     }

@@ -45,11 +45,10 @@ void GridFooter::paintEvent(QPaintEvent *) {
     const QStyle::State state = option.state;
 
     const QRect columns = m_headings->geometry();
-    option.rect = rect();
-    painter.drawControl(QStyle::CE_HeaderEmptyArea, option);
+    option.rect = rect().adjusted(0, 0, 1, 0);
+    painter.drawControl(QStyle::CE_HeaderSection, option);
     if (columns.left() > 0) {
         option.rect = QRect(0, 0, columns.left(), height());
-        option.section = -1;
         painter.drawControl(QStyle::CE_HeaderSection, option);
     }
     painter.setClipRect(QRect(columns.left(), 0, columns.width(), height()));

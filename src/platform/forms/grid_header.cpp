@@ -17,6 +17,8 @@ GridHeader::GridHeader(const GridModel &model, QWidget *parent)
     setSectionsClickable(true);
     setHighlightSections(false);
     setMinimumSectionSize(MinimumSection);
+    setResizeContentsPrecision(
+        0); // a column fitted to its texts by a double click reads the rows on the screen
     connect(this, &QHeaderView::sectionResized, this, &GridHeader::headingsChanged);
 }
 
@@ -30,6 +32,18 @@ QSize GridHeader::sizeHint() const {
 void GridHeader::headingsChanged() {
     viewport()->update();
     Q_EMIT geometriesChanged();
+}
+
+void GridHeader::paintEvent(QPaintEvent *event) {
+    QHeaderView::paintEvent(event);
+    const QRect beside = viewport()->rect().adjusted(length() - offset(), 0, 0, 0);
+    if (beside.width() <= 0) return;
+    // One bar up to the grid's edge, where styles would leave the place beside the last heading bare.
+    QPainter painter(viewport());
+    QStyleOptionHeader option;
+    initStyleOption(&option);
+    option.rect = beside.adjusted(0, 0, 1, 0);
+    style()->drawControl(QStyle::CE_HeaderSection, &option, &painter, this);
 }
 
 void GridHeader::paintSection(QPainter *painter, const QRect &rect, int index) const {

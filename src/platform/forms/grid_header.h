@@ -16,6 +16,7 @@ public:
     void headingsChanged();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int index) const override;
     QSize sectionSizeFromContents(int index) const override;
 

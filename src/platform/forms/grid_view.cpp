@@ -28,6 +28,7 @@ QString clipboardCell(const QString &text) {
 }
 
 constexpr int WidestDragPicture = 320;
+constexpr int CellPadding = 2;
 
 } // namespace
 
@@ -126,6 +127,12 @@ void GridView::mouseMoveEvent(QMouseEvent *event) {
     if (m_pressed.isValid() && farEnough) startCellDrag();
 }
 
+void GridView::mouseDoubleClickEvent(QMouseEvent *event) {
+    QTableView::mouseDoubleClickEvent(event);
+    // The base class tells of it only when the first click has left the rows as they were.
+    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) Q_EMIT rowDoubleClicked();
+}
+
 void GridView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
     QTableView::currentChanged(current, previous);
     viewport()->update(); // the mark of the current row spans cells that the base class leaves alone
@@ -179,7 +186,8 @@ int GridView::neededHeight(int row) const {
         if (isColumnHidden(column)) continue;
         option.rect = QRect(0, 0, columnWidth(column) - 1, height);
         const QModelIndex index = m_model.index(row, column);
-        height = qMax(height, itemDelegateForIndex(index)->sizeHint(option, index).height() + 1);
+        height =
+            qMax(height, itemDelegateForIndex(index)->sizeHint(option, index).height() + 2 * CellPadding);
     }
     return height;
 }

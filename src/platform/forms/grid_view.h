@@ -34,11 +34,13 @@ public:
 Q_SIGNALS:
     void enterPressed();
     void currentRowChanged(const QModelIndex &current);
+    void rowDoubleClicked();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void resizeEvent(QResizeEvent *event) override;
     void verticalScrollbarValueChanged(int value) override;

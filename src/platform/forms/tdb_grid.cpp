@@ -37,7 +37,13 @@ TDBGrid::TDBGrid(QWidget *parent)
     connect(new DropTarget(this), &DropTarget::Dropped, this, &TDBGrid::Dropped);
 }
 
-TDBGrid::~TDBGrid() = default;
+TDBGrid::~TDBGrid() {
+    // The view and its headings look into the model, and talk to this grid, to their end.
+    for (QObject *part : {static_cast<QObject *>(m_view), static_cast<QObject *>(m_header),
+                          static_cast<QObject *>(m_view->horizontalScrollBar())})
+        part->disconnect(this);
+    delete m_view;
+}
 
 QString TDBGrid::Caption() const {
     return m_caption->text();
@@ -209,7 +215,7 @@ void TDBGrid::connectView() {
     connect(m_header, &QHeaderView::sectionResized, this,
             [this](int column, int, int pixels) { userResized(column, pixels); });
     connect(m_footer, &GridFooter::clicked, this, &TDBGrid::FootClick);
-    connect(m_view, &QAbstractItemView::doubleClicked, this, &TDBGrid::DblClick);
+    connect(m_view, &GridView::rowDoubleClicked, this, &TDBGrid::DblClick);
     connect(m_view, &GridView::enterPressed, this, &TDBGrid::EnterPressed);
     connect(m_view, &GridView::currentRowChanged, this, &TDBGrid::moveRecordset);
     connect(m_model, &GridModel::columnChanged, this, [this](int index) { applyColumns(index, index); });
