@@ -70,6 +70,7 @@ TableSearch::TableSearch(const AccessFile &file, const Table &table)
 
 void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
     m_writer.restart();
+    m_lastKey.clear();
     PageGroups &groups = groupsBy(conditions);
     KeyHash key;
     bool known = true;
@@ -136,21 +137,39 @@ Row TableSearch::follow(std::uint32_t place) {
 
 TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
     if (conditions.empty()) return {true, AllGroups};
-    Match result;
-    KeyHash key;
-    bool known = true;
+    m_cells.clear();
+    m_key.clear();
     for (const Condition &condition : conditions) {
         const Column &column = m_table.columns[condition.column];
         const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
         if (!cell.data) return {false, 0}; // Null
-        if (condition.isText) {
-            m_texts.decode(cell.data, cell.size, m_text);
+        m_cells.push_back(cell);
+        m_key.push_back(static_cast<std::uint8_t>(cell.size));
+        m_key.push_back(static_cast<std::uint8_t>(cell.size >> 8));
+        m_key.insert(m_key.end(), cell.data, cell.data + cell.size);
+    }
+    // Rows of one key mostly follow one another.
+    if (m_key != m_lastKey) {
+        m_lastMatch = compare(m_cells, conditions);
+        m_lastKey.swap(m_key);
+    }
+    return m_lastMatch;
+}
+
+TableSearch::Match TableSearch::compare(const std::vector<CellBytes> &cells,
+                                        const std::vector<Condition> &conditions) {
+    Match result;
+    KeyHash key;
+    bool known = true;
+    for (std::size_t i = 0; i < conditions.size(); ++i) {
+        if (conditions[i].isText) {
+            m_texts.decode(cells[i].data, cells[i].size, m_text);
             known = addText(key, m_text) && known;
-            result.found = result.found && mayBeEqual(m_text, condition.text);
+            result.found = result.found && mayBeEqual(m_text, conditions[i].text);
         } else {
-            const std::int32_t value = integerOf(column, cell);
+            const std::int32_t value = integerOf(m_table.columns[conditions[i].column], cells[i]);
             key.add(static_cast<std::uint32_t>(value));
-            result.found = result.found && value == condition.integer;
+            result.found = result.found && value == conditions[i].integer;
         }
     }
     result.groups = known ? key.group() : AllGroups;

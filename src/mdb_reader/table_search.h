@@ -50,6 +50,7 @@ private:
     /// Where the row really lies.
     Row follow(std::uint32_t place);
     Match match(const Row &row, const std::vector<Condition> &conditions);
+    Match compare(const std::vector<CellBytes> &cells, const std::vector<Condition> &conditions);
 
     const Table &m_table;
     bool m_jet3;
@@ -59,5 +60,9 @@ private:
     RowWriter m_writer;
     std::vector<std::uint32_t> m_owned;
     std::vector<PageGroups> m_groups;
+    std::vector<CellBytes> m_cells;
+    std::vector<std::uint8_t> m_key; // the stored bytes of the cells that are compared
+    std::vector<std::uint8_t> m_lastKey;
+    Match m_lastMatch;
     std::u16string m_text;
 };

@@ -1,0 +1,55 @@
+// The tables of an SQLite file.
+#pragma once
+
+#include <memory>
+
+#include "platform/dao/bound_condition.h"
+#include "platform/dao/table_source.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// The file is never written and nothing is written beside it. The declared types give the columns' types,
+/// under any of their usual names: see declaredField(). A value that its declared type cannot hold is a damaged
+/// file, 3343: a text that is no number among numbers, a blob. A date is a text of the ISO form or a number
+/// of days since 1899-12-30.
+class SqliteSource : public TableSource {
+public:
+    /// Raises 3343 for what is no SQLite file, or a damaged one.
+    explicit SqliteSource(QString path);
+
+    static bool isSqliteFile(const QString &path);
+    /// "TEXT(80)", "varchar ( 20 )", "Yes/No", "LONG INTEGER", "datetime", ... An unknown type is a Text of
+    /// 255 characters.
+    static FieldDefinition declaredField(const QString &declaration);
+
+    QStringList tableNames() override;
+    FieldDefinitions fields(const QString &table) override;
+    qint64 rowCount(const QString &table) override;
+    void readAll(const QString &table, const RowSink &sink) override;
+    void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
+                      const RowSink &sink) override;
+
+private:
+    struct Closer {
+        void operator()(sqlite3 *database) const;
+        void operator()(sqlite3_stmt *statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, Closer>;
+    struct Table {
+        QString name;
+        FieldDefinitions fields;
+    };
+
+    void readCatalog();
+    const Table &find(const QString &table) const;
+    Statement prepare(const QString &sql) const;
+    /// False after the last row.
+    bool step(const Statement &statement) const;
+    void read(const Table &table, const QVector<BoundCondition> &conditions, const RowSink &sink) const;
+    [[noreturn]] void raiseDamaged() const;
+
+    QString m_path;
+    std::unique_ptr<sqlite3, Closer> m_database;
+    QVector<Table> m_tables;
+};
