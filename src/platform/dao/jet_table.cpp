@@ -1,0 +1,14 @@
+#include "platform/dao/jet_table.h"
+
+JetTable JetTable::whole(const QString &name, std::shared_ptr<MemoryTable> table) {
+    JetTable whole{name, table, table->fields(), {}};
+    for (int i = 0; i < whole.fields.size(); ++i)
+        whole.columns += i;
+    return whole;
+}
+
+int JetTable::fieldIndex(const QString &fieldName) const {
+    for (int i = 0; i < fields.size(); ++i)
+        if (fields[i].name.compare(fieldName, Qt::CaseInsensitive) == 0) return i;
+    return -1;
+}

@@ -1,0 +1,25 @@
+#include "platform/dao/table_rows.h"
+
+#include "platform/dao/jet_errors.h"
+#include "platform/dao/jet_parser.h"
+#include "platform/dao/jet_translator.h"
+
+TableRows::TableRows(JetTable table, std::vector<int> rows)
+    : m_table(std::move(table))
+    , m_rows(std::move(rows)) {}
+
+QVariant TableRows::value(int row, int column) const {
+    return m_table.table->cell(m_rows[static_cast<std::size_t>(row)], m_table.columns[column]);
+}
+
+int TableRows::find(const QString &criterion, int from, int step) const {
+    const JetExpression condition = JetParser::criterion(criterion);
+    JetTranslator translator(m_table, {});
+    const RowFilter filter = translator.filter(&condition);
+    if (!translator.unknownNames().isEmpty())
+        throw JetErrors::unknownCriterionName(translator.unknownNames().first());
+    const RowMarks marks = m_table.table->marks(filter);
+    for (int row = from; row >= 0 && row < count(); row += step)
+        if (marks[static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)])]) return row;
+    return -1;
+}

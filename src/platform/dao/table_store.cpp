@@ -1,0 +1,81 @@
+#include "platform/dao/table_store.h"
+
+#include "platform/dao/jet_errors.h"
+#include "platform/dao/memory_database.h"
+
+TableStore::TableStore(std::unique_ptr<TableSource> source, qint64 wholeTableLimit)
+    : m_source(std::move(source))
+    , m_wholeTableLimit(wholeTableLimit)
+    , m_database(std::make_shared<MemoryDatabase>()) {
+    for (const QString &name : m_source->tableNames()) {
+        m_indexOfName.insert(name.toCaseFolded(), static_cast<int>(m_tables.size()));
+        StoredTable stored;
+        stored.name = name;
+        m_tables.push_back(std::move(stored));
+    }
+}
+
+TableStore::~TableStore() = default;
+
+bool TableStore::contains(const QString &table) const {
+    return m_indexOfName.contains(table.toCaseFolded());
+}
+
+TableAccess TableStore::access(const JetSelect &select) {
+    const int index = m_indexOfName.value(select.table.toCaseFolded(), -1);
+    if (index < 0) throw JetErrors::unknownTable(select.table);
+    StoredTable &stored = m_tables[static_cast<std::size_t>(index)];
+    if (!stored.fields) stored.fields = m_source->fields(stored.name);
+    const QString name = select.alias.isEmpty() ? stored.name : select.alias;
+    const QByteArray number = QByteArray::number(index);
+
+    if (!stored.isLoaded && m_source->rowCount(stored.name) > m_wholeTableLimit) {
+        if (std::optional<KeyCondition> keys = keyCondition(select, *stored.fields)) {
+            KeyedTable &keyed = stored.byKey[keys->columns];
+            if (!keyed.table) {
+                const QByteArray sqlName = "k" + number + "_" + QByteArray::number(stored.byKey.size());
+                keyed.table = std::make_shared<MemoryTable>(m_database, sqlName, *stored.fields,
+                                                            MemoryTable::Kind::Growing);
+                keyed.table->setKey(keys->columns);
+            }
+            return {JetTable::whole(name, keyed.table), index, std::move(keys)};
+        }
+    }
+    if (!stored.whole)
+        stored.whole = std::make_shared<MemoryTable>(m_database, "w" + number, *stored.fields,
+                                                     MemoryTable::Kind::Complete);
+    return {JetTable::whole(name, stored.whole), index, std::nullopt};
+}
+
+void TableStore::load(const TableAccess &access) {
+    StoredTable &stored = m_tables[static_cast<std::size_t>(access.storedTable)];
+    if (access.keys) {
+        loadKey(stored, *access.keys);
+    } else if (!stored.isLoaded) {
+        stored.whole->load([&](const RowSink &sink) { m_source->readAll(stored.name, sink); });
+        stored.isLoaded = true;
+    }
+}
+
+void TableStore::loadKey(StoredTable &stored, const KeyCondition &keys) {
+    KeyedTable &keyed = stored.byKey.at(keys.columns);
+    for (const QVector<QVariant> &key : keys.keys) {
+        QString mark;
+        QVector<ColumnCondition> conditions;
+        for (int i = 0; i < key.size(); ++i) {
+            // The length keeps two texts from looking like two others.
+            const QString value = key[i].toString().toCaseFolded();
+            mark += QString::number(value.size()) + ':' + value;
+            conditions += {(*stored.fields)[keys.columns[i]].name, key[i]};
+        }
+        if (keyed.keys.contains(mark)) continue;
+        keyed.table->load(
+            [&](const RowSink &sink) { m_source->readMatching(stored.name, conditions, sink); });
+        keyed.keys.insert(mark);
+    }
+}
+
+std::shared_ptr<MemoryTable> TableStore::newResult(const FieldDefinitions &fields) {
+    const QByteArray name = "r" + QByteArray::number(++m_results);
+    return std::make_shared<MemoryTable>(m_database, name, fields, MemoryTable::Kind::Result);
+}

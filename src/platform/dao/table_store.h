@@ -1,0 +1,70 @@
+// The tables of one open file: rows come into memory when they are first needed.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <QHash>
+#include <QSet>
+
+#include "platform/dao/jet_syntax.h"
+#include "platform/dao/jet_table.h"
+#include "platform/dao/key_condition.h"
+#include "platform/dao/table_source.h"
+
+class MemoryDatabase;
+
+/// What one SELECT needs of a table: its rows in memory once load() has brought them.
+struct TableAccess {
+    JetTable table;
+    int storedTable;
+    /// Nothing for the whole table.
+    std::optional<KeyCondition> keys;
+};
+
+/// The rows in memory outlive the store as long as somebody holds a table; the file is let go with the store.
+class TableStore {
+public:
+    /// A table of more rows than this is read by key where a statement gives one.
+    static constexpr qint64 WholeTableLimit = 20000;
+
+    explicit TableStore(std::unique_ptr<TableSource> source, qint64 wholeTableLimit = WholeTableLimit);
+    ~TableStore();
+
+    /// Capitals do not count.
+    bool contains(const QString &table) const;
+
+    /// Raises 3078 for an unknown table.
+    TableAccess access(const JetSelect &select);
+    void load(const TableAccess &access);
+
+    /// A table for the rows of a result.
+    std::shared_ptr<MemoryTable> newResult(const FieldDefinitions &fields);
+    const std::shared_ptr<MemoryDatabase> &database() const { return m_database; }
+
+private:
+    struct KeyedTable {
+        std::shared_ptr<MemoryTable> table;
+        QSet<QString> keys;
+    };
+
+    struct StoredTable {
+        QString name;
+        std::optional<FieldDefinitions> fields;
+        std::shared_ptr<MemoryTable> whole;
+        bool isLoaded = false;
+        // By the columns of the key, so that no row comes twice into one of them.
+        std::map<QVector<int>, KeyedTable> byKey;
+    };
+
+    void loadKey(StoredTable &stored, const KeyCondition &keys);
+
+    std::unique_ptr<TableSource> m_source;
+    qint64 m_wholeTableLimit;
+    std::shared_ptr<MemoryDatabase> m_database;
+    std::vector<StoredTable> m_tables;
+    QHash<QString, int> m_indexOfName;
+    int m_results = 0;
+};
