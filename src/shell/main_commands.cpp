@@ -10,6 +10,7 @@
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
 #include "search/frmSearch.h"
+#include "shell/frmAbout.h"
 #include "shell/main_toolbar.h"
 #include "shell/mdiVelmar.h"
 
@@ -227,7 +228,13 @@ void MainCommands::window(int index) {
     m_window.iArrangement = static_cast<qint16>(index);
 }
 
-void MainCommands::help(int) {}
+void MainCommands::help(int index) {
+    if (index == 4) {
+        m_window.ShowStatus(107);
+        DefaultInstance<frmAbout>().ShowModal(&m_window);
+        m_window.ShowStatus(100);
+    }
+}
 
 void MainCommands::toolbarButton(ToolbarButton &button) {
     if (button.Value() == tbrUnpressed && button.Index() >= 9 && button.Index() <= 20 && !isDropDown(button))

@@ -77,6 +77,10 @@ void Form::setIcon(const QIcon &icon) {
     if (m_frame) m_frame->setWindowIcon(icon);
 }
 
+void Form::setDefaultButton(QAbstractButton *button) { m_defaultButton = button; }
+
+void Form::setCancelButton(QAbstractButton *button) { m_cancelButton = button; }
+
 void Form::showFrame() {
     if (isMdiChild() && MDIForm::current() != nullptr && !MDIForm::current()->Visible())
         MDIForm::current()->Show(); // a child cannot show without it

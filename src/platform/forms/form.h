@@ -38,8 +38,8 @@ public:
     void setIcon(const QIcon &icon);
 
     /// The buttons that Enter and Escape press when the control in use has no use for the key.
-    void setDefaultButton(QAbstractButton *button) { m_defaultButton = button; }
-    void setCancelButton(QAbstractButton *button) { m_cancelButton = button; }
+    void setDefaultButton(QAbstractButton *button);
+    void setCancelButton(QAbstractButton *button);
 
 protected:
     QWidget *frame() override;

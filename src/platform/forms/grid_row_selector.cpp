@@ -1,5 +1,6 @@
 #include "platform/forms/grid_row_selector.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOptionHeader>
 

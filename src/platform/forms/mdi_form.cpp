@@ -34,6 +34,7 @@ MDIForm::MDIForm(const QString &name)
 }
 
 MDIForm::~MDIForm() {
+    disconnect(m_area, nullptr, this, nullptr); // it tells of its children up to its own end
     if (theMainWindow == this) theMainWindow = nullptr;
 }
 

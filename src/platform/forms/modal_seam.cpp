@@ -1,5 +1,7 @@
 #include "platform/forms/modal_seam.h"
 
+#include <utility>
+
 #include "platform/forms/msg_box.h"
 #include "platform/runtime/runtime_error.h"
 
@@ -40,6 +42,13 @@ ModalSeam::~ModalSeam() {
 
 ModalSeam *ModalSeam::active() {
     return theSeam;
+}
+
+ModalSeam::Pause::Pause()
+    : m_paused(std::exchange(theSeam, nullptr)) {}
+
+ModalSeam::Pause::~Pause() {
+    theSeam = m_paused;
 }
 
 void ModalSeam::answerMsgBox(int result) {

@@ -36,6 +36,17 @@ public:
 
     /// Null where boxes are shown to a person.
     static ModalSeam *active();
+    /// Lets boxes wait for a person again, while one of these lives.
+    class Pause {
+    public:
+        Pause();
+        ~Pause();
+        Pause(const Pause &) = delete;
+        Pause &operator=(const Pause &) = delete;
+
+    private:
+        ModalSeam *m_paused;
+    };
 
     void answerMsgBox(int result);
     void answerMsgBox(std::function<int(const Request &)> answer);

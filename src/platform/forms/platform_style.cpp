@@ -4,8 +4,7 @@
 
 namespace {
 constexpr int frameWidth = 3;
-constexpr int titleBarHeight = 19;
-constexpr int titleBarMargin = 4; // QMdiSubWindow's own
+constexpr int titleBarHeight = 22;
 } // namespace
 
 PlatformStyle::PlatformStyle()
@@ -18,5 +17,5 @@ int PlatformStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, c
 }
 
 QSize PlatformStyle::frameSize() {
-    return {2 * frameWidth, titleBarHeight + titleBarMargin + frameWidth};
+    return {2 * frameWidth, titleBarHeight + frameWidth};
 }

@@ -27,6 +27,8 @@ ToolbarButton::ToolbarButton(Toolbar &toolbar, const QString &key, int index, To
     m_widget = new QToolButton(&toolbar);
     m_widget->setObjectName(name);
     m_widget->setAutoRaise(true);
+    m_widget->setIconSize(toolbar.iconSize());
+    connect(&toolbar, &QToolBar::iconSizeChanged, m_widget, &QToolButton::setIconSize);
     m_place = toolbar.addWidget(m_widget);
     connect(m_widget, &QToolButton::clicked, this, [this] { m_toolbar.clicked(*this); });
     if (style == tbrDropdown) {

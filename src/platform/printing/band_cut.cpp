@@ -1,0 +1,99 @@
+#include "platform/printing/band_cut.h"
+
+#include <algorithm>
+
+namespace Printing {
+
+namespace {
+
+struct Span {
+    int top;
+    int bottom;
+};
+
+int bottomOf(const Element &element) {
+    return element.box.top() + element.box.height();
+}
+
+int nextTop(const Band &band, const Element &heading) {
+    int top = bottomOf(heading);
+    int found = band.height;
+    for (const Element &element : band.elements)
+        if (element.box.top() >= top) found = std::min(found, element.box.top());
+    return found + 1;
+}
+
+// What must not be cut, from top to bottom.
+std::vector<Span> solidSpans(const Band &band) {
+    std::vector<Span> spans;
+    for (const Element &element : band.elements) {
+        const int top = element.box.top();
+        const std::size_t count = element.lines.size();
+        if (count < 4) {
+            spans.push_back({top, element.HeadingLevel > 0 ? nextTop(band, element) : bottomOf(element)});
+            continue;
+        }
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::size_t first = i == 1 ? 0 : i;
+            const std::size_t last = i == count - 2 ? count - 1 : i;
+            spans.push_back({i == 0 ? top : top + element.lines[first].top,
+                             i + 1 == count ? bottomOf(element)
+                                            : top + element.lines[last].top + element.lines[last].height});
+        }
+    }
+    std::sort(spans.begin(), spans.end(), [](const Span &a, const Span &b) { return a.top < b.top; });
+    return spans;
+}
+
+} // namespace
+
+std::vector<int> cutPlaces(const Band &band) {
+    std::vector<int> places;
+    int bottom = 0;
+    for (const Span &span : solidSpans(band)) {
+        if (span.top >= bottom && bottom > 0) places.push_back(bottom);
+        bottom = std::max(bottom, span.bottom);
+    }
+    return places;
+}
+
+std::pair<Band, Band> cutBand(const Band &band, int place) {
+    Band above = band;
+    Band below = band;
+    above.elements.clear();
+    below.elements.clear();
+    above.height = place;
+    below.height = band.height - place;
+    below.pageBreakBefore = false;
+    for (const Element &element : band.elements) {
+        const int top = element.box.top();
+        if (bottomOf(element) <= place) {
+            above.elements.push_back(element);
+        } else if (top >= place) {
+            below.elements.push_back(element);
+            below.elements.back().box.translate(0, -place);
+        } else {
+            const auto cut =
+                std::find_if(element.lines.begin(), element.lines.end(),
+                             [&](const TextLine &line) { return top + line.top + line.height > place; });
+            Element upper = element;
+            upper.box.setHeight(place - top);
+            upper.lines.assign(element.lines.begin(), cut);
+            Element lower = element;
+            lower.box = QRect(element.box.left(), 0, element.box.width(), bottomOf(element) - place);
+            lower.lines.assign(cut, element.lines.end());
+            const int start = lower.lines.empty() ? int(element.text.size()) : lower.lines.front().start;
+            upper.text = element.text.left(start);
+            lower.text = element.text.mid(start);
+            for (TextLine &line : lower.lines) {
+                line.start -= start;
+                line.top -= place - top;
+            }
+            above.elements.push_back(upper);
+            below.elements.push_back(lower);
+        }
+    }
+    return {above, below};
+}
+
+} // namespace Printing

@@ -1,0 +1,116 @@
+// What a report run yields: pages of placed elements, and the same content in its logical order.
+#pragma once
+
+#include <vector>
+
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+#include "platform/printing/picture.h"
+#include "platform/printing/text_style.h"
+
+namespace Printing {
+
+/// Twips. A4 portrait; the default margins leave 10200 twips of width.
+struct PageSettings {
+    int PaperWidth = 11906;
+    int PaperHeight = 16838;
+    int LeftMargin = 853;
+    int TopMargin = 850;
+    int RightMargin = 853;
+    int BottomMargin = 850;
+};
+
+enum class PageValue { None, PageNumber, PageTotal };
+
+/// One line of a broken text. Positions are relative to the top left corner of the element's box.
+struct TextLine {
+    QString text;
+    /// Where the line begins in the element's text.
+    int start = 0;
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    /// From `top` to the base line.
+    int ascent = 0;
+};
+
+/// What one control shows at one place: a text with its frame, a picture or a rule. On a page the box is
+/// counted from the paper's corner; in a block from the left edge of the print area and from the top of an
+/// endless page.
+struct Element : TextStyle {
+    QRect box;
+    QString text;
+    std::vector<TextLine> lines;
+    PageValue pageValue = PageValue::None;
+    /// A straight rule from the box's top left to its bottom right corner.
+    bool isRule = false;
+    Picture picture;
+    /// Of the picture; in a table cell that holds text as well, the box is the cell's.
+    QSize pictureSize;
+    /// Stands for the picture where there are only letters.
+    QString alternativeText;
+};
+
+struct Page {
+    /// In reading order.
+    std::vector<Element> elements;
+};
+
+/// Elements that stand side by side, from left to right.
+struct Row {
+    std::vector<Element> cells;
+    /// Repeated at the top of each page that the table goes over to.
+    bool isHeading = false;
+
+    int left() const;
+    int right() const;
+    int top() const;
+    int bottom() const;
+};
+
+struct Block {
+    enum class Kind {
+        /// One row of one cell; a heading if its HeadingLevel is above 0.
+        Paragraph,
+        /// Rows with borders.
+        Table,
+        /// Rows of several texts side by side without a border.
+        Aligned,
+        PageBreak
+    };
+    Kind kind = Kind::Paragraph;
+    std::vector<Row> rows;
+};
+
+struct Heading {
+    QString text;
+    int level = 1;
+    /// From 0.
+    int page = 0;
+    /// From the paper's upper edge.
+    int top = 0;
+};
+
+struct Document {
+    QString title;
+    QString author;
+    /// What a viewer's window bears.
+    QString caption;
+    PageSettings pageSettings;
+    std::vector<Page> pages;
+    /// The content without page headers and footers, and without repeated headings.
+    std::vector<Block> blocks;
+    /// As on the first page.
+    std::vector<Row> pageHeader;
+    std::vector<Row> pageFooter;
+    std::vector<Heading> headings;
+
+    int printWidth() const {
+        return pageSettings.PaperWidth - pageSettings.LeftMargin - pageSettings.RightMargin;
+    }
+};
+
+} // namespace Printing

@@ -1,0 +1,42 @@
+#include "platform/printing/document_search.h"
+
+#include <QFontMetricsF>
+
+#include "platform/printing/text_layout.h"
+
+namespace Printing {
+
+std::vector<TextMatch> findText(const Document &document, const QString &text) {
+    std::vector<TextMatch> matches;
+    if (text.isEmpty()) return matches;
+    for (int page = 0; page < int(document.pages.size()); ++page) {
+        const std::vector<Element> &elements = document.pages[std::size_t(page)].elements;
+        for (int i = 0; i < int(elements.size()); ++i) {
+            if (elements[std::size_t(i)].lines.empty()) continue;
+            QString searched = elements[std::size_t(i)].text;
+            searched.replace(QLatin1Char('\n'), QLatin1Char(' '));
+            for (qsizetype at = searched.indexOf(text, 0, Qt::CaseInsensitive); at >= 0;
+                 at = searched.indexOf(text, at + text.size(), Qt::CaseInsensitive))
+                matches.push_back({page, i, int(at), int(text.size())});
+        }
+    }
+    return matches;
+}
+
+std::vector<QRectF> matchAreas(const Document &document, const TextMatch &match) {
+    const Element &element = document.pages[std::size_t(match.page)].elements[std::size_t(match.element)];
+    const QFontMetricsF metrics(twipsFont(element.Font));
+    std::vector<QRectF> areas;
+    for (const TextLine &line : element.lines) {
+        const int first = std::max(match.start - line.start, 0);
+        const int last = std::min(match.start + match.length - line.start, int(line.text.size()));
+        if (first >= last) continue;
+        const double left = metrics.horizontalAdvance(line.text.left(first));
+        const double right = metrics.horizontalAdvance(line.text.left(last));
+        areas.emplace_back(element.box.left() + line.left + left, element.box.top() + line.top, right - left,
+                           line.height);
+    }
+    return areas;
+}
+
+} // namespace Printing

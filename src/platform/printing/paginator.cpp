@@ -1,0 +1,170 @@
+#include "platform/printing/paginator.h"
+
+#include "platform/printing/band_cut.h"
+#include "platform/printing/composer.h"
+#include "platform/printing/rows.h"
+#include "platform/printing/text_layout.h"
+
+namespace Printing {
+
+namespace {
+
+int firstPiece(const Band &band) {
+    if (!band.isBreakable) return band.height;
+    const std::vector<int> places = cutPlaces(band);
+    return places.empty() ? band.height : places.front();
+}
+
+int heightOfHeadings(const Band &band) {
+    int height = 0;
+    for (const auto &heading : band.headings)
+        height += heading->height;
+    return height;
+}
+
+} // namespace
+
+Document Paginator::paginate(Report &report, const Bands &bands) {
+    Paginator paginator(report, bands);
+    paginator.run();
+    return std::move(paginator.m_document);
+}
+
+void Paginator::run() {
+    m_document.pageSettings = m_report.PageSetup;
+    beginPage();
+    const std::vector<int> needed = freeHeights(false);
+    const std::vector<int> wished = freeHeights(true);
+    for (std::size_t i = 0; i < m_bands.size(); ++i) {
+        const Band &band = *m_bands[i];
+        if (band.pageBreakBefore && !m_isFresh) beginPage();
+        if (band.elements.empty()) {
+            if (m_isFresh && m_isContinued) continue;
+            m_y = std::min(m_y + band.height, m_bottom);
+            m_isFresh = false;
+            continue;
+        }
+        const int available = m_bottom - m_top - heightOfHeadings(band);
+        const int wanted = wished[i] <= available ? wished[i]
+                           : needed[i] <= available ? needed[i]
+                                                    : firstPiece(band);
+        if (m_y + wanted > m_bottom && !m_isFresh) continueOnNewPage(band);
+        place(band);
+    }
+    fillInPageTotal();
+}
+
+// For each band: the height that must be free where it begins, for itself and what it keeps with.
+std::vector<int> Paginator::freeHeights(bool withKeepTogether) const {
+    std::vector<int> heights(m_bands.size());
+    for (std::size_t i = m_bands.size(); i-- > 0;) {
+        const Band &band = *m_bands[i];
+        const bool keeps = band.keepWithNext && i + 1 < m_bands.size() && !m_bands[i + 1]->pageBreakBefore;
+        heights[i] = keeps ? band.height + heights[i + 1] : firstPiece(band);
+        if (withKeepTogether) heights[i] = std::max(heights[i], band.keepHeight);
+    }
+    return heights;
+}
+
+void Paginator::beginPage() {
+    m_document.pages.emplace_back();
+    const PageSettings &paper = m_document.pageSettings;
+    const Band header = pageSections(SectionType::PageHeader);
+    const Band footer = pageSections(SectionType::PageFooter);
+    m_top = paper.TopMargin + header.height;
+    m_bottom = paper.PaperHeight - paper.BottomMargin - footer.height;
+    putOnPage(header.elements, paper.TopMargin);
+    putOnPage(footer.elements, m_bottom);
+    if (m_document.pages.size() == 1) {
+        m_document.pageHeader = rowsOf(header.elements);
+        m_document.pageFooter = rowsOf(footer.elements);
+    }
+    m_y = m_top;
+    m_isFresh = true;
+    m_isContinued = false;
+}
+
+void Paginator::continueOnNewPage(const Band &band) {
+    beginPage();
+    m_isContinued = true;
+    // Headings that would leave no room for what they head are left out.
+    if (heightOfHeadings(band) + firstPiece(band) > m_bottom - m_top) return;
+    for (const auto &heading : band.headings)
+        placeElements(*heading, true);
+}
+
+void Paginator::place(const Band &band) {
+    Band rest = band;
+    while (m_y + rest.height > m_bottom) {
+        const int room = m_bottom - m_y;
+        int place = 0;
+        for (const int candidate : cutPlaces(rest))
+            if (candidate <= room) place = candidate;
+        if (place == 0) {
+            if (m_isFresh) break;
+        } else {
+            auto [above, below] = cutBand(rest, place);
+            placeElements(above, false);
+            rest = std::move(below);
+        }
+        continueOnNewPage(rest);
+    }
+    placeElements(rest, false);
+}
+
+void Paginator::placeElements(const Band &band, bool repeated) {
+    const int page = int(m_document.pages.size()) - 1;
+    if (!repeated) {
+        for (const Element &element : band.elements)
+            if (element.HeadingLevel > 0 && !element.text.isEmpty())
+                m_document.headings.push_back(
+                    {element.text.simplified(), element.HeadingLevel, page, m_y + element.box.top()});
+        m_isFresh = false;
+    }
+    putOnPage(band.elements, m_y);
+    m_y += band.height;
+}
+
+Band Paginator::pageSections(SectionType type) {
+    Band band;
+    for (const auto &section : m_report.m_sections) {
+        if (section->Type != type) continue;
+        for (const auto &control : section->Controls) {
+            auto *field = dynamic_cast<Field *>(control.get());
+            if (field && field->Summary == PageValue::PageNumber)
+                field->Text = QString::number(m_document.pages.size());
+        }
+        Composer::format(m_report, *section);
+        if (!section->Visible) continue;
+        const SectionLayout layout = layOutSection(*section);
+        for (const PlacedControl &placed : layout.controls) {
+            band.elements.push_back(placed.element);
+            band.elements.back().box.translate(0, band.height);
+        }
+        band.height += layout.height;
+    }
+    sortForReading(band.elements);
+    return band;
+}
+
+void Paginator::putOnPage(const std::vector<Element> &elements, int top) {
+    for (const Element &element : elements) {
+        Element placed = element;
+        placed.box.translate(m_document.pageSettings.LeftMargin, top);
+        m_document.pages.back().elements.push_back(std::move(placed));
+    }
+}
+
+void Paginator::fillInPageTotal() {
+    const QString total = QString::number(m_document.pages.size());
+    for (Page &page : m_document.pages) {
+        for (Element &element : page.elements) {
+            if (element.pageValue != PageValue::PageTotal) continue;
+            element.text = total;
+            breakLines(element, false);
+            arrangeLines(element);
+        }
+    }
+}
+
+} // namespace Printing

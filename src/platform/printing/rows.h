@@ -1,0 +1,18 @@
+// Finds out from the places of elements which of them stand side by side, and which rows form a table.
+#pragma once
+
+#include "platform/printing/band.h"
+
+namespace Printing {
+
+/// Texts row by row from the top, each row from the left; pictures and rules before them.
+void sortForReading(std::vector<Element> &elements);
+
+/// The rows of sorted elements. A picture that stands in a cell becomes the cell's, any other a row of its
+/// own; rules are left out.
+std::vector<Row> rowsOf(const std::vector<Element> &elements);
+
+/// The content in its logical order: rows with borders one below the other are a table.
+std::vector<Block> blocksOf(const Bands &bands);
+
+} // namespace Printing

@@ -1,0 +1,254 @@
+#include "platform/printing/rtf_output.h"
+
+#include <QBuffer>
+
+#include "platform/printing/output_file.h"
+
+namespace Printing {
+
+namespace {
+
+constexpr int PictureDotsPerInch = 300;
+constexpr int CellGap = 50;
+constexpr int HeadingLevels = 3;
+// Boxes that were meant to touch may be drawn some twips apart.
+constexpr int TouchingDistance = 20;
+
+QByteArray number(int value) {
+    return QByteArray::number(value);
+}
+
+QByteArray escaped(const QString &text) {
+    QByteArray result;
+    for (const QChar sign : text) {
+        const char16_t code = sign.unicode();
+        if (sign == QLatin1Char('\n'))
+            result += "\\line ";
+        else if (sign == QLatin1Char('\t'))
+            result += "\\tab ";
+        else if (code == '\\' || code == '{' || code == '}')
+            result += '\\' + QByteArray(1, char(code));
+        else if (code >= 0x20 && code < 0x7F)
+            result += char(code);
+        else if (code >= 0x7F)
+            result += "\\u" + number(qint16(code)) + '?';
+    }
+    return result;
+}
+
+QByteArray pictureGroup(const Picture &picture, const QSize &size) {
+    QByteArray png;
+    QBuffer buffer(&png);
+    const QImage image = picture.toImage(size, PictureDotsPerInch);
+    image.save(&buffer, "PNG");
+    return "{\\pict\\pngblip\\picw" + number(image.width()) + "\\pich" + number(image.height()) + "\\picwgoal" +
+           number(size.width()) + "\\pichgoal" + number(size.height()) + '\n' + png.toHex() + '}';
+}
+
+class RtfWriter {
+public:
+    explicit RtfWriter(const Document &document)
+        : m_document(document) {}
+
+    QByteArray text();
+
+private:
+    void writeBlock(const Block &block);
+    void writeTable(const Block &block);
+    void writeRow(const Row &row);
+    void writeParagraph(const Element &element, int spaceBefore);
+    void writePageRows(const char *destination, const std::vector<Row> &rows);
+    QByteArray content(const Element &element);
+    QByteArray characterFormat(const Element &element);
+    QByteArray cellDefinition(const Element &cell);
+    QByteArray filler(int right) const;
+    int colour(const QColor &value);
+    int font(const QString &name);
+    QByteArray head() const;
+
+    const Document &m_document;
+    QByteArray m_body;
+    std::vector<QColor> m_colours;
+    QStringList m_fonts;
+    int m_bottom = 0; // of what has been written, in twips of the endless page
+    bool m_afterTable = false;
+    bool m_pageBreak = false;
+};
+
+QByteArray RtfWriter::text() {
+    font(QStringLiteral("Arial"));
+    writePageRows("header", m_document.pageHeader);
+    writePageRows("footer", m_document.pageFooter);
+    for (const Block &block : m_document.blocks)
+        writeBlock(block);
+    // A reader wants a paragraph behind a table.
+    if (m_afterTable) m_body += "\\pard\\plain\\fs4\\par\n";
+    return head() + m_body + "}\n";
+}
+
+QByteArray RtfWriter::head() const {
+    const PageSettings &page = m_document.pageSettings;
+    QByteArray head = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n{\\fonttbl";
+    for (int i = 0; i < m_fonts.size(); ++i)
+        head += "{\\f" + number(i) + "\\fswiss\\fcharset0 " + escaped(m_fonts[i]) + ";}";
+    head += "}\n{\\colortbl;";
+    for (const QColor &value : m_colours)
+        head += "\\red" + number(value.red()) + "\\green" + number(value.green()) + "\\blue" +
+                number(value.blue()) + ';';
+    head += "}\n{\\stylesheet{\\s0 Normal;}";
+    for (int level = 1; level <= HeadingLevels; ++level)
+        head += "{\\s" + number(level) + "\\outlinelevel" + number(level - 1) + "\\sbasedon0 heading " +
+                number(level) + ";}";
+    head += "}\n{\\info{\\title " + escaped(m_document.title) + "}{\\author " + escaped(m_document.author) + "}}\n";
+    return head + "\\paperw" + number(page.PaperWidth) + "\\paperh" + number(page.PaperHeight) + "\\margl" +
+           number(page.LeftMargin) + "\\margr" + number(page.RightMargin) + "\\margt" + number(page.TopMargin) +
+           "\\margb" + number(page.BottomMargin) + "\\headery" + number(page.TopMargin / 2) + "\\footery" +
+           number(page.BottomMargin / 2) + '\n';
+}
+
+int RtfWriter::colour(const QColor &value) {
+    const auto known = std::find(m_colours.begin(), m_colours.end(), value);
+    const auto index = known - m_colours.begin();
+    if (known == m_colours.end()) m_colours.push_back(value);
+    return int(index) + 1; // 0 is the reader's own
+}
+
+int RtfWriter::font(const QString &name) {
+    if (!m_fonts.contains(name)) m_fonts.push_back(name);
+    return int(m_fonts.indexOf(name));
+}
+
+QByteArray RtfWriter::characterFormat(const Element &element) {
+    return "\\plain\\f" + number(font(element.Font.Name)) + "\\fs" + number(qRound(element.Font.Size * 2)) +
+           (element.Font.Bold ? "\\b" : "") + (element.Font.Italic ? "\\i" : "") + "\\cf" +
+           number(colour(element.ForeColor)) + ' ';
+}
+
+QByteArray RtfWriter::content(const Element &element) {
+    QByteArray result = characterFormat(element);
+    if (!element.picture.isNull()) result += pictureGroup(element.picture, element.pictureSize);
+    if (element.pageValue == PageValue::None)
+        result += escaped(element.text);
+    else
+        result += QByteArray("{\\field{\\*\\fldinst ") +
+                  (element.pageValue == PageValue::PageNumber ? "PAGE" : "NUMPAGES") + "}{\\fldrslt " +
+                  escaped(element.text) + "}}";
+    return result;
+}
+
+const char *alignment(const Element &element) {
+    return element.Alignment == 1 ? "\\qr" : element.Alignment == 2 ? "\\qc" : "\\ql";
+}
+
+void RtfWriter::writeBlock(const Block &block) {
+    if (block.kind == Block::Kind::PageBreak) {
+        m_pageBreak = true;
+        return;
+    }
+    if (block.kind == Block::Kind::Paragraph)
+        for (const Row &row : block.rows)
+            writeParagraph(row.cells.front(), row.top() - m_bottom);
+    else
+        writeTable(block);
+    m_bottom = block.rows.back().bottom();
+}
+
+void RtfWriter::writeParagraph(const Element &element, int spaceBefore) {
+    const int right = std::max(0, m_document.printWidth() - element.box.left() - element.box.width());
+    m_body += "\\pard\\plain";
+    if (m_pageBreak) m_body += "\\pagebb";
+    if (element.HeadingLevel > 0) m_body += "\\s" + number(std::min(element.HeadingLevel, HeadingLevels)) + "\\keepn";
+    if (element.HeadingLevel > 0)
+        m_body += "\\outlinelevel" + number(std::min(element.HeadingLevel, HeadingLevels) - 1);
+    m_body += alignment(element);
+    m_body += "\\li" + number(element.box.left()) + "\\ri" + number(right) + "\\sb" +
+              number(std::max(0, spaceBefore)) + ' ' + content(element) + "\\par\n";
+    m_pageBreak = false;
+    m_afterTable = false;
+}
+
+void RtfWriter::writeTable(const Block &block) {
+    // Between two tables, and for the distance to what stands above, an empty line of just that height.
+    const int gap = std::max(block.rows.front().top() - m_bottom, m_afterTable ? 1 : 0);
+    if (gap > 0 || m_pageBreak)
+        m_body += QByteArray("\\pard\\plain") + (m_pageBreak ? "\\pagebb" : "") + "\\keepn\\fs2\\sl-" +
+                  number(std::max(gap, 20)) + "\\slmult0\\par\n";
+    m_pageBreak = false;
+    for (const Row &row : block.rows)
+        writeRow(row);
+    m_afterTable = true;
+}
+
+QByteArray RtfWriter::cellDefinition(const Element &cell) {
+    const auto side = [](const char *word, int style) {
+        return style == 0 ? QByteArray() : QByteArray(word) + "\\brdrs\\brdrw8";
+    };
+    QByteArray result = cell.VerticalAlignment == 1   ? "\\clvertalc"
+                        : cell.VerticalAlignment == 2 ? "\\clvertalb"
+                                                      : "\\clvertalt";
+    result += side("\\clbrdrt", cell.Border.TopStyle) + side("\\clbrdrl", cell.Border.LeftStyle) +
+              side("\\clbrdrb", cell.Border.BottomStyle) + side("\\clbrdrr", cell.Border.RightStyle);
+    if (cell.BackStyle != 0) result += "\\clcbpat" + number(colour(cell.BackColor));
+    return result + "\\cellx" + number(cell.box.left() + cell.box.width());
+}
+
+QByteArray RtfWriter::filler(int right) const {
+    return "\\clvertalt\\cellx" + number(right);
+}
+
+// A gap between two elements becomes an empty cell.
+void RtfWriter::writeRow(const Row &row) {
+    m_body += "\\trowd\\trgaph" + number(CellGap) + "\\trleft" + number(row.left()) + "\\trkeep";
+    if (row.isHeading) m_body += "\\trhdr";
+    m_body += "\\trrh" + number(row.bottom() - row.top());
+    QByteArray contents;
+    int right = row.left();
+    for (const Element &cell : row.cells) {
+        if (cell.box.left() - right > TouchingDistance) {
+            m_body += filler(cell.box.left());
+            contents += "\\pard\\plain\\intbl\\cell\n";
+        }
+        m_body += cellDefinition(cell);
+        contents += QByteArray("\\pard\\plain\\intbl") + alignment(cell);
+        if (cell.HeadingLevel > 0) contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";
+        contents += content(cell) + "\\cell\n";
+        right = cell.box.left() + cell.box.width();
+    }
+    m_body += '\n' + contents + "\\row\n";
+}
+
+// One line with a tab stop for each text.
+void RtfWriter::writePageRows(const char *destination, const std::vector<Row> &rows) {
+    if (rows.empty()) return;
+    m_body += QByteArray("{\\") + destination + '\n';
+    for (const Row &row : rows) {
+        QByteArray stops;
+        QByteArray texts;
+        for (const Element &cell : row.cells) {
+            const int left = cell.box.left();
+            const int width = cell.box.width();
+            if (cell.Alignment == 1)
+                stops += "\\tqr\\tx" + number(left + width);
+            else if (cell.Alignment == 2)
+                stops += "\\tqc\\tx" + number(left + width / 2);
+            else if (left > 0)
+                stops += "\\tx" + number(left);
+            if (cell.Alignment != 0 || left > 0) texts += "\\tab ";
+            texts += content(cell);
+        }
+        m_body += "\\pard\\plain" + stops + ' ' + texts + "\\par\n";
+    }
+    m_body += "}\n";
+}
+
+} // namespace
+
+QByteArray rtfText(const Document &document) {
+    return RtfWriter(document).text();
+}
+
+void saveRtf(const Document &document, const QString &path) {
+    writeOutputFile(path, rtfText(document));
+}
+
+} // namespace Printing

@@ -1,0 +1,106 @@
+#include "platform/printing/text_layout.h"
+
+#include <cmath>
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+
+namespace Printing {
+
+namespace {
+
+// Between a frame or a filled ground and the text in it.
+constexpr int FramePadding = 50;
+constexpr int VerticalPadding = 12;
+constexpr QChar Ellipsis(0x2026);
+
+int sidePadding(const Element &element) {
+    return element.Border.any() || element.BackStyle != 0 ? FramePadding : 0;
+}
+
+int innerWidth(const Element &element) {
+    return std::max(1, element.box.width() - 2 * sidePadding(element));
+}
+
+} // namespace
+
+QFont twipsFont(const TextFont &font) {
+    QFont result;
+    result.setFamilies({font.Name, QStringLiteral("Liberation Sans")});
+    result.setPixelSize(std::max(1, qRound(font.Size * TwipsPerPoint)));
+    result.setBold(font.Bold);
+    result.setItalic(font.Italic);
+    result.setHintingPreference(QFont::PreferNoHinting);
+    return result;
+}
+
+void breakLines(Element &element, bool wordWrap) {
+    element.text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    element.lines.clear();
+    if (element.text.isEmpty()) return;
+
+    QString laidOut = element.text;
+    laidOut.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    QTextLayout layout(laidOut, twipsFont(element.Font));
+    QTextOption option;
+    option.setWrapMode(wordWrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::ManualWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    int top = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(innerWidth(element));
+        TextLine broken;
+        broken.start = line.textStart();
+        broken.text = laidOut.mid(line.textStart(), line.textLength());
+        while (!broken.text.isEmpty() && broken.text.back().isSpace())
+            broken.text.chop(1);
+        broken.top = top;
+        broken.width = int(std::ceil(line.naturalTextWidth()));
+        broken.height = int(std::ceil(line.height()));
+        broken.ascent = int(std::ceil(line.ascent()));
+        top += broken.height;
+        element.lines.push_back(broken);
+    }
+    layout.endLayout();
+}
+
+int neededHeight(const Element &element) {
+    if (element.lines.empty()) return 0;
+    return element.lines.back().top + element.lines.back().height + 2 * VerticalPadding;
+}
+
+void cutLinesToBox(Element &element) {
+    if (element.lines.empty()) return;
+    bool cut = false;
+    while (element.lines.size() > 1 &&
+           element.lines.back().top + element.lines.back().height > element.box.height()) {
+        element.lines.pop_back();
+        cut = true;
+    }
+    if (cut) element.lines.back().text += Ellipsis;
+    const QFontMetricsF metrics(twipsFont(element.Font));
+    for (TextLine &line : element.lines) {
+        line.text = metrics.elidedText(line.text, Qt::ElideRight, innerWidth(element));
+        line.width = int(std::ceil(metrics.horizontalAdvance(line.text)));
+    }
+}
+
+void arrangeLines(Element &element) {
+    if (element.lines.empty()) return;
+    const int height = element.lines.back().top + element.lines.back().height - element.lines.front().top;
+    const int free = element.box.height() - height;
+    int top = VerticalPadding;
+    if (element.VerticalAlignment == 1) top = free / 2;
+    if (element.VerticalAlignment == 2) top = free - VerticalPadding;
+    // A box of the line's own height still shows the whole line.
+    top = std::max(std::min(top, free), 0);
+    for (TextLine &line : element.lines) {
+        const int spare = innerWidth(element) - line.width;
+        const int shift = element.Alignment == 1 ? spare : element.Alignment == 2 ? spare / 2 : 0;
+        line.left = sidePadding(element) + shift;
+        line.top = top;
+        top += line.height;
+    }
+}
+
+} // namespace Printing

@@ -1,0 +1,200 @@
+// The main window and its children.
+#include <gtest/gtest.h>
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/forms/application.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/menu_entry.h"
+#include "platform/forms/send_keys.h"
+#include "platform/runtime/runtime_error.h"
+#include "tests/forms/recording_form.h"
+#include "tests/support/gui.h"
+
+namespace {
+
+class MdiFormTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        main = NewForm<RecordingMain>();
+        for (int i = 0; i < 3; ++i) {
+            child[i] = newChild(QStringLiteral("child%1").arg(i));
+            child[i]->Show();
+        }
+        QCoreApplication::processEvents();
+        formLog.clear();
+    }
+
+    QString active() const {
+        Form *form = main->activeChild();
+        return form != nullptr ? form->Caption() : QString();
+    }
+
+    RecordingMain *main = nullptr;
+    RecordingForm *child[3] = {};
+};
+
+TEST_F(MdiFormTest, ShowingAChildShowsTheMainWindow) {
+    EXPECT_TRUE(main->isVisible());
+    EXPECT_EQ(active(), "child2");
+    EXPECT_EQ(Forms::active(), child[2]);
+}
+
+TEST_F(MdiFormTest, ActivateComesWhenAChildTakesTheFront) {
+    child[0]->SetFocus();
+    child[0]->SetFocus();
+    QCoreApplication::processEvents();
+    child[2]->SetFocus();
+    EXPECT_EQ(formLog, QStringList({"child0.Activate", "child2.Activate"}));
+}
+
+TEST_F(MdiFormTest, TheNextChildComesForwardWhenTheActiveOneGoes) {
+    child[2]->Hide();
+    EXPECT_NE(active(), "child2");
+    child[0]->SetFocus();
+    child[0]->Unload();
+    QCoreApplication::processEvents();
+    deleteUnloaded();
+    EXPECT_EQ(active(), "child1");
+    EXPECT_EQ(Forms::active(), child[1]);
+    EXPECT_EQ(main->visibleChildren(), QList<Form *>({child[1]}));
+}
+
+TEST_F(MdiFormTest, ControlTabWalksTheVisibleChildren) {
+    QStringList walk;
+    child[1]->Hide();
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(main->activeChild(), Qt::Key_Tab, Qt::ControlModifier);
+        walk.append(active());
+    }
+    child[1]->Show();
+    for (int i = 0; i < 3; ++i) {
+        SendKeys("^{TAB}");
+        QCoreApplication::processEvents();
+        walk.append(active());
+    }
+    EXPECT_EQ(walk, QStringList({"child0", "child2", "child0", "child2", "child0", "child1"}));
+}
+
+TEST_F(MdiFormTest, AChildsCloseBoxAsksTheChild) {
+    child[1]->refuses = [](UnloadMode mode) { return mode == vbFormControlMenu; };
+    for (QWidget *frame : {child[0]->parentWidget(), child[1]->parentWidget()})
+        frame->close();
+    EXPECT_FALSE(child[0]->Visible());
+    EXPECT_TRUE(child[1]->Visible());
+    EXPECT_EQ(Forms::Count(), 3);
+}
+
+TEST_F(MdiFormTest, AllAreAskedBeforeAnyIsUnloaded) {
+    bool stay = true;
+    child[1]->refuses = [&](UnloadMode) { return stay; };
+    EXPECT_FALSE(main->Unload());
+    EXPECT_EQ(formLog, QStringList({"main.QueryUnload 1", "child0.QueryUnload 4", "child1.QueryUnload 4"}));
+    EXPECT_EQ(main->visibleChildren().size(), 3);
+    formLog.clear();
+    stay = false;
+    main->close();
+    EXPECT_EQ(formLog, QStringList({"main.QueryUnload 0", "child0.QueryUnload 4", "child1.QueryUnload 4",
+                                    "child2.QueryUnload 4", "child0.Unload", "child1.Unload", "child2.Unload",
+                                    "main.Unload"}));
+    EXPECT_EQ(Forms::Count(), 0);
+    EXPECT_EQ(MDIForm::current(), nullptr);
+}
+
+TEST_F(MdiFormTest, AMaximisedOrMinimisedChildKeepsItsPlace) {
+    child[0]->Move(0, 300, 4500, 3000);
+    formLog.clear();
+    child[0]->setWindowState(vbMinimized);
+    EXPECT_EQ(child[0]->WindowState(), vbMinimized);
+    child[0]->setTop(1500);
+    child[0]->setWindowState(vbNormal);
+    EXPECT_EQ(child[0]->Top(), 300);
+    EXPECT_EQ(child[0]->Width(), 4500);
+    EXPECT_EQ(formLog.count("child0.Resize"), 2);
+    child[0]->setWindowState(vbMaximized);
+    EXPECT_EQ(child[0]->WindowState(), vbMaximized);
+    child[0]->setWidth(3000);
+    child[0]->setWindowState(vbNormal);
+    EXPECT_EQ(child[0]->Width(), 4500);
+}
+
+TEST_F(MdiFormTest, AFixedChildStaysAsItIs) {
+    child[0]->setMinMaxButtons(true, false);
+    child[0]->setSizable(false);
+    child[0]->Move(15, 15, 4500, 3000);
+    EXPECT_EQ(child[0]->Width(), 4500);
+    EXPECT_EQ(child[0]->parentWidget()->maximumWidth(), 300);
+    child[0]->setWindowState(vbMinimized);
+    child[0]->setWindowState(vbNormal);
+    EXPECT_EQ(child[0]->Height(), 3000);
+}
+
+TEST_F(MdiFormTest, TheWindowMenuListsTheVisibleChildren) {
+    MenuEntry menu("mnuWindow", "&Window", main);
+    main->menuBar()->addAction(&menu);
+    menu.add("mnuWindowElem(0)", "&Cascade");
+    main->setWindowList(&menu);
+    const auto entries = [&] {
+        QStringList texts;
+        for (const QAction *action : menu.SubMenu()->actions().mid(2))
+            texts.append(action->text() + (action->isChecked() ? "*" : ""));
+        return texts;
+    };
+    EXPECT_EQ(entries(), QStringList({"&1 child0", "&2 child1", "&3 child2*"}));
+    child[1]->Hide();
+    child[0]->setCaption("A & B");
+    child[0]->SetFocus();
+    EXPECT_EQ(entries(), QStringList({"&1 A && B*", "&2 child2"}));
+    menu.SubMenu()->actions().last()->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(active(), "child2");
+    EXPECT_EQ(entries(), QStringList({"&1 A && B", "&2 child2*"}));
+    child[0]->Hide();
+    child[2]->Hide();
+    EXPECT_EQ(menu.SubMenu()->actions().size(), 1) << "no separator above an empty list";
+}
+
+TEST_F(MdiFormTest, ADoubleClickOnTheEmptyAreaIsTold) {
+    int clicks = 0;
+    QObject::connect(main, &MDIForm::DblClick, [&] { ++clicks; });
+    auto *area = main->findChild<QMdiArea *>();
+    QTest::mouseDClick(area->viewport(), Qt::LeftButton, {}, {area->width() - 5, area->height() - 5});
+    QTest::mouseDClick(child[0], Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(MdiFormAlone, AChildNeedsAMainWindow) {
+    try {
+        newChild("child");
+        FAIL();
+    } catch (const RuntimeError &error) {
+        EXPECT_EQ(error.number(), 366);
+    }
+}
+
+TEST(MdiFormAlone, TheRunEndsWithTheLastForm) {
+    EXPECT_EQ(Application::instance()->run(), 0) << "nothing to wait for";
+    auto *main = NewForm<RecordingMain>();
+    auto *start = NewForm<RecordingForm>();
+    start->Show();
+    int steps = 0;
+    QTimer::singleShot(0, [&] {
+        ++steps;
+        newChild("child")->Show();
+        start->Unload();
+        QTimer::singleShot(0, [&] {
+            ++steps;
+            main->close();
+        });
+    });
+    EXPECT_EQ(Application::instance()->run(), 0);
+    EXPECT_EQ(steps, 2);
+}
+
+} // namespace

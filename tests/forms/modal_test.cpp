@@ -1,0 +1,214 @@
+// Modal forms, message boxes, file dialogs and the report of an error.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTest>
+#include <QTimer>
+
+#include "platform/forms/application.h"
+#include "platform/forms/common_dialog.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/msg_box.h"
+#include "platform/runtime/app.h"
+#include "tests/forms/recording_form.h"
+#include "tests/support/gui.h"
+
+namespace {
+
+TEST(ModalForm, ReturnsWhenUnloadedOrHidden) {
+    formLog.clear();
+    auto *owner = NewForm<RecordingForm>();
+    owner->Show();
+    for (const bool unload : {true, false}) {
+        auto *dialog = new RecordingForm("frmDialog");
+        bool driven = false;
+        modal().driveForm([&](Form &form) {
+            driven = true;
+            EXPECT_EQ(QApplication::activeModalWidget(), &form);
+            EXPECT_EQ(form.parentWidget(), owner);
+            if (unload)
+                form.Unload();
+            else
+                form.Hide();
+        });
+        dialog->ShowModal(owner);
+        EXPECT_TRUE(driven);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(Forms::byName("frmDialog") != nullptr, !unload);
+    }
+    EXPECT_EQ(modal().lastAsked().text, "frmDialog");
+}
+
+TEST(ModalForm, KeepsThePlaceItWasGivenOrStandsOverItsOwner) {
+    auto *owner = NewForm<RecordingForm>();
+    owner->Move(3000, 1500, 9000, 6000);
+    owner->Show();
+    auto *dialog = NewForm<RecordingForm>();
+    modal().driveForm([&](Form &form) {
+        EXPECT_EQ(form.Left(), 5010);
+        EXPECT_EQ(form.Width(), 4500);
+        form.Unload();
+    });
+    dialog->Move(5010, 3000, 4500, 3000);
+    dialog->ShowModal(owner);
+
+    auto *other = NewForm<RecordingForm>();
+    other->setWidth(4500);
+    modal().driveForm([&](Form &form) {
+        EXPECT_NEAR(form.Left(), 3000 + (9000 - 4500) / 2, 60);
+        form.Unload();
+    });
+    other->ShowModal(owner);
+}
+
+TEST(MsgBoxes, AnswerIsTakenFromTheQueueAndTheQuestionKept) {
+    App::current().title = "Program";
+    modal().answerMsgBox(vbYes);
+    modal().answerMsgBox([](const ModalSeam::Request &request) { return request.style == 68 ? vbNo : vbOK; });
+    EXPECT_EQ(MsgBox("Go on?", 20, "Missing"), vbYes);
+    EXPECT_EQ(MsgBox("One\r\nTwo", vbYesNo + vbInformation), vbNo);
+    ASSERT_EQ(modal().asked().size(), 2);
+    EXPECT_EQ(modal().asked()[0].title, "Missing");
+    EXPECT_EQ(modal().asked()[0].style, 20);
+    EXPECT_EQ(modal().lastAsked().text, "One\r\nTwo");
+    EXPECT_EQ(modal().lastAsked().title, "Program");
+}
+
+/// Shows a real box and presses `key` in it.
+int answerByHand(int style, const QString &key, QStringList *seen = nullptr) {
+    QTimer::singleShot(0, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        if (seen != nullptr) *seen = {box->text(), box->windowTitle(), QString::number(box->icon())};
+        for (QAbstractButton *button : box->buttons())
+            if (button->text().remove('&') == key) return button->click();
+        QTest::keyClick(box, Qt::Key_Escape);
+    });
+    return MsgBox("One\r\nTwo", style, "Title");
+}
+
+TEST(MsgBoxes, RealBoxesGiveTheClassicNumbers) {
+    const ModalSeam::Pause person;
+    const struct {
+        int style;
+        const char *key;
+        int result;
+    } cases[] = {{vbOKOnly, "OK", vbOK},
+                 {vbYesNo | vbCritical, "Yes", vbYes},
+                 {vbYesNo, "No", vbNo},
+                 {vbYesNoCancel, "", vbCancel},
+                 {vbOKCancel, "Cancel", vbCancel},
+                 {vbRetryCancel, "Retry", vbRetry},
+                 {vbAbortRetryIgnore, "Ignore", vbIgnore},
+                 {vbOKOnly, "", vbOK}};
+    for (const auto &row : cases)
+        EXPECT_EQ(answerByHand(row.style, row.key), row.result) << row.style << row.key;
+    QStringList seen;
+    answerByHand(vbExclamation, "OK", &seen);
+    EXPECT_EQ(seen, QStringList({"One\nTwo", "Title", QString::number(QMessageBox::Warning)}));
+}
+
+TEST(CommonDialogs, CancelRaisesOnlyWhenAsked) {
+    CommonDialog dialog;
+    dialog.FileName = "a.mdb";
+    dialog.Filter = "Access files (*.mdb)|*.mdb";
+    dialog.InitDir = "/data/";
+    modal().chooseFile("");
+    dialog.ShowOpen();
+    EXPECT_EQ(dialog.FileName, "a.mdb");
+    EXPECT_EQ(modal().lastAsked().initDir, "/data/");
+    EXPECT_EQ(modal().lastAsked().kind, ModalSeam::Kind::OpenFile);
+    dialog.CancelError = true;
+    modal().chooseFile("");
+    try {
+        dialog.ShowSave();
+        FAIL();
+    } catch (const RuntimeError &error) {
+        EXPECT_EQ(error.number(), 32755);
+    }
+    modal().chooseFile("/data/b.mdb");
+    dialog.ShowSave();
+    EXPECT_EQ(dialog.FileName, QDir::toNativeSeparators("/data/b.mdb"));
+}
+
+TEST(CommonDialogs, FiltersAndDrivesBecomeTheSystemsOwn) {
+    EXPECT_EQ(CommonDialog::nameFilters("Access files (*.mdb)|*.mdb"), QStringList({"Access files (*.mdb)"}));
+    EXPECT_EQ(CommonDialog::nameFilters("Text (*.txt;*.csv)|*.txt;*.csv|All|*.*"),
+              QStringList({"Text (*.txt *.csv)", "All (*.*)"}));
+    EXPECT_EQ(CommonDialog::nameFilters(""), QStringList());
+#ifndef Q_OS_WIN
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    EXPECT_EQ(CommonDialog::localPath("c:\\"), documents);
+    EXPECT_EQ(CommonDialog::localPath("c:\\P235GH.pdf"), documents + "/P235GH.pdf");
+    EXPECT_EQ(CommonDialog::localPath("/home/x"), "/home/x");
+#endif
+}
+
+TEST(CommonDialogs, TheRealDialogOffersNameFilterAndExtension) {
+    const ModalSeam::Pause person;
+    CommonDialog dialog;
+    dialog.DialogTitle = "Save";
+    dialog.InitDir = "c:\\";
+    dialog.FileName = "c:\\P235GH / 1.0345.rtf";
+    dialog.Filter = "Rich Text Format (*.rtf)|*.rtf";
+    dialog.DefaultExt = ".rtf";
+    dialog.CancelError = true;
+    QString offered, suffix;
+    QStringList filters;
+    QTimer::singleShot(0, [&] {
+        auto *box = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        offered = box->findChild<QLineEdit *>("fileNameEdit")->text();
+        filters = box->nameFilters();
+        suffix = box->defaultSuffix();
+        box->reject();
+    });
+    EXPECT_THROW(dialog.ShowSave(), RuntimeError);
+    EXPECT_EQ(offered, "P235GH / 1.0345.rtf") << "a name is offered as it stands";
+    EXPECT_EQ(filters, QStringList({"Rich Text Format (*.rtf)"}));
+    EXPECT_EQ(suffix, "rtf");
+}
+
+TEST(Faults, AnErrorInAHandlerIsCaughtAtTheEvent) {
+    auto *form = NewForm<RecordingForm>();
+    auto *button = new QPushButton(form);
+    QObject::connect(button, &QPushButton::clicked, [] { throw RuntimeError(9); });
+    form->Show();
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTimer::singleShot(0, [] { throw std::bad_alloc(); });
+    QCoreApplication::processEvents();
+    const QList<RuntimeError> faults = takeFaults();
+    ASSERT_EQ(faults.size(), 2);
+    EXPECT_EQ(faults[0].number(), 9);
+    EXPECT_EQ(Application::reportText(faults[1]), "Run-time error '7':\r\n\r\nOut of memory");
+}
+
+TEST(FaultsDeathTest, TheReportIsShownOnceThenTheHookRunsAndTheProcessEnds) {
+    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto program = [] {
+        Application &application = *Application::instance();
+        application.setFaultSeam({});
+        application.setEndHook([] {
+            std::fputs("hook;", stderr);
+            throw RuntimeError(75);
+        });
+        modal().answerMsgBox([](const ModalSeam::Request &request) {
+            std::fprintf(stderr, "%s;", qPrintable(QString(request.text).replace("\r\n", "/")));
+            Application::guarded([] { throw RuntimeError(11); });
+            return vbOK;
+        });
+        Application::guarded([] { throw RuntimeError(3075, "Syntax error"); });
+        std::fputs("went on", stderr);
+    };
+    EXPECT_EXIT(program(), ::testing::ExitedWithCode(1),
+                "Run-time error '3075':/"
+                "/Syntax error;hook;$");
+}
+
+} // namespace

@@ -1,0 +1,100 @@
+#include "tests/tour/tour.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include "platform/forms/forms.h"
+#include "platform/forms/mdi_form.h"
+
+namespace {
+
+[[noreturn]] void giveUp(const QString &why) {
+    std::fprintf(stderr, "tour: %s\n", qPrintable(why));
+    std::exit(1);
+}
+
+} // namespace
+
+Tour::Tour(const QString &folder)
+    : m_folder(QDir(folder).absolutePath()) {
+    QDir(m_folder).removeRecursively();
+    QDir().mkpath(m_folder);
+    qputenv("APPDATA", m_user.path().toUtf8());
+    m_boxes.setUnexpectedHandler([](const QString &message) { giveUp("unexpected box: " + message); });
+}
+
+QWidget &Tour::main() const {
+    MDIForm *window = MDIForm::current();
+    if (window == nullptr) giveUp("there is no main window");
+    return *window;
+}
+
+FormBase &Tour::form(const QString &name, int index) const {
+    for (FormBase &form : Forms())
+        if (form.Name() == name && index-- == 0) return form;
+    giveUp("there is no form " + name);
+}
+
+void Tour::picture(const QString &name) {
+    picture(name, main());
+}
+
+void Tour::picture(const QString &name, QWidget &window) {
+    settle();
+    const QString file =
+        QStringLiteral("%1/%2-%3.png").arg(m_folder).arg(++m_number, 2, 10, QLatin1Char('0')).arg(name);
+    if (!window.grab().save(file)) giveUp("cannot write " + file);
+    std::printf("%s\n", qPrintable(file));
+}
+
+QWidget *Tour::find(QWidget &parent, const QString &name, const QMetaObject *type) const {
+    const QList<QWidget *> found = parent.findChildren<QWidget *>(name);
+    for (QWidget *widget : found)
+        if (widget->metaObject()->inherits(type)) return widget;
+    giveUp("there is no control " + name + " on " + parent.objectName());
+}
+
+void Tour::type(QWidget &box, const QString &text) {
+    box.setFocus();
+    QTest::keyClicks(&box, text);
+    settle();
+}
+
+void Tour::retype(QWidget &box, const QString &text) {
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    type(box, text);
+}
+
+void Tour::press(QWidget &widget, Qt::Key key) {
+    QTest::keyClick(&widget, key);
+    settle();
+}
+
+void Tour::click(QWidget &widget) {
+    QTest::mouseClick(&widget, Qt::LeftButton);
+    settle();
+}
+
+void Tour::menu(const QString &entry) {
+    auto *action = main().findChild<QAction *>(entry);
+    if (action == nullptr) giveUp("there is no menu entry " + entry);
+    if (!action->isEnabled()) giveUp("the menu entry is off: " + entry);
+    action->trigger();
+    settle();
+}
+
+void Tour::settle() {
+    QElapsedTimer timer;
+    timer.start();
+    do {
+        QApplication::processEvents();
+    } while (timer.elapsed() < 30);
+}

@@ -1,0 +1,56 @@
+// The hand and the camera of the tour: real windows, real keys, numbered pictures.
+#pragma once
+
+#include <functional>
+
+#include <QString>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include "platform/forms/form_base.h"
+#include "platform/forms/modal_seam.h"
+
+/// Works on controls by their names, as a person finds them by their labels. A control that is not there ends
+/// the tour with a message.
+class Tour {
+public:
+    /// Pictures and saved files go into `folder`, which is made anew.
+    explicit Tour(const QString &folder);
+
+    QString folder() const { return m_folder; }
+    /// Every box that the program opens on its own is answered from here.
+    ModalSeam &boxes() { return m_boxes; }
+
+    /// A picture of the main window, or of another one, under the next number.
+    void picture(const QString &name);
+    void picture(const QString &name, QWidget &window);
+
+    QWidget &main() const;
+    /// The loaded form of that name; `index` counts several from 0.
+    FormBase &form(const QString &name, int index = 0) const;
+    template <class W>
+    W &control(FormBase &form, const QString &name) const {
+        return *static_cast<W *>(find(*form.asWidget(), name, &W::staticMetaObject));
+    }
+
+    void type(QWidget &box, const QString &text);
+    /// Empties the box by keys, then types.
+    void retype(QWidget &box, const QString &text);
+    void press(QWidget &widget, Qt::Key key);
+    void click(QWidget &widget);
+    void menu(const QString &entry);
+    void settle();
+
+private:
+    QWidget *find(QWidget &parent, const QString &name, const QMetaObject *type) const;
+
+    QString m_folder;
+    int m_number = 0;
+    ModalSeam m_boxes;
+    QTemporaryDir m_user;
+};
+
+// The stations, in the order in which a person meets them.
+void startProgram(Tour &tour);
+void searchAndSelect(Tour &tour);
+void readMaterials(Tour &tour);
