@@ -20,7 +20,7 @@ constexpr double ZoomStep = 1.2;
 constexpr int ImageMemory = 128 * 1024; // kilobytes
 constexpr int ScrollStep = 48;
 const QColor Ground(0x8A, 0x8F, 0x96);
-const QColor Shadow(0x5A, 0x5E, 0x64);
+const QColor PageShadow(0x5A, 0x5E, 0x64);
 const QColor MatchColour(255, 221, 0, 110);
 const QColor CurrentMatchColour(255, 128, 0, 150);
 
@@ -147,7 +147,7 @@ void PageView::paintEvent(QPaintEvent *event) {
     for (int page = 0; page < int(m_document.pages.size()); ++page) {
         const QRect area = pageRect(page);
         if (!area.adjusted(0, 0, 3, 3).intersects(event->rect())) continue;
-        painter.fillRect(area.translated(3, 3), Shadow);
+        painter.fillRect(area.translated(3, 3), PageShadow);
         painter.drawImage(area, image(page));
         paintMatches(painter, page, area);
     }
