@@ -8,8 +8,8 @@
 #include <QDateTime>
 
 #include "platform/runtime/conversions.h"
-#include "platform/runtime/regional_settings.h"
-#include "platform/runtime/runtime_error.h"
+#include "tests/support/error_of.h"
+#include "tests/support/pinned_settings.h"
 
 void PrintTo(const QString &text, std::ostream *out) {
     *out << '"' << text.toStdString() << '"';
@@ -17,36 +17,14 @@ void PrintTo(const QString &text, std::ostream *out) {
 
 namespace {
 
-RegionalSettings signs(char16_t decimal, char16_t group) {
-    RegionalSettings settings;
-    settings.decimalSign = QChar(decimal);
-    settings.groupSign = QChar(group);
-    return settings;
-}
-
-const RegionalSettings PointComma = signs(u'.', u',');
-const RegionalSettings CommaPoint = signs(u',', u'.');
-const RegionalSettings CommaBlank = signs(u',', 0x00A0);
-const RegionalSettings PointApostrophe = signs(u'.', 0x2019);
+const std::pair<char16_t, char16_t> PointComma = {u'.', u','};
+const std::pair<char16_t, char16_t> CommaPoint = {u',', u'.'};
+const std::pair<char16_t, char16_t> CommaBlank = {u',', 0x00A0};
+const std::pair<char16_t, char16_t> PointApostrophe = {u'.', 0x2019};
 
 class ConversionsTest : public ::testing::Test {
-protected:
-    void SetUp() override { RegionalSettings::setCurrent(PointComma); }
-    void TearDown() override { RegionalSettings::setCurrent(m_before); }
-
-private:
-    RegionalSettings m_before = RegionalSettings::current();
+    PinnedSettings m_settings;
 };
-
-template <typename Call>
-int errorOf(Call call) {
-    try {
-        call();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST_F(ConversionsTest, NumbersPrintWithTheDigitsOfTheirType) {
     const struct {
@@ -79,7 +57,7 @@ TEST_F(ConversionsTest, NumbersPrintWithTheDigitsOfTheirType) {
     for (const auto &item : cases)
         EXPECT_EQ(CStr(item.value), QLatin1String(item.text));
 
-    RegionalSettings::setCurrent(CommaPoint);
+    const PinnedSettings comma(u',', u'.');
     EXPECT_EQ(CStr(1.5), QStringLiteral("1,5"));
     EXPECT_EQ(CStr(0.000015), QStringLiteral("1,5E-05"));
 }
@@ -116,8 +94,8 @@ TEST_F(ConversionsTest, ANumberTextFollowsTheSettings) {
         {u"0x10", no, no, no, no},
         {u"\u0661\u0662", no, no, no, no},
     };
-    const auto check = [](const char16_t *text, const RegionalSettings &settings, double expected) {
-        RegionalSettings::setCurrent(settings);
+    const auto check = [](const char16_t *text, std::pair<char16_t, char16_t> signs, double expected) {
+        const PinnedSettings settings(signs.first, signs.second);
         const QString written = QString::fromUtf16(text);
         SCOPED_TRACE(written.toStdString());
         if (std::isnan(expected))
@@ -201,10 +179,10 @@ TEST_F(ConversionsTest, FormatRoundsTheDecimalTextHalfAwayFromZero) {
         EXPECT_EQ(Format(item.value, QLatin1String(item.pattern)), QLatin1String(item.text));
     EXPECT_EQ(Format(QVariant(), QStringLiteral("0.00")), QString());
 
-    RegionalSettings::setCurrent(CommaBlank);
+    const PinnedSettings comma(u',', u' ');
     EXPECT_EQ(Format(235.125, QStringLiteral("###0.00")), QStringLiteral("235,13"));
     EXPECT_EQ(Format(QStringLiteral("1,5"), QStringLiteral("##0.00")), QStringLiteral("1,50"));
-    RegionalSettings::setCurrent(PointApostrophe);
+    const PinnedSettings apostrophe(u'.', u'\'');
     EXPECT_EQ(Format(QStringLiteral("1,5"), QStringLiteral("##0.00")), QStringLiteral("1,5"));
 }
 

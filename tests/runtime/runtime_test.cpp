@@ -9,18 +9,9 @@
 #include "platform/runtime/text_file.h"
 #include "platform/runtime/twips.h"
 #include "platform/runtime/x_array_db.h"
+#include "tests/support/error_of.h"
 
 namespace {
-
-template <typename Call>
-int errorOf(Call call) {
-    try {
-        call();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST(RuntimeErrorTest, TakesItsUsualDescriptionUnlessOneIsGiven) {
     EXPECT_EQ(RuntimeError(91).description(),
