@@ -1,7 +1,5 @@
 #include "platform/dao/jet_expression_sql.h"
 
-#include <limits>
-
 #include "platform/dao/jet_errors.h"
 #include "platform/dao/like_pattern.h"
 #include "platform/dao/memory_database.h"
