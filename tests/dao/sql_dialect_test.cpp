@@ -233,7 +233,8 @@ TEST_F(Dialect, Errors) {
                                                       "include the specified expression 'id' as part of an "
                                                       "aggregate function."},
         {"select id from part where id in (select id from part having label = 'x')",
-         "3122: You tried to execute a query that does not include the specified expression 'id' as part of an "
+         "3122: You tried to execute a query that does not include the specified expression 'id' as part of "
+         "an "
          "aggregate function."},
         {"select id from", "3131: Syntax error in FROM clause."},
         {"select id from part, part", "3131: Syntax error in FROM clause."},
