@@ -55,7 +55,7 @@ public:
 private:
     void writeBlock(const Block &block);
     void writeTable(const Block &block);
-    void writeRow(const Row &row, int height);
+    void writeRow(const Row &row, int left, int height);
     void writeParagraph(const Element &element, int spaceBefore);
     void writePageRows(const char *destination, const std::vector<Row> &rows);
     QByteArray content(const Element &element);
@@ -176,11 +176,14 @@ void RtfWriter::writeTable(const Block &block) {
         m_body += QByteArray("\\pard\\plain") + (m_pageBreak ? "\\pagebb" : "") + "\\keepn\\fs2\\sl-" +
                   number(std::max(gap, 20)) + "\\slmult0\\par\n";
     m_pageBreak = false;
+    int left = block.rows.front().left();
+    for (const Row &row : block.rows)
+        left = std::min(left, row.left());
     for (std::size_t i = 0; i < block.rows.size(); ++i) {
         const Row &row = block.rows[i];
         // Without a frame, the distance to the next row may be the row's.
         const bool takesGap = block.kind == Block::Kind::Aligned && i + 1 < block.rows.size();
-        writeRow(row, (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top());
+        writeRow(row, left, (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top());
     }
     m_afterTable = true;
 }
@@ -202,14 +205,14 @@ QByteArray RtfWriter::filler(int right) const {
     return "\\clvertalt\\cellx" + number(right);
 }
 
-// A gap between two elements becomes an empty cell.
-void RtfWriter::writeRow(const Row &row, int height) {
+// All rows of a table begin at its left edge; a gap before an element becomes an empty cell.
+void RtfWriter::writeRow(const Row &row, int left, int height) {
     // The distance to the frame is the paragraphs' own: readers disagree on where a padded cell begins.
-    m_body += "\\trowd\\trgaph0\\trleft" + number(row.left()) + "\\trkeep";
+    m_body += "\\trowd\\trgaph0\\trleft" + number(left) + "\\trkeep";
     if (row.isHeading) m_body += "\\trhdr";
     m_body += "\\trrh" + number(height);
     QByteArray contents;
-    int right = row.left();
+    int right = left;
     for (const Element &cell : row.cells) {
         if (cell.box.left() - right > TouchingDistance) {
             m_body += filler(cell.box.left());
