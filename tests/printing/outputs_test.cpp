@@ -38,9 +38,10 @@ protected:
 
     QString path(const QString &name) const { return folder.filePath(name); }
     QStringList cellsOf(int row) const {
-        const QString remark = row % 7 != 0 ? QString()
-                                            : QStringLiteral("gale ≥ 8 Bft, the reading was taken twice and the mean "
-                                                             "of both is what stands here");
+        const QString remark = row % 7 != 0
+                                   ? QString()
+                                   : QStringLiteral("gale ≥ 8 Bft, the reading was taken twice and the mean "
+                                                    "of both is what stands here");
         return {QString::number(row), QStringLiteral("%1,%2").arg(row % 30).arg(row % 10),
                 QStringLiteral("(%1 x 10²)").arg(990 + row % 40), remark};
     }
@@ -56,16 +57,17 @@ TEST_F(Outputs, PdfHoldsEveryRowInReadingOrder) {
     qsizetype at = 0;
     for (int row = 1; row <= RowCount; ++row) {
         const QStringList cells = cellsOf(row);
-        const QRegularExpression line(QStringLiteral("^ +%1 +%2 +%3").arg(cells[0], cells[1],
-                                                                         QRegularExpression::escape(cells[2])),
-                                      QRegularExpression::MultilineOption);
+        const QRegularExpression line(
+            QStringLiteral("^ +%1 +%2 +%3").arg(cells[0], cells[1], QRegularExpression::escape(cells[2])),
+            QRegularExpression::MultilineOption);
         at = text.indexOf(line, at);
         ASSERT_GE(at, 0) << "row " << row;
     }
     EXPECT_EQ(text.count("[N / m²]"), 2);
     EXPECT_EQ(text.count(QRegularExpression("Page +[123] of +3")), 3);
     // Without the layout the stream's own order counts: a cell's two lines stay together.
-    EXPECT_EQ(pdfTool("pdftotext", {"-raw", path("a.pdf"), "-"}).count("taken twice\nand the mean"), RowCount / 7);
+    EXPECT_EQ(pdfTool("pdftotext", {"-raw", path("a.pdf"), "-"}).count("taken twice\nand the mean"),
+              RowCount / 7);
 }
 
 TEST_F(Outputs, PdfTellsTitleAuthorAndOutlineAndIsMadeOfVectors) {
@@ -84,7 +86,8 @@ TEST_F(Outputs, PdfTellsTitleAuthorAndOutlineAndIsMadeOfVectors) {
                              "<outline><item page=\"1\">Readings of the year</item></outline>"
                              "<item page=\"3\">Course of the year</item></outline></outline></pdf2xml>"));
     for (const QString &font : pdfTool("pdffonts", {path("a.pdf")}).split('\n', Qt::SkipEmptyParts).mid(2))
-        EXPECT_TRUE(font.contains(QRegularExpression("LiberationSans.*Identity-H +yes"))) << font.toStdString();
+        EXPECT_TRUE(font.contains(QRegularExpression("LiberationSans.*Identity-H +yes")))
+            << font.toStdString();
     EXPECT_EQ(pdfTool("pdfimages", {"-list", path("a.pdf")}).count('\n'), 2) << "a picture became pixels";
 }
 
@@ -112,12 +115,14 @@ TEST_F(Outputs, RtfHoldsTheTablesAsTables) {
                                         QStringLiteral("Pressure\n\n[N / m²]"), "Remark"}));
     EXPECT_EQ(rtf.headingRows, 1);
     for (int row = 1; row <= RowCount; ++row) {
-        EXPECT_EQ(rtf.rows[std::size_t(4 + row)].join('|').toStdString(), cellsOf(row).join('|').toStdString());
+        EXPECT_EQ(rtf.rows[std::size_t(4 + row)].join('|').toStdString(),
+                  cellsOf(row).join('|').toStdString());
         EXPECT_EQ(rtf.edges[std::size_t(4 + row)], std::vector<int>({1155, 2655, 4455, 8455}));
     }
     EXPECT_EQ(rtf.headings, QStringList({QStringLiteral("Wetterstation Großer Sand"), "Readings",
                                          "Readings of the year", "Course of the year"}));
-    EXPECT_TRUE(rtf.paragraphs.contains("All temperatures in the shade.\nPressures are not reduced to sea level."));
+    EXPECT_TRUE(
+        rtf.paragraphs.contains("All temperatures in the shade.\nPressures are not reduced to sea level."));
     EXPECT_EQ(rtf.pictures, 2);
     EXPECT_TRUE(rtf.pageText.contains("<PAGE>"));
     EXPECT_TRUE(rtf.pageText.contains("<NUMPAGES>"));
@@ -166,7 +171,8 @@ TEST(TextGrid, SpanningCellsKeepTheColumnsBelowThemInLine) {
     block.rows[0].cells[0].box.setWidth(2000);
     block.rows[0].cells[0].text = "wide heading";
     block.rows[1].cells[2].Alignment = 1;
-    EXPECT_EQ(gridLines(block), QStringList({"wide heading | c", "--+----------+----", "1 | 22       | 333"}));
+    EXPECT_EQ(gridLines(block),
+              QStringList({"wide heading | c", "--+----------+----", "1 | 22       | 333"}));
 }
 
 TEST(TextGrid, ATableTooWideForTheLineGoesOnBelowWithItsFirstColumn) {

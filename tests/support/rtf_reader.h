@@ -82,8 +82,8 @@ private:
     }
 
     void apply(const QString &word, int value) {
-        static const QStringList destinations = {"fonttbl", "colortbl", "stylesheet", "title",  "author", "pict",
-                                                 "header",  "footer",   "fldinst",    "fldrslt"};
+        static const QStringList destinations = {"fonttbl", "colortbl", "stylesheet", "title",   "author",
+                                                 "pict",    "header",   "footer",     "fldinst", "fldrslt"};
         if (destinations.contains(word)) {
             m_groups.back().destination = word;
             if (word == "pict") ++m_content.pictures;

@@ -41,8 +41,9 @@ QByteArray pictureGroup(const Picture &picture, const QSize &size) {
     QBuffer buffer(&png);
     const QImage image = picture.toImage(size, PictureDotsPerInch);
     image.save(&buffer, "PNG");
-    return "{\\pict\\pngblip\\picw" + number(image.width()) + "\\pich" + number(image.height()) + "\\picwgoal" +
-           number(size.width()) + "\\pichgoal" + number(size.height()) + '\n' + png.toHex() + '}';
+    return "{\\pict\\pngblip\\picw" + number(image.width()) + "\\pich" + number(image.height()) +
+           "\\picwgoal" + number(size.width()) + "\\pichgoal" + number(size.height()) + '\n' + png.toHex() +
+           '}';
 }
 
 class RtfWriter {
@@ -99,7 +100,8 @@ QByteArray RtfWriter::head() const {
     for (int level = 1; level <= HeadingLevels; ++level)
         head += "{\\s" + number(level) + "\\outlinelevel" + number(level - 1) + "\\sbasedon0 heading " +
                 number(level) + ";}";
-    head += "}\n{\\info{\\title " + escaped(m_document.title) + "}{\\author " + escaped(m_document.author) + "}}\n";
+    head += "}\n{\\info{\\title " + escaped(m_document.title) + "}{\\author " + escaped(m_document.author) +
+            "}}\n";
     return head + "\\paperw" + number(page.PaperWidth) + "\\paperh" + number(page.PaperHeight) + "\\margl" +
            number(page.LeftMargin) + "\\margr" + number(page.RightMargin) + "\\margt" +
            number(page.TopMargin + m_document.pageHeaderHeight) + "\\margb" +
@@ -159,7 +161,8 @@ void RtfWriter::writeParagraph(const Element &element, int spaceBefore) {
     const int right = std::max(0, m_document.printWidth() - element.box.left() - element.box.width());
     m_body += "\\pard\\plain";
     if (m_pageBreak) m_body += "\\pagebb";
-    if (element.HeadingLevel > 0) m_body += "\\s" + number(std::min(element.HeadingLevel, HeadingLevels)) + "\\keepn";
+    if (element.HeadingLevel > 0)
+        m_body += "\\s" + number(std::min(element.HeadingLevel, HeadingLevels)) + "\\keepn";
     if (element.HeadingLevel > 0)
         m_body += "\\outlinelevel" + number(std::min(element.HeadingLevel, HeadingLevels) - 1);
     m_body += alignment(element);
@@ -221,7 +224,8 @@ void RtfWriter::writeRow(const Row &row, int left, int height) {
         m_body += cellDefinition(cell);
         contents += QByteArray("\\pard\\plain\\intbl") + alignment(cell);
         if (cell.Border.any()) contents += "\\li" + number(CellPadding) + "\\ri" + number(CellPadding);
-        if (cell.HeadingLevel > 0) contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";
+        if (cell.HeadingLevel > 0)
+            contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";
         contents += content(cell) + "\\cell\n";
         right = cell.box.left() + cell.box.width();
     }
@@ -248,7 +252,8 @@ void RtfWriter::writePageRows(const char *destination, const std::vector<Row> &r
             if (cell.Alignment != 0 || left > 0) texts += "\\tab ";
             texts += content(cell);
         }
-        m_body += "\\pard\\plain\\sb" + number(std::max(0, row.top() - bottom)) + stops + ' ' + texts + "\\par\n";
+        m_body +=
+            "\\pard\\plain\\sb" + number(std::max(0, row.top() - bottom)) + stops + ' ' + texts + "\\par\n";
         bottom = row.bottom();
     }
     m_body += "}\n";
