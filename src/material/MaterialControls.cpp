@@ -49,6 +49,7 @@ QPushButton *button(QWidget *parent, const QString &name, const QString &text) {
 TDBGrid *grid(QWidget *parent, const QString &name, const QString &accessibleName) {
     auto *result = named(new TDBGrid(parent), name, accessibleName);
     result->setAlternatingRowStyle(true);
+    result->setRecordSelectors(false);
     return result;
 }
 
@@ -190,8 +191,8 @@ void MaterialControls::makeDesignPage(QWidget *window) {
     setBackColor(txtDesignTemp, vbInfoBackground);
     place(txtDesignTemp, 2475, 45, 1200, BoxHeight);
     lblDesignTemp->setBuddy(txtDesignTemp);
-    addPrintSave(framDesign, 3, "graph/print.svg", "Print (Preview) Design Values Table...", 9705, 0);
-    addPrintSave(framDesign, 4, "graph/save.svg", "Save Design Values Table To File (*.pdf,*.rtf,*.txt)...",
+    addPrintSave(framDesign, 3, "toolbar/print.svg", "Print (Preview) Design Values Table...", 9705, 0);
+    addPrintSave(framDesign, 4, "toolbar/save.svg", "Save Design Values Table To File (*.pdf,*.rtf,*.txt)...",
                  10215, 0);
 
     tdbDesign = grid(framDesign, "tdbDesign", "Design values");
