@@ -134,7 +134,7 @@ void MaterialControls::makeTables(QWidget *window) {
 
 void MaterialControls::makeOptions(QWidget *window) {
     // Everything stands in the upper part, which the notes and a graph leave in sight.
-    framOptions = panel(window, "framOptions", "Table options");
+    framOptions = named(new QFrame(window), "framOptions", "Table options");
     resizeTo(framOptions, OptionsWidth, TableHeight);
     CommandShowGraph = button(framOptions, "CommandShowGraph", "Show Graph");
     CommandShowTable = button(framOptions, "CommandShowTable", "Show Table");
@@ -217,11 +217,11 @@ void MaterialControls::makeGraph(QWidget *window) {
     addPrintSave(framChart, 1, "graph/print.svg", "Print (Preview) Graph...", 6405, 600);
     addPrintSave(framChart, 2, "graph/enlarge.svg", "Enlarge Graph View", 6405, 1125);
 
-    framBlank = panel(window, "framBlank", "Empty panel");
+    framBlank = named(new QFrame(window), "framBlank", "Empty panel");
     framBlank->setAutoFillBackground(true);
     resizeTo(framBlank, OptionsWidth, TableHeight);
 
-    framAxisCols = panel(window, "framAxisCols", "Columns of the graph");
+    framAxisCols = named(new QFrame(window), "framAxisCols", "Columns of the graph");
     framAxisCols->setAutoFillBackground(true);
     resizeTo(framAxisCols, OptionsWidth, OpenNotesHeight);
     const QStringList axes{"X Axis", "Y Axis"};
