@@ -134,7 +134,7 @@ TEST(TemperatureBoxTest, ASelectionGoesWithEveryKey) {
         {"12,5<(d", "12"},
         {"2500,7(((9", "2509"},
         {"25,^)7", "75,"},
-                              // another is still let in
+        // another is still let in
         {"25,^))7$,", "7,,"}, // the comma behind the selection is forgotten
     };
     for (const auto &item : cases) {

@@ -9,10 +9,19 @@
 
 #include "material/frmMaterial2.h"
 #include "shell/mdiVelmar.h"
-#include "tests/program/small_program.h"
 #include "tests/support/gui.h"
+#include "tests/support/program.h"
+#include "tests/support/small_database.h"
 
 namespace {
+
+/// Under a decimal comma unless told otherwise.
+class SmallProgram : public TestProgram {
+public:
+    explicit SmallProgram(const QStringList &inserts, char16_t decimalSign = u',', char16_t groupSign = u'.')
+        : TestProgram(smallDatabase(inserts), decimalSign, groupSign) {}
+    frmMaterial2 &open(int matID) { return TestProgram::open(material(matID)); }
+};
 
 const QString Rp02 = "Rp02 (matID, temp, thickness, ordering, Rp02) values ";
 const QString Rm = "Rm (matID, temp, thickness, ordering, Rm) values ";

@@ -14,10 +14,16 @@
 #include "shell/modFileHandler.h"
 #include "tests/support/gui.h"
 
-TestProgram::TestProgram() {
+void TestProgram::putSample(const QString &path) {
+    QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", path);
+}
+
+TestProgram::TestProgram(const std::function<void(const QString &)> &putDatabase, char16_t decimalSign,
+                         char16_t groupSign)
+    : m_settings(decimalSign, groupSign) {
     qunsetenv("APPDATA");
     App::current().path = m_folder.path();
-    QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", m_folder.filePath("Velmar_PED.mdb"));
+    putDatabase(m_folder.filePath("Velmar_PED.mdb"));
     modFileHandler::SetupFileEnvironment();
     mdiVelmar::instance();
 }
