@@ -65,9 +65,7 @@ void frmChart::Form_Load() {
     setCaption(material.Caption());
     strCurrentTable = material.property("strCurrentTable").toString();
 
-    QWidget::setTabOrder(cmdGraph(2), cmdGraph(0));
-    QWidget::setTabOrder(cmdGraph(0), cmdGraph(1));
-    cmdGraph(2)->setFocus();
+    cmdGraph(2)->setFocus(); // the way back is the first in the tab order
 }
 
 /// The data before the columns: it gives every column its plain label.
