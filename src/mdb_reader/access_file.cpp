@@ -1,15 +1,26 @@
 #include "mdb_reader/access_file.h"
 
-#include <fcntl.h>
+#include <cstdio>
+#include <cstring>
 #include <memory>
+
+#include <fcntl.h>
 #include <unistd.h>
 
 #include "mdb_reader/bytes.h"
+#include "mdb_reader/cell_text.h"
 #include "mdb_reader/damaged.h"
+#include "mdb_reader/row.h"
+#include "mdb_reader/table_scan.h"
 
 using MdbProtocol::CellType;
 
 namespace {
+
+constexpr std::uint32_t CatalogPage = 2;
+constexpr std::uint32_t PageBits = 0xffffff;
+constexpr std::uint16_t TypeBits = 0x7f;
+constexpr std::uint32_t SystemFlags = 0x80000002;
 
 CellType cellType(int storedType) {
     switch (storedType) {
@@ -52,20 +63,28 @@ Column readColumn(const MdbColumn &stored, bool jet3) {
     return column;
 }
 
-Table readTable(MdbCatalogEntry *entry, bool jet3) {
-    const std::unique_ptr<MdbTableDef, void (*)(MdbTableDef *)> stored(mdb_read_table(entry),
-                                                                       mdb_free_tabledef);
-    if (!stored || !mdb_read_columns(stored.get())) throw Damaged("unreadable table definition");
-    Table table;
-    table.name = entry->object_name;
-    table.rows = stored->num_rows;
-    table.definitionPage = static_cast<std::uint32_t>(entry->table_pg);
-    table.hasVariablePart = stored->num_var_cols > 0;
-    table.usageMap.assign(stored->usage_map, stored->usage_map + stored->map_sz);
-    for (guint i = 0; i < stored->columns->len; ++i)
-        table.columns.push_back(
-            readColumn(*static_cast<const MdbColumn *>(g_ptr_array_index(stored->columns, i)), jet3));
-    return table;
+const Column &columnOf(const Table &table, const char *name, CellType type) {
+    for (const Column &column : table.columns)
+        if (column.name == name && column.type == type) return column;
+    throw Damaged("catalog without its columns");
+}
+
+/// Null counts as 0.
+template <typename Number>
+Number number(const Row &row, const Column &column) {
+    Number value = 0;
+    const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
+    if (cell.size >= sizeof value) std::memcpy(&value, cell.data, sizeof value);
+    return value;
+}
+
+std::string utf8(const std::u16string &text) {
+    const std::unique_ptr<char, void (*)(void *)> converted(
+        g_utf16_to_utf8(reinterpret_cast<const gunichar2 *>(text.data()), static_cast<glong>(text.size()),
+                        nullptr, nullptr, nullptr),
+        g_free);
+    if (!converted) throw Damaged("name that is no text");
+    return converted.get();
 }
 
 /// Adds the pages whose bits are set in `bits`; the first bit stands for `first`.
@@ -96,12 +115,44 @@ AccessFile::~AccessFile() {
     if (m_file >= 0) close(m_file);
 }
 
+Table AccessFile::readTable(const std::string &name, std::uint32_t definitionPage) {
+    MdbCatalogEntry entry = {};
+    entry.mdb = m_handle;
+    entry.object_type = MDB_TABLE;
+    entry.table_pg = definitionPage;
+    std::snprintf(entry.object_name, sizeof entry.object_name, "%s", name.c_str());
+    const std::unique_ptr<MdbTableDef, void (*)(MdbTableDef *)> stored(mdb_read_table(&entry),
+                                                                       mdb_free_tabledef);
+    if (!stored || !mdb_read_columns(stored.get())) throw Damaged("unreadable table definition");
+    Table table;
+    table.name = name;
+    table.rows = stored->num_rows;
+    table.definitionPage = definitionPage;
+    table.hasVariablePart = stored->num_var_cols > 0;
+    table.usageMap.assign(stored->usage_map, stored->usage_map + stored->map_sz);
+    for (guint i = 0; i < stored->columns->len; ++i)
+        table.columns.push_back(
+            readColumn(*static_cast<const MdbColumn *>(g_ptr_array_index(stored->columns, i)), m_jet3));
+    return table;
+}
+
 void AccessFile::readCatalog() {
-    const GPtrArray *entries = mdb_read_catalog(m_handle, MDB_TABLE);
-    if (!entries) throw Damaged("unreadable catalog");
-    for (guint i = 0; i < entries->len; ++i) {
-        auto *entry = static_cast<MdbCatalogEntry *>(g_ptr_array_index(entries, i));
-        if (mdb_is_user_table(entry)) m_tables.push_back(readTable(entry, m_jet3));
+    const Table catalog = readTable("MSysObjects", CatalogPage);
+    const Column &id = columnOf(catalog, "Id", CellType::Long);
+    const Column &name = columnOf(catalog, "Name", CellType::Text);
+    const Column &type = columnOf(catalog, "Type", CellType::Integer);
+    const Column &flags = columnOf(catalog, "Flags", CellType::Long);
+    const CellText texts(m_handle, m_jet3);
+    std::u16string text;
+    TableScan scan(*this, catalog);
+    for (const std::uint32_t page : scan.pages()) {
+        scan.visit(page, [&](const Row &row) {
+            if ((number<std::uint16_t>(row, type) & TypeBits) != MDB_TABLE) return;
+            if ((number<std::uint32_t>(row, flags) & SystemFlags) != 0) return;
+            const CellBytes cell = row.bit(name) ? row.cell(name) : CellBytes();
+            texts.decode(cell.data, cell.size, text);
+            m_tables.push_back(readTable(utf8(text), number<std::uint32_t>(row, id) & PageBits));
+        });
     }
 }
 

@@ -38,7 +38,8 @@ struct Table {
 
 class AccessFile {
 public:
-    /// Reads the catalog. Raises Damaged for what is no Access file.
+    /// Reads the catalog, by hand: libmdb passes over what it cannot read, and a table would be missing.
+    /// Raises Damaged for what is no Access file, too.
     explicit AccessFile(const char *path);
     ~AccessFile();
     AccessFile(const AccessFile &) = delete;
@@ -54,6 +55,7 @@ public:
     std::vector<std::uint32_t> pagesOf(const Table &table) const;
 
 private:
+    Table readTable(const std::string &name, std::uint32_t definitionPage);
     void readCatalog();
 
     MdbHandle *m_handle = nullptr;

@@ -4,12 +4,10 @@
 
 #include "mdb_reader/bytes.h"
 #include "mdb_reader/damaged.h"
-#include "mdb_reader/data_page.h"
 
 namespace {
 
 constexpr std::uint64_t AllGroups = ~std::uint64_t(0);
-constexpr int MostMoves = 16;
 
 class KeyHash {
 public:
@@ -61,12 +59,9 @@ std::int32_t integerOf(const Column &column, const CellBytes &cell) {
 
 TableSearch::TableSearch(const AccessFile &file, const Table &table)
     : m_table(table)
-    , m_jet3(file.isJet3())
     , m_texts(file.handle(), file.isJet3())
-    , m_pages(file.pages())
-    , m_movedRows(file.pages())
-    , m_writer(file, table)
-    , m_owned(file.pagesOf(table)) {}
+    , m_scan(file, table)
+    , m_writer(file, table) {}
 
 void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
     m_writer.restart();
@@ -82,12 +77,12 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
     }
     const Groups wanted = known ? key.group() : AllGroups;
 
-    for (std::size_t i = 0; i < m_owned.size(); ++i) {
-        if (i < groups.ofPage.size()) {
-            if ((groups.ofPage[i] & wanted) != 0) searchPage(m_owned[i], conditions, reply);
-        } else {
-            groups.ofPage.push_back(searchPage(m_owned[i], conditions, reply));
-        }
+    for (std::size_t i = 0; i < m_scan.pages().size(); ++i) {
+        const std::uint32_t page = m_scan.pages()[i];
+        if (i >= groups.ofPage.size())
+            groups.ofPage.push_back(searchPage(page, conditions, reply));
+        else if ((groups.ofPage[i] & wanted) != 0)
+            searchPage(page, conditions, reply);
         if (i % 64 == 0) reply.stillBusy();
     }
     reply.endRows();
@@ -104,35 +99,15 @@ TableSearch::PageGroups &TableSearch::groupsBy(const std::vector<Condition> &con
     return m_groups.back();
 }
 
-TableSearch::Groups TableSearch::searchPage(std::uint32_t number, const std::vector<Condition> &conditions,
+TableSearch::Groups TableSearch::searchPage(std::uint32_t page, const std::vector<Condition> &conditions,
                                             Reply &reply) {
-    const DataPage page(m_pages.at(number), m_pages.pageSize(), m_jet3);
-    // A map sometimes lists a page that has gone to another table.
-    if (!page.belongsTo(m_table.definitionPage)) return 0;
     Groups groups = 0;
-    for (std::size_t i = 0; i < page.slots(); ++i) {
-        const Slot slot = page.slot(i);
-        if (slot.hidden || slot.size == 0) continue;
-        if (slot.moved && slot.size < 4) throw Damaged("moved row without a place");
-        const Row row =
-            slot.moved ? follow(bytes::u32(slot.data)) : Row(slot.data, slot.size, m_table, m_jet3);
+    m_scan.visit(page, [&](const Row &row) {
         const Match found = match(row, conditions);
         groups |= found.groups;
         if (found.found) m_writer.write(row, reply);
-    }
+    });
     return groups;
-}
-
-Row TableSearch::follow(std::uint32_t place) {
-    for (int moves = 0; moves < MostMoves; ++moves) {
-        const DataPage page(m_movedRows.at(place >> 8), m_movedRows.pageSize(), m_jet3);
-        if (!page.belongsTo(m_table.definitionPage)) throw Damaged("row moved out of its table");
-        const Slot slot = page.slot(place & 0xff);
-        if (!slot.moved) return Row(slot.data, slot.size, m_table, m_jet3);
-        if (slot.size < 4) throw Damaged("moved row without a place");
-        place = bytes::u32(slot.data);
-    }
-    throw Damaged("row that moves in a circle");
 }
 
 TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {

@@ -11,6 +11,7 @@
 #include "mdb_reader/reply.h"
 #include "mdb_reader/row.h"
 #include "mdb_reader/row_writer.h"
+#include "mdb_reader/table_scan.h"
 
 /// A column, by its position, and what it must hold.
 struct Condition {
@@ -47,18 +48,13 @@ private:
     PageGroups &groupsBy(const std::vector<Condition> &conditions);
     /// Sends the page's matching rows. Gives the groups of all of them.
     Groups searchPage(std::uint32_t page, const std::vector<Condition> &conditions, Reply &reply);
-    /// Where the row really lies.
-    Row follow(std::uint32_t place);
     Match match(const Row &row, const std::vector<Condition> &conditions);
     Match compare(const std::vector<CellBytes> &cells, const std::vector<Condition> &conditions);
 
     const Table &m_table;
-    bool m_jet3;
     CellText m_texts;
-    Pages m_pages;
-    Pages m_movedRows;
+    TableScan m_scan;
     RowWriter m_writer;
-    std::vector<std::uint32_t> m_owned;
     std::vector<PageGroups> m_groups;
     std::vector<CellBytes> m_cells;
     std::vector<std::uint8_t> m_key; // the stored bytes of the cells that are compared

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "platform/dao/date_serial.h"
+
 namespace {
 
 constexpr int MillisecondsPerDay = 24 * 60 * 60 * 1000;
@@ -21,7 +23,7 @@ QDateTime dateOfNumber(double days) {
     const double milliseconds = std::round(days * MillisecondsPerDay);
     const double day = std::floor(milliseconds / MillisecondsPerDay);
     const int time = static_cast<int>(milliseconds - day * MillisecondsPerDay);
-    return QDateTime(dayZero().addDays(static_cast<qint64>(day)), QTime::fromMSecsSinceStartOfDay(time));
+    return calendarMoment(dayZero().addDays(static_cast<qint64>(day)), QTime::fromMSecsSinceStartOfDay(time));
 }
 
 std::optional<double> dateNumberOfLiteral(const QString &text) {

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 
+/// Unlike the serials in a file this counts forward everywhere, so that it sorts.
 double dateNumber(const QDateTime &moment);
 /// To the nearest millisecond, local time.
 QDateTime dateOfNumber(double days);

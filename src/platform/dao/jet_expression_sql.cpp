@@ -44,7 +44,7 @@ private:
 SqlText joined(const std::vector<SqlText> &items) {
     SqlText list;
     for (const SqlText &item : items) {
-        if (!list.text.isEmpty()) list += ", ";
+        if (!list.text.isEmpty() && !item.text.isEmpty()) list += ", ";
         list += item;
     }
     return list;

@@ -104,6 +104,7 @@ SqlText JetTranslator::query(const JetSelect &select, const std::vector<JetColum
     sql += joined(values(columns)) + m_sql.body(select);
     SqlText order = isAggregate(select) ? groupedOrder(select, columns) : this->order(select, columns);
     if (select.distinct) order = distinctOrder(select, columns);
+    if (!isSummary(select)) order = joined({order, "t0.rowid"});
     return order.text.isEmpty() ? sql : sql + " order by " + order;
 }
 

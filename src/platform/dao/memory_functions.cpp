@@ -76,9 +76,29 @@ void doubleText(sqlite3_context *context, int, sqlite3_value **arguments) {
     numberText(context, arguments, [](double number) { return CStr(number); });
 }
 
+// A column holds the same few dates many times over, and to write one down takes long.
+class DateTexts {
+public:
+    const QString &of(double days) {
+        const RegionalSettings &settings = RegionalSettings::current();
+        const QString notation = settings.shortDateFormat + '\n' + settings.timeFormat;
+        if (notation != m_notation || m_texts.size() >= MaximumSize) m_texts.clear();
+        m_notation = notation;
+        QString &text = m_texts[days];
+        if (text.isEmpty()) text = settings.dateText(dateOfNumber(days));
+        return text;
+    }
+
+private:
+    static constexpr qsizetype MaximumSize = 10000;
+
+    QString m_notation;
+    QHash<double, QString> m_texts;
+};
+
 void dateText(sqlite3_context *context, int, sqlite3_value **arguments) {
-    numberText(context, arguments,
-               [](double days) { return RegionalSettings::current().dateText(dateOfNumber(days)); });
+    thread_local DateTexts texts;
+    numberText(context, arguments, [](double days) { return texts.of(days); });
 }
 
 } // namespace

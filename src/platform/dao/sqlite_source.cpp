@@ -119,6 +119,7 @@ void SqliteSource::Closer::operator()(sqlite3_stmt *statement) const {
 
 SqliteSource::SqliteSource(QString path)
     : m_path(std::move(path)) {
+    if (!isSqliteFile(m_path)) raiseDamaged(); // SQLite takes an empty file for an empty database
     const QByteArray address =
         QUrl::fromLocalFile(QFileInfo(m_path).absoluteFilePath()).toEncoded() + "?mode=ro&immutable=1";
     sqlite3 *database = nullptr;

@@ -1,10 +1,13 @@
 #include "platform/dao/table_store.h"
 
+#include "platform/dao/file_lock.h"
 #include "platform/dao/jet_errors.h"
 #include "platform/dao/memory_database.h"
 
-TableStore::TableStore(std::unique_ptr<TableSource> source, qint64 wholeTableLimit)
-    : m_source(std::move(source))
+TableStore::TableStore(std::unique_ptr<TableSource> source, std::unique_ptr<FileLock> lock,
+                       qint64 wholeTableLimit)
+    : m_lock(std::move(lock))
+    , m_source(std::move(source))
     , m_wholeTableLimit(wholeTableLimit)
     , m_database(std::make_shared<MemoryDatabase>()) {
     for (const QString &name : m_source->tableNames()) {

@@ -14,6 +14,7 @@
 #include "platform/dao/key_condition.h"
 #include "platform/dao/table_source.h"
 
+class FileLock;
 class MemoryDatabase;
 
 /// What one SELECT needs of a table: its rows in memory once load() has brought them.
@@ -30,7 +31,9 @@ public:
     /// A table of more rows than this is read by key where a statement gives one.
     static constexpr qint64 WholeTableLimit = 20000;
 
-    explicit TableStore(std::unique_ptr<TableSource> source, qint64 wholeTableLimit = WholeTableLimit);
+    /// `lock` is held as long as the file is open.
+    explicit TableStore(std::unique_ptr<TableSource> source, std::unique_ptr<FileLock> lock = nullptr,
+                        qint64 wholeTableLimit = WholeTableLimit);
     ~TableStore();
 
     /// Capitals do not count.
@@ -61,6 +64,7 @@ private:
 
     void loadKey(StoredTable &stored, const KeyCondition &keys);
 
+    std::unique_ptr<FileLock> m_lock;
     std::unique_ptr<TableSource> m_source;
     qint64 m_wholeTableLimit;
     std::shared_ptr<MemoryDatabase> m_database;

@@ -1,0 +1,45 @@
+#include "mdb_reader/table_scan.h"
+
+#include "mdb_reader/bytes.h"
+#include "mdb_reader/damaged.h"
+#include "mdb_reader/data_page.h"
+
+namespace {
+
+constexpr int MostMoves = 16;
+
+std::uint32_t newPlace(const Slot &slot) {
+    if (slot.size < 4) throw Damaged("moved row without a place");
+    return bytes::u32(slot.data);
+}
+
+} // namespace
+
+TableScan::TableScan(const AccessFile &file, const Table &table)
+    : m_table(table)
+    , m_jet3(file.isJet3())
+    , m_pages(file.pages())
+    , m_movedRows(file.pages())
+    , m_owned(file.pagesOf(table)) {}
+
+void TableScan::visit(std::uint32_t number, const std::function<void(const Row &row)> &visitor) {
+    const DataPage page(m_pages.at(number), m_pages.pageSize(), m_jet3);
+    // A map sometimes lists a page that has gone to another table.
+    if (!page.belongsTo(m_table.definitionPage)) return;
+    for (std::size_t i = 0; i < page.slots(); ++i) {
+        const Slot slot = page.slot(i);
+        if (slot.hidden || slot.size == 0) continue;
+        visitor(slot.moved ? follow(newPlace(slot)) : Row(slot.data, slot.size, m_table, m_jet3));
+    }
+}
+
+Row TableScan::follow(std::uint32_t place) {
+    for (int moves = 0; moves < MostMoves; ++moves) {
+        const DataPage page(m_movedRows.at(place >> 8), m_movedRows.pageSize(), m_jet3);
+        if (!page.belongsTo(m_table.definitionPage)) throw Damaged("row moved out of its table");
+        const Slot slot = page.slot(place & 0xff);
+        if (!slot.moved) return Row(slot.data, slot.size, m_table, m_jet3);
+        place = newPlace(slot);
+    }
+    throw Damaged("row that moves in a circle");
+}

@@ -1,0 +1,60 @@
+#include "platform/dao/db_engine.h"
+
+#include <QFileInfo>
+
+#include "platform/dao/access_header.h"
+#include "platform/dao/access_source.h"
+#include "platform/dao/database.h"
+#include "platform/dao/file_lock.h"
+#include "platform/dao/sqlite_source.h"
+#include "platform/dao/table_store.h"
+#include "platform/runtime/runtime_error.h"
+
+namespace {
+
+QString passwordOf(const QString &connect) {
+    for (const QString &part : connect.split(';'))
+        if (part.startsWith(QLatin1String("pwd="), Qt::CaseInsensitive)) return part.mid(4);
+    return {};
+}
+
+std::unique_ptr<TableSource> openSource(const QString &path, const QString &password) {
+    if (const std::optional<AccessHeader> header = AccessHeader::read(path)) {
+        if (!header->accepts(password)) throw RuntimeError(3031);
+        return std::make_unique<AccessSource>(path);
+    }
+    if (SqliteSource::isSqliteFile(path)) return std::make_unique<SqliteSource>(path);
+    throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
+}
+
+} // namespace
+
+DBEngine &DBEngine::instance() {
+    static DBEngine engine;
+    return engine;
+}
+
+std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclusive, bool,
+                                                 const QString &connect) {
+    const QFileInfo file(path);
+    if (!path.isEmpty() && !QFileInfo(file.absolutePath()).isDir())
+        throw RuntimeError(3044, QString("'%1' is not a valid path.  Make sure that the path name is spelled "
+                                         "correctly and that you are connected to the server on which the "
+                                         "file resides.")
+                                     .arg(path));
+    if (path.isEmpty() || !file.exists())
+        throw RuntimeError(3024, QString("Could not find file '%1'.").arg(path));
+    if (!file.isFile() || !file.isReadable())
+        throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
+
+    m_open.removeIf([](const auto &entry) { return entry.value().expired(); });
+    const QString identity = file.canonicalFilePath();
+    std::shared_ptr<TableStore> store = m_open.value(identity).lock();
+    if (!store) {
+        const auto kind = exclusive ? FileLock::Kind::Exclusive : FileLock::Kind::Shared;
+        auto lock = std::make_unique<FileLock>(path, kind);
+        store = std::make_shared<TableStore>(openSource(path, passwordOf(connect)), std::move(lock));
+        m_open.insert(identity, store);
+    }
+    return std::make_shared<Database>(file.absoluteFilePath(), store);
+}

@@ -1,0 +1,154 @@
+// Real Access files against their texts.
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QMap>
+
+#include <sys/wait.h>
+
+#include "tests/dao/source_support.h"
+#include "tests/support/csv_table.h"
+
+namespace {
+
+struct Sample {
+    const char *file;
+    const char *folder;
+    int tables;
+};
+const Sample Samples[] = {{"Velmar_PED.mdb", "csv", 27}, {"PMA_Index.mdb", "pma-csv", 1}};
+
+bool isInteger(FieldType type) {
+    return type == FieldType::Byte || type == FieldType::Integer || type == FieldType::Long;
+}
+
+/// Every key reads what the whole table has of it: the first search of a table and the later ones differ in
+/// what they look at.
+void expectKeysAgree(AccessSource &source, const QString &table, qsizetype column) {
+    const Rows rows = allRows(source, table);
+    const QString name = source.fields(table)[column].name;
+    QMap<QString, Rows> byKey;
+    for (const QVector<QVariant> &row : rows)
+        if (row[column].isValid()) byKey[row[column].toString().toCaseFolded()].append(row);
+    for (const Rows &expected : qAsConst(byKey)) {
+        const QVariant key = expected.first()[column];
+        const QVariant asked = key.typeId() == QMetaType::QString ? QVariant(key.toString().toUpper()) : key;
+        ASSERT_EQ(rowTexts(matchingRows(source, table, {{name.toUpper(), asked}})), rowTexts(expected))
+            << table.toStdString() << "." << name.toStdString() << " = " << cellText(asked);
+    }
+    EXPECT_TRUE(matchingRows(source, table, {{name, QVariant()}}).isEmpty());
+}
+
+} // namespace
+
+TEST(AccessSource, EveryTableEqualsItsText) {
+    for (const Sample &sample : Samples) {
+        AccessSource source(samplePath(sample.file), helperPath());
+        EXPECT_EQ(source.tableNames().size(), sample.tables);
+        for (const QString &table : source.tableNames()) {
+            const CsvTable expected = CsvTable::read(samplePath(sample.folder) + "/" + table + ".csv");
+            EXPECT_EQ(source.fields(table), expected.fields) << table.toStdString();
+            EXPECT_EQ(source.rowCount(table), expected.rows.size()) << table.toStdString();
+            EXPECT_EQ(rowTexts(allRows(source, table)), rowTexts(expected.rows)) << table.toStdString();
+        }
+    }
+}
+
+TEST(AccessSource, KeyReadsEqualFilteredFullReads) {
+    for (const Sample &sample : Samples) {
+        AccessSource source(samplePath(sample.file), helperPath());
+        for (const QString &table : source.tableNames()) {
+            const FieldDefinitions fields = source.fields(table);
+            for (qsizetype i = 0; i < fields.size(); ++i)
+                if (isInteger(fields[i].type) || fields[i].type == FieldType::Text)
+                    expectKeysAgree(source, table, i);
+        }
+    }
+}
+
+TEST(AccessSource, SeveralConditionsMustAllHold) {
+    AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    const QVector<ColumnCondition> grade = {
+        {"standard", "en 10028-2"}, {"name", "p265gh"}, {"numbr", "1.0425"}, {"elemID", 101}};
+    for (int i = 0; i < 2; ++i) {
+        const Rows rows = matchingRows(source, "Chemical", grade);
+        ASSERT_EQ(rows.size(), 1);
+        EXPECT_EQ(rows[0][1], "P265GH");
+        EXPECT_EQ(rows[0][3], 101);
+        EXPECT_TRUE(matchingRows(source, "Chemical", {{"name", "P265GH"}, {"numbr", "1.0345"}}).isEmpty());
+    }
+}
+
+TEST(AccessSource, RefusesConditionsThatMakeNoSense) {
+    AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    const auto ask = [&](const QString &column, const QVariant &value) {
+        return errorOf([&] { matchingRows(source, "Rp02", {{column, value}}); });
+    };
+    EXPECT_EQ(ask("missing", 1), 3265);
+    EXPECT_EQ(ask("matID", "1"), 3421);
+    EXPECT_EQ(ask("temp", 50), 3421); // a Single
+    EXPECT_EQ(ask("Rp02", 227), 3421);
+    EXPECT_EQ(ask("matID", qint64(1) << 40), 0);
+    EXPECT_TRUE(matchingRows(source, "Rp02", {{"matID", (qint64(1) << 32) + 1}}).isEmpty());
+}
+
+TEST(AccessSource, HelperThatHasGoneIsStartedAgain) {
+    AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    const Rows before = allRows(source, "Units");
+    const pid_t first = source.helperId();
+    kill(first, SIGKILL);
+    siginfo_t end;
+    waitid(P_PID, static_cast<id_t>(first), &end, WEXITED | WNOWAIT);
+    EXPECT_EQ(rowTexts(allRows(source, "Units")), rowTexts(before));
+    EXPECT_NE(source.helperId(), first);
+}
+
+TEST(AccessSource, HelperThatStaysSilentIsADamagedFile) {
+    AccessSource source(samplePath("Velmar_PED.mdb"), helperPath(), 200);
+    kill(source.helperId(), SIGSTOP);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(errorOf([&] { allRows(source, "Units"); }), 3343);
+    EXPECT_LT(clock.elapsed(), 1000);
+    EXPECT_EQ(allRows(source, "Units").size(), 7);
+}
+
+TEST(AccessSource, SinkThatRaisesLeavesTheSourceUsable) {
+    AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    EXPECT_EQ(errorOf([&] {
+                  source.readAll("Chemical", [](const QVector<QVariant> &) { throw RuntimeError(6); });
+              }),
+              6);
+    EXPECT_EQ(allRows(source, "Units").size(), 7);
+}
+
+TEST(AccessSource, HelperThatTalksNonsenseIsADamagedFile) {
+    const QTemporaryDir folder;
+    const char *const scripts[] = {
+        "exit 1",
+        "kill -SEGV $$",
+        "exec sleep 30",
+        "exec yes",
+        "exec cat /dev/zero",
+        "printf '\\377\\377\\377\\377\\001'",                     // a frame of 4 GB
+        "printf '\\377\\377\\377\\007\\001'; exec sleep 30",      // one of 128 MB that never comes
+        "printf '\\003\\0\\0\\0\\001\\001\\0'",                   // a catalog cut off
+        "printf '\\003\\0\\0\\0\\001\\377\\377'",                 // 65535 tables, none there
+        "printf '\\003\\0\\0\\0\\002\\0\\0'",                     // rows nobody asked for
+        "printf '\\011\\0\\0\\0\\001\\001\\0\\001\\0T\\0\\0\\0'", // a table's rows cut off
+    };
+    for (const char *script : scripts) {
+        const QString helper = writeFile(folder, "helper", QByteArray("#!/bin/sh\n") + script + "\n");
+        QFile::setPermissions(helper, QFile::ReadOwner | QFile::ExeOwner);
+        QElapsedTimer clock;
+        clock.start();
+        EXPECT_EQ(errorOf([&] { AccessSource(samplePath("Velmar_PED.mdb"), helper, 300); }), 3343) << script;
+        EXPECT_LT(clock.elapsed(), 2000) << script;
+        QFile::remove(helper);
+    }
+    EXPECT_EQ(errorOf([&] { AccessSource(samplePath("Velmar_PED.mdb"), folder.filePath("none")); }), 53);
+}

@@ -1,0 +1,78 @@
+// What the tests of table sources share.
+#pragma once
+
+#include <ostream>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/dao/access_source.h"
+#include "platform/runtime/runtime_error.h"
+
+using Rows = QVector<QVector<QVariant>>;
+
+inline QString samplePath(const QString &name) {
+    return QStringLiteral(SOURCE_FOLDER "/sample/") + name;
+}
+
+inline QString helperPath() {
+    return QStringLiteral(BINARY_FOLDER "/mdb_reader");
+}
+
+inline Rows allRows(TableSource &source, const QString &table) {
+    Rows rows;
+    source.readAll(table, [&](const QVector<QVariant> &row) { rows.append(row); });
+    return rows;
+}
+
+inline Rows matchingRows(TableSource &source, const QString &table,
+                         const QVector<ColumnCondition> &conditions) {
+    Rows rows;
+    source.readMatching(table, conditions, [&](const QVector<QVariant> &row) { rows.append(row); });
+    return rows;
+}
+
+/// 0 where nothing is raised.
+template <typename Action>
+int errorOf(Action action) {
+    try {
+        action();
+    } catch (const RuntimeError &error) {
+        return error.number();
+    }
+    return 0;
+}
+
+inline QByteArray fileBytes(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline QString writeFile(const QTemporaryDir &folder, const QString &name, const QByteArray &bytes) {
+    QFile file(folder.filePath(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(bytes);
+    return file.fileName();
+}
+
+/// A cell with its type, so that 1 and 1.0 and "1" differ, and Null and "".
+inline std::string cellText(const QVariant &cell) {
+    return std::string(cell.isValid() ? cell.typeName() : "Null") + ":" +
+           (cell.typeId() == QMetaType::QDateTime ? cell.toDateTime().toString(Qt::ISODateWithMs)
+                                                  : cell.toString())
+               .toStdString();
+}
+
+inline std::string rowText(const QVector<QVariant> &row) {
+    std::string text;
+    for (const QVariant &cell : row)
+        text += cellText(cell) + "|";
+    return text;
+}
+
+inline std::vector<std::string> rowTexts(const Rows &rows) {
+    std::vector<std::string> texts;
+    for (const QVector<QVariant> &row : rows)
+        texts.push_back(rowText(row));
+    return texts;
+}
