@@ -1,0 +1,42 @@
+#include "material/GraphSwitch.h"
+
+#include "material/material_layout.h"
+#include "material/MaterialControls.h"
+
+using namespace MaterialLayout;
+
+GraphSwitch::GraphSwitch(MaterialControls &controls)
+    : m_controls(controls) {}
+
+void GraphSwitch::SetShowButtons(bool offerGraph) {
+    m_controls.CommandShowGraph->setVisible(offerGraph);
+    m_controls.CommandShowTable->setVisible(!offerGraph);
+}
+
+void GraphSwitch::ShowChartFrames(bool graph) {
+    if (graph)
+        place(m_controls.framBlank, OptionsLeft, OpenNotesTop, OptionsWidth, OpenNotesHeight);
+    else
+        ResetBlank();
+    m_controls.framBlank->setVisible(graph);
+    m_controls.framChart->setVisible(graph);
+    // The symbol in the notes panel is hidden with it.
+    m_controls.ImgPic(2)->setVisible(graph);
+    m_controls.tdbBoundTable->setVisible(!graph);
+    m_controls.framNotes->setVisible(!graph);
+    if (!graph) m_controls.lblFullForm->show();
+}
+
+void GraphSwitch::ShowUnboundGraph(bool graph) {
+    for (QWidget *part :
+         {static_cast<QWidget *>(m_controls.framBlank), static_cast<QWidget *>(m_controls.framChart),
+          static_cast<QWidget *>(m_controls.framAxisCols), static_cast<QWidget *>(m_controls.ImgPic(2))})
+        part->setVisible(graph);
+    m_controls.framNotes->setVisible(!graph);
+    m_controls.tdbTable->setVisible(!graph);
+}
+
+void GraphSwitch::ResetBlank() {
+    const QRect options = placeOf(m_controls.framOptions);
+    place(m_controls.framBlank, options.left(), options.top(), options.width(), options.height());
+}

@@ -1,0 +1,140 @@
+#include "material/NotesPanel.h"
+
+#include "data/Material.h"
+#include "data/queries.h"
+#include "data/table_vocabulary.h"
+#include "material/cell_values.h"
+#include "material/material_layout.h"
+#include "material/material_texts.h"
+#include "material/MaterialControls.h"
+#include "material/MaterialSources.h"
+#include "platform/dao/recordset.h"
+#include "shell/mdiVelmar.h"
+
+using namespace MaterialLayout;
+
+namespace {
+
+constexpr int Closed = 0;
+constexpr int Open = 1;
+constexpr int Attention = 2;
+
+void placeIn(QWidget *widget, const QRect &twips) {
+    place(widget, twips.left(), twips.top(), twips.width(), twips.height());
+}
+
+void setHeight(QWidget *widget, int twips) {
+    resizeTo(widget, placeOf(widget).width(), twips);
+}
+
+} // namespace
+
+NotesPanel::NotesPanel(MaterialControls &controls, DataControl &dtaNotes, DataControl &dtaTableNotes)
+    : m_controls(controls)
+    , m_dtaNotes(dtaNotes)
+    , m_dtaTableNotes(dtaTableNotes) {}
+
+void NotesPanel::StorePlace() {
+    mNotesPlace = {placeOf(m_controls.txtNotes), placeOf(m_controls.framNotes)};
+}
+
+void NotesPanel::Reset() {
+    SizeForNotes("hide");
+    setButtonPicture(Closed);
+    m_controls.TimerFlash->stop();
+    moveTo(m_controls.lblNotes, NotesLabelLeft, placeOf(m_controls.lblNotes).top());
+    m_controls.lblNotes->hide();
+    m_controls.lblNotes->setText("Notes...");
+    m_controls.framNotes->hide();
+    setText({});
+    placeIn(m_controls.txtNotes, mNotesPlace.text);
+    placeIn(m_controls.framNotes, mNotesPlace.frame);
+}
+
+void NotesPanel::ShowAsPage() {
+    const QRect page = placeOf(m_controls.lblFullForm);
+    const QRect frame(page.left() + InfoMargin, page.top() + InfoMargin, page.width() - 2 * InfoMargin,
+                      page.height() - 2 * InfoMargin);
+    placeIn(m_controls.framNotes, frame);
+    setHeight(m_controls.txtNotes, frame.height() - InfoTextMargin);
+    m_controls.txtNotes->setFocusPolicy(Qt::StrongFocus);
+    moveTo(m_controls.lblNotes, InfoLabelLeft, placeOf(m_controls.lblNotes).top());
+    showCaption("Additional Information...");
+    m_controls.framNotes->show();
+}
+
+void NotesPanel::LoadNotes(Material &material, const QString &key) {
+    MaterialSources::Run(m_dtaNotes, Queries::sqlMaterialNotes(material.ID(), key));
+    m_dtaTableNotes.Refresh();
+    const auto rows = m_dtaNotes.recordset()->Clone();
+    m_hasNotes = !rows->Eof();
+    m_controls.cmdShowNotes->setVisible(m_hasNotes);
+    m_controls.lblNotes->setVisible(m_hasNotes);
+    if (!m_hasNotes) return;
+
+    QStringList notes;
+    const auto texts = m_dtaTableNotes.recordset();
+    for (; !rows->Eof(); rows->MoveNext()) {
+        texts->FindFirst(Queries::critTableNote(cellText(rows->Fields("notID")), key));
+        // meant so: a note without a text of its own repeats the one found before
+        notes << cellText(texts->Fields("notTxt"));
+    }
+    setText(textWithNotes(m_text, notes));
+    material.setTableNotes(TableVocabulary::GetTableIndex(key), m_text);
+    m_controls.TimerFlash->start();
+}
+
+void NotesPanel::AddOtherElements(const QString &text) {
+    setText(textWithOtherElements(text, m_text));
+    if (m_hasNotes) {
+        m_controls.lblNotes->setText("Other Elements & Notes...");
+        return;
+    }
+    m_hasNotes = true;
+    m_controls.cmdShowNotes->show();
+    showCaption("Other Elements...");
+    m_controls.TimerFlash->start();
+}
+
+void NotesPanel::setText(const QString &text) {
+    m_text = text;
+    m_controls.txtNotes->setPlainText(text);
+}
+
+void NotesPanel::SizeForNotes(const QString &state) {
+    const bool open = state == QLatin1String("show");
+    const QRect frame = placeOf(m_controls.framNotes);
+    place(m_controls.framNotes, frame.left(), open ? OpenNotesTop : ClosedNotesTop, frame.width(),
+          open ? OpenNotesHeight : ClosedNotesHeight);
+    const int height = open ? TableHeightWithNotes : TableHeight;
+    for (QWidget *table :
+         {static_cast<QWidget *>(m_controls.framOptions), static_cast<QWidget *>(m_controls.tdbBoundTable),
+          static_cast<QWidget *>(m_controls.tdbTable), static_cast<QWidget *>(m_controls.framNoData)})
+        setHeight(table, height);
+    setHeight(m_controls.txtNoData, height - 2 * NoDataMargin);
+    // The folded panel cuts the text off, so that the keyboard must not go there.
+    m_controls.txtNotes->setFocusPolicy(open ? Qt::StrongFocus : Qt::NoFocus);
+    if (mdiVelmar::instance().bToolTips)
+        m_controls.cmdShowNotes->setToolTip(open ? "Hide Table Notes" : "Show Table Notes");
+}
+
+/// Meant so: the timer runs on, and a panel that was read and closed goes on flashing.
+void NotesPanel::Toggle() {
+    const bool open = m_picture != Open;
+    setButtonPicture(open ? Open : Closed);
+    SizeForNotes(open ? "show" : "hide");
+}
+
+void NotesPanel::Flash() {
+    if (m_picture != Open) setButtonPicture(m_picture == Closed ? Attention : Closed);
+}
+
+void NotesPanel::setButtonPicture(int index) {
+    m_picture = index;
+    m_controls.cmdShowNotes->setIcon(QIcon(m_controls.imgUpDown(index)->Picture()));
+}
+
+void NotesPanel::showCaption(const QString &caption) {
+    m_controls.lblNotes->setText(caption);
+    m_controls.lblNotes->show();
+}

@@ -1,0 +1,24 @@
+// How a value from the database becomes a text of the window.
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include "platform/runtime/conversions.h"
+
+/// Null is the empty text.
+inline QString cellText(const QVariant &value) {
+    return IsNull(value) ? QString() : CStr(value);
+}
+
+/// The value as it stands; Null is the empty text.
+inline QVariant cellValue(const QVariant &value) {
+    return IsNull(value) ? QVariant(QString()) : value;
+}
+
+/// A value that a table writes where it has none.
+inline bool isNoValue(const QString &text) {
+    return text.isEmpty() || text == QLatin1String("-");
+}
+
+inline const QString LineEnd = QStringLiteral("\r\n");

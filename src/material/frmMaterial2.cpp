@@ -1,0 +1,226 @@
+#include "material/frmMaterial2.h"
+
+#include "data/Material.h"
+#include "data/modDBase.h"
+#include "data/table_vocabulary.h"
+#include "material/cell_values.h"
+#include "material/material_layout.h"
+#include "material/menu_place.h"
+#include "material/temperature_columns.h"
+#include "platform/dao/database.h"
+#include "platform/runtime/runtime_error.h"
+#include "shell/mdiVelmar.h"
+
+using namespace MaterialLayout;
+
+namespace {
+
+/// The number of a page's symbol in the main window's image list.
+int symbolOf(const QString &key) {
+    if (key == QLatin1String("ChemComp")) return 7;
+    if (key == QLatin1String("MechProp") || key == QLatin1String("CreepProp") || isElevatedKey(key)) return 8;
+    if (key == QLatin1String("ImpEnergy")) return 9;
+    return key == QLatin1String("AddInfo") ? 11 : 10;
+}
+
+} // namespace
+
+frmMaterial2::frmMaterial2()
+    : Form("frmMaterial2", Kind::MdiChild)
+    , MaterialControls(static_cast<QWidget &>(*this))
+    , MaterialSources(static_cast<QObject &>(*this))
+    , m_graphs(*this)
+    , m_notes(*this, *dtaNotes, *dtaTableNotes)
+    , m_noData(*this, m_graphs)
+    , m_unboundGrid(*tdbTable)
+    , m_references(*this, *dtaTable)
+    , m_composition(m_unboundGrid, *dtaTable, *dtaOther, m_notes)
+    , m_unboundTables(*this, *this, m_unboundGrid, m_notes, m_noData)
+    , m_boundTables(*this, *dtaTable, m_noData)
+    , m_addInfo(*dtaTable, *dtaOther, m_notes) {
+    setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
+    setWidth(WindowWidth);
+    setHeight(WindowHeight);
+    connectControls();
+}
+
+frmMaterial2::~frmMaterial2() = default;
+
+void frmMaterial2::connectControls() {
+    connect(cmdShowNotes, &QPushButton::clicked, this, [this] { m_notes.Toggle(); });
+    connect(TimerFlash, &QTimer::timeout, this, [this] { m_notes.Flash(); });
+    connect(CommandShowGraph, &QPushButton::clicked, this, [this] {
+        m_graphs.bGraphShown = true;
+        m_graphs.ShowChartFrames(true);
+        m_graphs.SetShowButtons(false);
+    });
+    connect(CommandShowTable, &QPushButton::clicked, this, [this] {
+        m_graphs.bGraphShown = false;
+        m_graphs.ShowChartFrames(false);
+        m_graphs.SetShowButtons(true);
+    });
+    connect(cmdUnBoundGraph, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(true); });
+    connect(cmdUnBoundTable, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(false); });
+    const QStringList keys{"Rp02", "Rp10", "Rm"};
+    for (int i = 0; i < keys.size(); ++i)
+        connect(optMechProp(i), &QRadioButton::clicked, this, [this, key = keys[i]] { ShowTable(key); });
+}
+
+void frmMaterial2::Form_Load() {
+    mdiVelmar &main = mdiVelmar::instance();
+    InitLayout();
+    m_notes.StorePlace();
+    for (TDBGrid *grid : {tdbTable, tdbBoundTable, tdbDesign})
+        main.SetRowColors(*grid, false);
+    if (!main.menu.mnuSettingsElem(2).Checked()) main.Do_Undo_Colour(*this);
+    m_boundTables.InitColumns();
+    lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
+    HideAll();
+    showReferences();
+}
+
+void frmMaterial2::Form_Activate() {
+    mdiVelmar::instance().SetCurrentMaterial(m_material);
+}
+
+/// The user cannot resize the window, only maximise or minimise it.
+void frmMaterial2::Form_Resize() {
+    if (WindowState() != vbNormal) return;
+    if (Width() != WindowWidth) setWidth(WindowWidth);
+    if (Height() != WindowHeight) setHeight(WindowHeight);
+}
+
+void frmMaterial2::Form_Unload(bool &) {
+    mdiVelmar &main = mdiVelmar::instance();
+    --main.iMaterialsOpen;
+    main.CountMaterialsOpen();
+    // All windows show the same table, so that its menu entry stays the current one.
+    const MenuPlace place = menuPlaceOf(strCurrentTable);
+    main.UpdateMenusAndButtons(place.group, place.index);
+    if (m_material && m_material->MyForm() == this) m_material->setMyForm(nullptr);
+}
+
+void frmMaterial2::SetMaterial(const std::shared_ptr<Material> &material) {
+    const auto &database = modDBase::dbMain();
+    if (!database) throw RuntimeError(91);
+    Aim(database->Name());
+    dtaUnits->Refresh();
+    frame()->raise();
+    m_material = material;
+    m_references.LoadProductForms(*material);
+    material->setMyForm(this);
+    m_references.Fill(*material);
+    m_unboundGrid.mTableArray = std::make_shared<XArrayDB>();
+    xDesignDB = std::make_shared<XArrayDB>();
+    strCurrentTable = "Ref";
+    material->setTableHasData("Ref", true);
+}
+
+void frmMaterial2::ShowTable(const QString &key) {
+    if (!m_material) throw RuntimeError(91);
+    Material &material = *m_material;
+    HideAll();
+    strCurrentTable = key;
+    if (key == QLatin1String("Ref")) {
+        showReferences();
+    } else if (key == QLatin1String("ChemComp")) {
+        showComposition(material);
+    } else if (key == QLatin1String("MechProp") || key == QLatin1String("CreepProp")) {
+        showUnboundTable(material, key);
+    } else if (key == QLatin1String("AddInfo")) {
+        showAddInfo(material);
+    } else if (key == QLatin1String("Design")) {
+        showDesign();
+    } else if (key == QLatin1String("Elevated")) {
+        strCurrentTable = "Rp02";
+        optMechProp(0)->setChecked(true);
+        showBoundTable(material, strCurrentTable);
+    } else {
+        showBoundTable(material, key);
+    }
+    setPageSymbol(strCurrentTable);
+}
+
+void frmMaterial2::CheckTablesForRecords() {
+    if (!m_material) throw RuntimeError(91);
+    const QString shown = strCurrentTable;
+    for (int i = 1; i < TableVocabulary::TableCount; ++i) {
+        const QString key = TableVocabulary::GetShortTableName(i);
+        if (!m_material->TableChecked(key)) ShowTable(key);
+    }
+    ShowTable(shown);
+}
+
+void frmMaterial2::HideAll() {
+    m_notes.Reset();
+    for (QWidget *part : {static_cast<QWidget *>(ImgPic(1)), static_cast<QWidget *>(ImgPic(2)),
+                          static_cast<QWidget *>(framAxisCols), static_cast<QWidget *>(framChart),
+                          static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(framMain),
+                          static_cast<QWidget *>(framStand), static_cast<QWidget *>(lblFullForm),
+                          static_cast<QWidget *>(lblMain), static_cast<QWidget *>(tdbBoundTable),
+                          static_cast<QWidget *>(framOptions), static_cast<QWidget *>(framBlank),
+                          static_cast<QWidget *>(cmdUnBoundGraph), static_cast<QWidget *>(framDesign),
+                          static_cast<QWidget *>(txtNoData), static_cast<QWidget *>(framNoData)})
+        part->hide();
+    m_graphs.ResetBlank();
+    m_boundTables.ResetColumns();
+}
+
+void frmMaterial2::showReferences() {
+    for (QWidget *part : {static_cast<QWidget *>(framMain), static_cast<QWidget *>(framStand),
+                          static_cast<QWidget *>(lblMain), static_cast<QWidget *>(ImgPic(1))})
+        part->show();
+}
+
+void frmMaterial2::showComposition(Material &material) {
+    for (QWidget *part : {static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(lblFullForm),
+                          static_cast<QWidget *>(framNotes)})
+        part->show();
+    m_unboundGrid.Clear();
+    m_notes.LoadNotes(material, "ChemComp");
+    m_composition.LoadChemical(material);
+}
+
+void frmMaterial2::showUnboundTable(Material &material, const QString &key) {
+    for (QWidget *part : {static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(lblFullForm),
+                          static_cast<QWidget *>(framNotes)})
+        part->show();
+    m_unboundGrid.Clear();
+    m_unboundTables.LoadUnboundColumns(material, key);
+    cmdUnBoundGraph->setVisible(key == QLatin1String("CreepProp") && material.TableHasData(key));
+}
+
+void frmMaterial2::showAddInfo(Material &material) {
+    m_notes.ShowAsPage();
+    lblFullForm->show();
+    m_addInfo.LoadAddInfo(material);
+    cmdShowNotes->hide();
+}
+
+void frmMaterial2::showDesign() {
+    framDesign->show();
+    lblFullForm->show();
+}
+
+void frmMaterial2::showBoundTable(Material &material, const QString &key) {
+    framOptions->show();
+    lblElevated->setVisible(isElevatedKey(key));
+    framMechOpt->setVisible(isElevatedKey(key));
+    m_graphs.SetShowButtons(!m_graphs.bGraphShown);
+    m_graphs.ShowChartFrames(m_graphs.bGraphShown);
+    lblFullForm->show();
+    m_notes.LoadNotes(material, key);
+    m_boundTables.LoadBoundTable(material, key);
+    if (isElevatedKey(key)) focusMechOption();
+}
+
+void frmMaterial2::focusMechOption() {
+    for (const auto &[index, option] : optMechProp)
+        if (option->isChecked() && !framOptions->isHidden()) option->setFocus();
+}
+
+void frmMaterial2::setPageSymbol(const QString &key) {
+    const QString picture = mdiVelmar::instance().ImageList1.Source(symbolOf(key));
+    ImgPic(0)->setPicture(picture);
+    ImgPic(2)->setPicture(picture);
+}

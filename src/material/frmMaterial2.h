@@ -1,0 +1,80 @@
+// The window of one material: thirteen tables, the design values and the graphs on one set of controls.
+#pragma once
+
+#include <memory>
+
+#include "material/AdditionalInfo.h"
+#include "material/BoundTables.h"
+#include "material/CompositionTable.h"
+#include "material/GraphSwitch.h"
+#include "material/MaterialControls.h"
+#include "material/MaterialSources.h"
+#include "material/NoDataPanel.h"
+#include "material/NotesPanel.h"
+#include "material/ReferencePage.h"
+#include "material/UnboundGrid.h"
+#include "material/UnboundTables.h"
+#include "platform/forms/form.h"
+
+class Material;
+
+/// Nothing is kept on the screen between two tables: each showing hides everything, queries the database anew
+/// and makes the few controls of that table visible. What outlives a table stays in the Material.
+class frmMaterial2 : public Form, public MaterialControls, public MaterialSources {
+    Q_OBJECT
+    Q_PROPERTY(qint16 iReportType MEMBER iReportType)
+    Q_PROPERTY(QString strCurrentTable MEMBER strCurrentTable)
+    Q_PROPERTY(QVector<bool> EmptyCreepCols READ EmptyCreepCols)
+
+public:
+    frmMaterial2();
+    ~frmMaterial2() override;
+
+    /// Reads the open database. The caller has set the caption and shows the first table.
+    void SetMaterial(const std::shared_ptr<Material> &material);
+    const std::shared_ptr<Material> &mMat() const { return m_material; }
+
+    /// A table's key, "Design", or "Elevated" for the first of the three elevated tables. Raises 91 before
+    /// SetMaterial.
+    Q_INVOKABLE void ShowTable(const QString &key);
+    /// Visits every table that was not shown yet, and comes back to the one on show.
+    Q_INVOKABLE void CheckTablesForRecords();
+    /// For each creep column as loaded: hidden for having no value.
+    QVector<bool> EmptyCreepCols() const { return m_unboundTables.columns.creep.EmptyCreepCols; }
+
+    /// What the next report holds: 0 tables, 1 the graph, 2 the design values.
+    qint16 iReportType = 0;
+    /// The key of the table on show.
+    QString strCurrentTable = QStringLiteral("Ref");
+    /// The design values: three rows a table.
+    std::shared_ptr<XArrayDB> xDesignDB;
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Resize() override;
+    void Form_Unload(bool &cancel) override;
+
+private:
+    void connectControls();
+    void HideAll();
+    void showReferences();
+    void showComposition(Material &material);
+    void showUnboundTable(Material &material, const QString &key);
+    void showAddInfo(Material &material);
+    void showDesign();
+    void showBoundTable(Material &material, const QString &key);
+    void focusMechOption();
+    void setPageSymbol(const QString &key);
+
+    std::shared_ptr<Material> m_material;
+    GraphSwitch m_graphs;
+    NotesPanel m_notes;
+    NoDataPanel m_noData;
+    UnboundGrid m_unboundGrid;
+    ReferencePage m_references;
+    CompositionTable m_composition;
+    UnboundTables m_unboundTables;
+    BoundTables m_boundTables;
+    AdditionalInfo m_addInfo;
+};
