@@ -5,6 +5,7 @@
 #include "data/modVelmar.h"
 #include "data/queries.h"
 #include "platform/dao/database.h"
+#include "platform/dao/recordset.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/report_layout.h"
 #include "shell/mdiVelmar.h"
@@ -14,39 +15,30 @@ using namespace ReportLayout;
 
 namespace {
 
-const QString LineEnd = QStringLiteral("\r\n");
-const QString EmptyLine = LineEnd + LineEnd;
+const QString EmptyLine = QStringLiteral("\r\n\r\n");
 
-constexpr int TemperatureWidth = 1500;
-constexpr int ColumnWidth = 1200;
-constexpr int CaptionTop = 420;
-constexpr int CaptionHeight = 720;
-constexpr int RowHeight = 283;
-constexpr int BatchTitleWidth = 9071;
+// With these widths eight thickness bands fill the page.
+constexpr int TemperatureWidth = 1400;
+constexpr int ColumnWidth = 1100;
+constexpr int PhysicalColumnWidth = 1700;
+constexpr int CaptionHeight = 750;
 
-struct Formula {
-    const char *name;
-    const char *picture;
-};
-
-const Formula Formulas[] = {{"imgPhys0", "modulus-of-elasticity"},  {"imgPhys1", "expansion-mean"},
-                            {"imgPhys2", "thermal-conductivity"},   {"imgPhys3", "heat-capacity-mean"},
-                            {"imgPhys4", "electrical-resistivity"}, {"imgPhys5", "heat-capacity-differential"}};
+/// The headings of physical properties as formulas, in store for imgPhysA and imgPhysB.
+const char *const Formulas[] = {"modulus-of-elasticity", "expansion-mean",         "thermal-conductivity",
+                                "heat-capacity-mean",    "electrical-resistivity", "heat-capacity-differential"};
 
 QString formulaFile(const QString &name) {
     return ":/velmar/formula/" + name + ".svg";
 }
 
 void addColumn(Section &title, Section &detail, int column, int left, int width) {
-    asCaption(addLabel(title, QStringLiteral("lblCol%1").arg(column), {}, left, CaptionTop, width, CaptionHeight));
-    asCell(addField(detail, QStringLiteral("txtField%1").arg(column), left, 0, width, RowHeight));
+    const QString number = QString::number(column);
+    asCaption(addLabel(title, "lblCol" + number, {}, left, CaptionTop, width, CaptionHeight));
+    asCell(addField(detail, "txtField" + number, left, 0, width, RowHeight));
 }
 
-/// Over a heading, which it does not show unless it is given a picture.
-Image &addHeadingPicture(Section &title, const QString &name) {
-    Image &image = addImage(title, name, {}, 0, 0, 0, 0);
-    image.Visible = false;
-    return image;
+QString bandHeading(const QString &lower, const QString &separator, int upper) {
+    return "(" + lower + separator + EmptyLine + QString::number(upper) + "mm";
 }
 
 } // namespace
@@ -56,33 +48,26 @@ actRepBound::actRepBound() {
     Section &title = AddSection(SectionType::GroupHeader, "ghTitle");
     title.RepeatOnNewPage = true;
     Section &detail = AddSection(SectionType::Detail, "Detail");
-    asHeading(addLabel(title, "lblTitle", {}, 0, 90, PageWidth, 270), 2);
+    addTitle(title, {});
     addColumn(title, detail, 1, 0, TemperatureWidth);
     for (int column = 2; column <= 4; ++column)
         addColumn(title, detail, column, TemperatureWidth + (column - 2) * ColumnWidth, ColumnWidth);
-    for (const Formula &formula : Formulas)
-        addImage(title, formula.name, formulaFile(formula.picture), 0, 0, ColumnWidth, CaptionHeight).Visible = false;
-    addHeadingPicture(title, "imgPhysA");
-    addHeadingPicture(title, "imgPhysB").Content =
-        addImage(title, "imgPhysBTemplate", formulaFile("expansion-differential"), 0, 0, 0, 0).Content;
-    title.Controls.Item("imgPhysBTemplate").Visible = false;
-    addLabel(title, "lblCompatibleData", "Compatible Data Note", 0, CaptionTop, PageWidth, RowHeight).Visible = false;
-
-    Section &notes = AddSection(SectionType::GroupFooter, "gfNotes");
-    Label &notesLabel = addLabel(notes, "lblNotes", "Notes", 0, 75, PageWidth, 240);
-    notesLabel.Font.Bold = true;
-    notesLabel.Font.Size = 9;
-    addField(notes, "txtNotes", 0, 315, PageWidth, 240).Font.Size = 9;
+    for (int i = 0; i < static_cast<int>(std::size(Formulas)); ++i)
+        addImage(title, "imgPhys" + QString::number(i), formulaFile(Formulas[i]), 0, 0, 0, 0).Visible = false;
+    addImage(title, "imgPhysA", {}, 0, 0, 0, 0).Visible = false;
+    addImage(title, "imgPhysB", formulaFile("expansion-differential"), 0, 0, 0, 0).Visible = false;
+    addLabel(title, "lblCompatibleData", "Compatible Data Note", 0, CaptionTop, PageWidth, RowHeight).Visible =
+        false;
+    addNotes(AddSection(SectionType::GroupFooter, "gfNotes"));
     AddSection(SectionType::PageFooter, "PageFooter");
 }
 
 void actRepBound::ReportStart() {
-    mdiVelmar &main = mdiVelmar::instance();
-    m_material = main.mCurrent;
+    m_material = mdiVelmar::instance().mCurrent;
     QStringList &queue = m_material->colBoundTables();
     if (queue.isEmpty()) throw RuntimeError(9);
     m_key = queue.first();
-    showColumn(1, "Temperature" + EmptyLine + "[" + QChar(0xB0) + "C]", "temp");
+    showColumn(1, "Temperature" + EmptyLine + "[°C]", "temp");
     bindRows();
     fillNotes();
     fillTitle();
@@ -104,16 +89,20 @@ void actRepBound::bindRows() {
 }
 
 void actRepBound::SetPhysicalColumns() {
-    hideColumn(4);
-    hideColumn(3);
     const QString caption = mdiVelmar::instance().GetCaption(m_key);
+    for (int column : {2, 3}) {
+        heading(column).Left = field(column).Left = TemperatureWidth + (column - 2) * PhysicalColumnWidth;
+        heading(column).Width = field(column).Width = PhysicalColumnWidth;
+    }
     showColumn(2, caption, m_key);
+    hideColumn(3);
+    hideColumn(4);
     if (m_key == QLatin1String("ModElast")) {
         showFormula(2, "imgPhys0", caption);
     } else if (m_key == QLatin1String("ThermExp")) {
-        showFormula(2, "imgPhys1", QChar(0xDF) + QStringLiteral("20, t [E-6/K]"));
+        showFormula(2, "imgPhys1", "ß20, t [E-6/K]");
         showColumn(3, {}, "ThermExpDiff");
-        showFormula(3, "imgPhysBTemplate", QChar(0xDF) + QStringLiteral("diff, t [E-6/K]"));
+        showFormula(3, "imgPhysB", "ßdiff, t [E-6/K]");
     } else if (m_key == QLatin1String("ThermCond")) {
         showFormula(2, "imgPhys2", caption);
     } else if (m_key == QLatin1String("SpecThermCap")) {
@@ -145,9 +134,8 @@ void actRepBound::SetThicknessColumns() {
     const QVector<qint16> limits = m_material->ElevatedColumns(m_key);
     const int bands = static_cast<int>(limits.size()) - 1; // the first band is element 1
     for (int band = 1; band <= std::min(bands, 3); ++band) {
-        const QString lower = band == 1 ? "   " : QString::number(limits[band - 1]);
-        const QString upper = QString::number(limits[band]);
-        showColumn(band + 1, "(" + lower + ") - " + EmptyLine + upper + "mm", upper);
+        const QString lower = band == 1 ? QStringLiteral("   ") : QString::number(limits[band - 1]);
+        showColumn(band + 1, bandHeading(lower, ") - ", limits[band]), QString::number(limits[band]));
     }
     for (int column = bands + 2; column <= 4; ++column)
         hideColumn(column);
@@ -165,50 +153,46 @@ void actRepBound::AddThicknessField(int position, int lower, int upper) {
         control.Font.Size = preceding.Font.Size;
         control.BackStyle = preceding.BackStyle;
         control.BackColor = preceding.BackColor;
-        control.Left = preceding.Left + preceding.Width;
+        control.Left = rightEdge(preceding);
         control.Border.TopStyle = control.Border.BottomStyle = control.Border.RightStyle = 1;
     };
     const QString number = QString::number(position);
     const QString preceding = QString::number(position - 1);
     ControlList &titles = Sections("ghTitle").Controls;
-    Field &caption = titles.Add<Field>("lblCol" + number);
+    auto &caption = titles.Add<Field>("lblCol" + number);
     copyLook(caption, titles.Item<TextControl>("lblCol" + preceding));
     // the separator is narrower here than in the three columns of the template, and stays so
-    caption.Text = "(" + QString::number(lower) + ") -" + EmptyLine + QString::number(upper) + "mm";
+    caption.Text = bandHeading(QString::number(lower), ") -", upper);
 
     ControlList &cells = Sections("Detail").Controls;
-    Field &cell = cells.Add<Field>("txtField" + number);
+    auto &cell = cells.Add<Field>("txtField" + number);
     copyLook(cell, cells.Item<TextControl>("txtField" + preceding));
     cell.DataField = QString::number(upper);
 }
 
 void actRepBound::fillNotes() {
-    const int index = mdiVelmar::instance().GetTableIndex(m_key);
     QString notes;
-    if (bGroupData) notes = NoDataText(*m_material, m_key, true, false);
-    const QString tableNotes = m_material->TableNotes(index);
+    if (bGroupData) notes = modVelmar::NoDataText(*m_material, m_key, true, false);
+    const QString tableNotes = m_material->TableNotes(mdiVelmar::instance().GetTableIndex(m_key));
     if (!tableNotes.isEmpty()) notes += (notes.isEmpty() ? QString() : EmptyLine) + tableNotes;
     Sections("gfNotes").Controls.Item<Field>("txtNotes").Text = notes;
     if (notes.isEmpty() || notes == QLatin1String("-")) Sections("gfNotes").Visible = false;
 }
 
 void actRepBound::fillTitle() {
-    mdiVelmar &main = mdiVelmar::instance();
-    Label &title = Sections("ghTitle").Controls.Item<Label>("lblTitle");
+    const mdiVelmar &main = mdiVelmar::instance();
+    auto &title = Sections("ghTitle").Controls.Item<Label>("lblTitle");
     title.Text = main.GetTableName(main.GetTableIndex(m_key));
     if (bGroupData) title.Text += " - Compatible Group Data * **";
-    if (main.bBatchPrint) {
-        title.Width = BatchTitleWidth;
-        title.Text += "     " + m_material->Name() + '_' + m_material->Number();
-    }
+    nameMaterial(title, *m_material);
 }
 
 Label &actRepBound::heading(int column) const {
-    return Sections("ghTitle").Controls.Item<Label>(QStringLiteral("lblCol%1").arg(column));
+    return Sections("ghTitle").Controls.Item<Label>("lblCol" + QString::number(column));
 }
 
 Field &actRepBound::field(int column) const {
-    return Sections("Detail").Controls.Item<Field>(QStringLiteral("txtField%1").arg(column));
+    return Sections("Detail").Controls.Item<Field>("txtField" + QString::number(column));
 }
 
 void actRepBound::showColumn(int column, const QString &caption, const QString &dataField) {
@@ -226,7 +210,7 @@ void actRepBound::hideColumn(int column) {
 void actRepBound::showFormula(int column, const QString &picture, const QString &text) {
     ControlList &controls = Sections("ghTitle").Controls;
     Label &label = heading(column);
-    Image &image = controls.Item<Image>(column == 2 ? "imgPhysA" : "imgPhysB");
+    auto &image = controls.Item<Image>(column == 2 ? "imgPhysA" : "imgPhysB");
     image.Content = controls.Item<Image>(picture).Content;
     image.Left = label.Left;
     image.Top = label.Top;

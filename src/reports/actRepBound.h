@@ -7,7 +7,8 @@
 
 class Material;
 
-/// Takes its table's key from the head of the material's colBoundTables at its start and runs a query of its own.
+/// Takes its table's key from the head of the material's colBoundTables at its start and runs a query of its
+/// own. Raises 9 when no key is queued.
 class actRepBound : public Printing::Report {
     Q_OBJECT
 public:
@@ -30,7 +31,7 @@ private:
     Printing::Field &field(int column) const;
     void showColumn(int column, const QString &caption, const QString &dataField);
     void hideColumn(int column);
-    /// The formula stands in the place of the heading's text.
+    /// Shows the picture in the place of the heading's text; where only letters go, `text` stands for it.
     void showFormula(int column, const QString &picture, const QString &text);
 
     QString m_key;

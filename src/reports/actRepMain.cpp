@@ -1,9 +1,11 @@
 #include "reports/actRepMain.h"
 
+#include <QDateTime>
+#include <QScopeGuard>
+
 #include "data/Material.h"
 #include "material/frmMaterial2.h"
 #include "platform/runtime/app.h"
-#include "platform/runtime/conversions.h"
 #include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/actRepBatchPrint.h"
@@ -19,6 +21,9 @@
 using namespace Printing;
 
 namespace {
+
+/// What a material window's iReportType tells.
+enum Content { Tables = 0, Graph = 1 };
 
 std::unique_ptr<actRepMain> &globalInstance() {
     static std::unique_ptr<actRepMain> report;
@@ -49,12 +54,12 @@ actRepMain::actRepMain() {
 }
 
 void actRepMain::RunToFile() {
-    const std::unique_ptr<actRepMain> self = std::move(globalInstance());
+    const auto unload = qScopeGuard([] { globalInstance().reset(); });
     Run();
 }
 
 void actRepMain::ShowModal(QWidget *owner) {
-    const std::unique_ptr<actRepMain> self = std::move(globalInstance());
+    const auto unload = qScopeGuard([] { globalInstance().reset(); });
     Run();
     ReportWindow::showModal(*this, "actRepMain", owner);
 }
@@ -68,12 +73,12 @@ void actRepMain::ReportStart() {
             RegionalSettings::current().dateText(QDateTime::currentDateTime()));
     setText("PageFooter", "lblCopyright", App::current().legalCopyright);
     chooseContent();
-    if (mdiVelmar::instance().bBatchPrint) actRepBatchPrint::colBatchMaterials().Remove(1);
+    if (mdiVelmar::instance().bBatchPrint) actRepBatchPrint::instance().colBatchMaterials.Remove(1);
 }
 
 void actRepMain::chooseMaterial() {
     mdiVelmar &main = mdiVelmar::instance();
-    if (main.bBatchPrint) main.mCurrent = actRepBatchPrint::colBatchMaterials().Item(1);
+    if (main.bBatchPrint) main.mCurrent = actRepBatchPrint::instance().colBatchMaterials.Item(1);
     mMaterial = main.mCurrent;
     if (!mMaterial) throw RuntimeError(91);
 }
@@ -120,13 +125,21 @@ void actRepMain::nameBatchSections() {
     const std::pair<const char *, const char *> headings[] = {
         {"ghChemComp", "lblChemComp"}, {"ghImpEnergy", "lblImpEnergy"}, {"ghAddInfo", "lblAddInfo"}};
     for (const auto &[section, label] : headings)
-        Sections(section).Controls.Item<Label>(label).Text += "     " + strReportKey;
+        Sections(QLatin1String(section)).Controls.Item<Label>(label).Text += "     " + strReportKey;
+}
+
+/// A batch prints tables, and its windows are gone by then.
+int actRepMain::reportType() const {
+    if (mdiVelmar::instance().bBatchPrint) return Tables;
+    const auto *window = static_cast<const frmMaterial2 *>(mMaterial->MyForm());
+    if (!window) throw RuntimeError(91);
+    return window->iReportType;
 }
 
 void actRepMain::chooseContent() {
-    const int reportType = static_cast<frmMaterial2 &>(*mMaterial->MyForm()).iReportType;
-    if (reportType > 0) {
-        if (reportType == 1) {
+    const int content = reportType();
+    if (content > 0) {
+        if (content == Graph) {
             placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepGraph>());
         } else {
             placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepDesign>());
@@ -227,6 +240,10 @@ void actRepMain::ReportEnd() {
         return;
     }
     main.ShowStatus(112);
-    ReportExport::saveAsking(document(), iSaveFormat, mMaterial->Name(), main.comDlg);
+    try {
+        ReportExport::saveAsking(document(), iSaveFormat, mMaterial->Name(), main.comDlg);
+    } catch (const RuntimeError &) {
+        // Cancel, or no way to write the file: nobody is told, as it is meant
+    }
     main.ShowStatus(bFromChart ? 108 : 100);
 }

@@ -3,8 +3,6 @@
 
 #include <memory>
 
-#include <QDateTime>
-
 #include "platform/printing/report.h"
 
 class Material;
@@ -15,8 +13,7 @@ class QWidget;
 class actRepMain : public Printing::Report {
     Q_OBJECT
 public:
-    /// The one global instance, made on first use; after a save, and after the preview has closed, the next
-    /// use makes a new one.
+    /// The one global instance, made on first use, and made anew after a run.
     static actRepMain &instance();
 
     actRepMain();
@@ -27,12 +24,10 @@ public:
     /// The save was asked for in the enlarged chart's window.
     bool bFromChart = false;
 
-    /// Runs the report for a file, which its end asks for.
+    /// Of the global instance. Runs the report for a file, which its end asks for.
     void RunToFile();
-    /// Shows the report in a modal window above `owner`.
+    /// Of the global instance. Shows the report in a modal window above `owner`.
     void ShowModal(QWidget *owner);
-
-    const std::shared_ptr<Material> &material() const { return mMaterial; }
 
 protected:
     void ReportStart() override;
@@ -43,6 +38,7 @@ private:
     void choosePictures();
     void fillHeader();
     void nameBatchSections();
+    int reportType() const;
     void chooseContent();
     void selectTables();
     void nextElevatedSlot();

@@ -110,26 +110,10 @@ void addPlaces(actRepMain &report) {
     addField(info, "txtAddInfo", 0, SubReportTop, PageWidth, RowHeight).CanGrow = true;
 }
 
-void addPageFooter(actRepMain &report) {
+void addFooter(actRepMain &report) {
     Section &section = report.AddSection(SectionType::PageFooter, "PageFooter");
-    section.Height = 480;
-    const auto small = [](TextControl &control, int alignment) {
-        control.Font.Size = 8;
-        control.Alignment = alignment;
-    };
-    Line &rule = section.Controls.Add<Line>("linFooter");
-    rule.Width = PageWidth;
-    rule.Top = 90;
-    small(addLabel(section, "lblDocName", "Velmar 4.0", 0, 150, 4300, 210), 0);
-    small(addLabel(section, "lblCopyright", {}, 0, 345, PageWidth, 210), 0);
-    small(addLabel(section, "lblPage", "Page", 8400, 150, 600, 210), 1);
-    Field &page = addField(section, "txtPage", 9000, 150, 400, 210);
-    page.Summary = PageValue::PageNumber;
-    small(page, 2);
-    small(addLabel(section, "lblOf", "of", 9400, 150, 300, 210), 2);
-    Field &total = addField(section, "txtPageTotal", 9700, 150, 500, 210);
-    total.Summary = PageValue::PageTotal;
-    small(total, 2);
+    addPageFooter(section);
+    asFootnote(section.Controls.Add<Label>("lblCopyright"));
 }
 
 } // namespace
@@ -142,7 +126,7 @@ void build(actRepMain &report) {
     report.AddSection(SectionType::Detail, "Detail");
     for (int i = 13; i >= 1; --i)
         report.AddSection(SectionType::GroupFooter, QStringLiteral("GroupFooter%1").arg(i)).Visible = false;
-    addPageFooter(report);
+    addFooter(report);
     report.AddSection(SectionType::ReportFooter, "ReportFooter").Visible = false;
 }
 

@@ -9,8 +9,11 @@ class CommonDialog;
 
 namespace ReportExport {
 
-/// Asks for a file, `name` with the format's extension offered, says which it is, and writes it. `format` is
-/// 0 PDF, 1 RTF, 2 text. Any error, Cancel among them, ends it without a word.
+/// As `format` of saveAsking.
+enum Format { Pdf = 0, Rtf = 1, Text = 2 };
+
+/// Asks for a file, `name` with the format's extension offered, says which it is, and writes it. Raises 32755
+/// for Cancel, and what Printing::writeOutputFile() raises.
 void saveAsking(const Printing::Document &document, int format, const QString &name, CommonDialog &dialog);
 
 } // namespace ReportExport

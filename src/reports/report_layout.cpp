@@ -2,6 +2,9 @@
 
 #include <QFile>
 
+#include "data/Material.h"
+#include "shell/mdiVelmar.h"
+
 namespace ReportLayout {
 
 using namespace Printing;
@@ -10,6 +13,9 @@ namespace {
 
 const QColor HeadingColour(0x1f, 0x3f, 0x66);
 const QColor CaptionBackColour(0xe6, 0xec, 0xf4);
+constexpr double TableFontSize = 9;
+constexpr double FooterFontSize = 8;
+constexpr int BatchTitleWidth = 9071;
 
 template <class ControlType>
 ControlType &add(Section &section, const QString &name, int left, int top, int width, int height) {
@@ -46,8 +52,47 @@ SubReport &addSubReport(Section &section, const QString &name, int top) {
     return add<SubReport>(section, name, 0, top, PageWidth, 0);
 }
 
+Label &addTitle(Section &section, const QString &text) {
+    Label &title = addLabel(section, "lblTitle", text, 0, 0, PageWidth, TitleHeight);
+    asHeading(title, 2);
+    return title;
+}
+
+void addNotes(Section &section) {
+    Label &label = addLabel(section, "lblNotes", "Notes", 0, 90, PageWidth, 240);
+    label.Font.Bold = true;
+    label.Font.Size = TableFontSize;
+    addField(section, "txtNotes", 0, 330, PageWidth, 240).Font.Size = TableFontSize;
+}
+
+void addPageFooter(Section &section) {
+    section.Height = 540;
+    auto &rule = section.Controls.Add<Line>("linFooter");
+    rule.Width = PageWidth;
+    rule.Top = 90;
+    Field &page = addField(section, "txtPage", 8900, 135, 450, 200);
+    Field &total = addField(section, "txtPageTotal", 9700, 135, 500, 200);
+    TextControl *const texts[] = {&addLabel(section, "lblDocName", "Velmar 4.0", 0, 135, 7000, 200),
+                                  &addLabel(section, "lblPage", "Page", 8300, 135, 600, 200), &page,
+                                  &addLabel(section, "lblOf", "of", 9350, 135, 350, 200), &total};
+    for (TextControl *text : texts) {
+        text->Font.Size = FooterFontSize;
+        if (text != texts[0]) text->Alignment = 2;
+    }
+    page.Summary = PageValue::PageNumber;
+    total.Summary = PageValue::PageTotal;
+}
+
+void asFootnote(TextControl &control) {
+    control.Left = 0;
+    control.Top = 340;
+    control.Width = PageWidth;
+    control.Height = 200;
+    control.Font.Size = FooterFontSize;
+}
+
 void asHeading(TextControl &control, int level) {
-    control.HeadingLevel = level;
+    control.HeadingLevel = mdiVelmar::instance().bBatchPrint ? level + 1 : level;
     control.Font.Bold = true;
     control.Font.Size = level == 1 ? 13 : 10;
     control.ForeColor = HeadingColour;
@@ -58,14 +103,28 @@ void asCaption(TextControl &control) {
     control.BackStyle = 1;
     control.BackColor = CaptionBackColour;
     control.Border = BorderStyles::all();
-    control.Font.Size = 9;
+    control.Font.Size = TableFontSize;
 }
 
 void asCell(TextControl &control) {
     control.Alignment = 2;
     control.VerticalAlignment = 1;
     control.Border = BorderStyles::all();
-    control.Font.Size = 9;
+    control.Font.Size = TableFontSize;
+}
+
+void nameMaterial(Label &title, const Material &material) {
+    if (!mdiVelmar::instance().bBatchPrint) return;
+    title.Width = BatchTitleWidth;
+    title.Text += "     " + material.Name() + '_' + material.Number();
+}
+
+int rightEdge(const Control &control) {
+    return control.Left + control.Width;
+}
+
+int bottomEdge(const Control &control) {
+    return control.Top + control.Height;
 }
 
 } // namespace ReportLayout
