@@ -8,6 +8,24 @@ using namespace MaterialLayout;
 GraphSwitch::GraphSwitch(MaterialControls &controls)
     : m_controls(controls) {}
 
+void GraphSwitch::Choose(bool graph) {
+    bGraphShown = graph;
+    ShowChartFrames(graph);
+    SetShowButtons(!graph);
+}
+
+void GraphSwitch::ShowBoundPage(bool hasGraph) {
+    const bool graph = hasGraph && bGraphShown;
+    SetShowButtons(!graph);
+    if (!hasGraph) HideShowButtons();
+    ShowChartFrames(graph);
+}
+
+void GraphSwitch::HideShowButtons() {
+    m_controls.CommandShowGraph->hide();
+    m_controls.CommandShowTable->hide();
+}
+
 void GraphSwitch::SetShowButtons(bool offerGraph) {
     m_controls.CommandShowGraph->setVisible(offerGraph);
     m_controls.CommandShowTable->setVisible(!offerGraph);

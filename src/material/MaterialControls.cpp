@@ -49,6 +49,7 @@ QPushButton *button(QWidget *parent, const QString &name, const QString &text) {
 TDBGrid *grid(QWidget *parent, const QString &name, const QString &accessibleName) {
     auto *result = named(new TDBGrid(parent), name, accessibleName);
     result->setAlternatingRowStyle(true);
+    result->setRecordSelectors(false);
     return result;
 }
 
@@ -133,7 +134,7 @@ void MaterialControls::makeTables(QWidget *window) {
 
 void MaterialControls::makeOptions(QWidget *window) {
     // Everything stands in the upper part, which the notes and a graph leave in sight.
-    framOptions = panel(window, "framOptions", "Table options");
+    framOptions = named(new QFrame(window), "framOptions", "Table options");
     resizeTo(framOptions, OptionsWidth, TableHeight);
     CommandShowGraph = button(framOptions, "CommandShowGraph", "Show Graph");
     CommandShowTable = button(framOptions, "CommandShowTable", "Show Table");
@@ -190,8 +191,8 @@ void MaterialControls::makeDesignPage(QWidget *window) {
     setBackColor(txtDesignTemp, vbInfoBackground);
     place(txtDesignTemp, 2475, 45, 1200, BoxHeight);
     lblDesignTemp->setBuddy(txtDesignTemp);
-    addPrintSave(framDesign, 3, "graph/print.svg", "Print (Preview) Design Values Table...", 9705, 0);
-    addPrintSave(framDesign, 4, "graph/save.svg", "Save Design Values Table To File (*.pdf,*.rtf,*.txt)...",
+    addPrintSave(framDesign, 3, "toolbar/print.svg", "Print (Preview) Design Values Table...", 9705, 0);
+    addPrintSave(framDesign, 4, "toolbar/save.svg", "Save Design Values Table To File (*.pdf,*.rtf,*.txt)...",
                  10215, 0);
 
     tdbDesign = grid(framDesign, "tdbDesign", "Design values");
@@ -216,11 +217,11 @@ void MaterialControls::makeGraph(QWidget *window) {
     addPrintSave(framChart, 1, "graph/print.svg", "Print (Preview) Graph...", 6405, 600);
     addPrintSave(framChart, 2, "graph/enlarge.svg", "Enlarge Graph View", 6405, 1125);
 
-    framBlank = panel(window, "framBlank", "Empty panel");
+    framBlank = named(new QFrame(window), "framBlank", "Empty panel");
     framBlank->setAutoFillBackground(true);
     resizeTo(framBlank, OptionsWidth, TableHeight);
 
-    framAxisCols = panel(window, "framAxisCols", "Columns of the graph");
+    framAxisCols = named(new QFrame(window), "framAxisCols", "Columns of the graph");
     framAxisCols->setAutoFillBackground(true);
     resizeTo(framAxisCols, OptionsWidth, OpenNotesHeight);
     const QStringList axes{"X Axis", "Y Axis"};

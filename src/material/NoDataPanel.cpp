@@ -26,8 +26,7 @@ void NoDataPanel::ShowNoData(const Material &material, const QString &key) {
         grid = m_controls.tdbBoundTable;
         m_graphs.bGraphShown = false;
         m_graphs.ShowChartFrames(false);
-        m_controls.CommandShowGraph->hide();
-        m_controls.CommandShowTable->hide();
+        m_graphs.HideShowButtons();
     }
     const QRect where = placeOf(grid);
     place(m_controls.framNoData, where.left(), where.top(), where.width(), where.height());

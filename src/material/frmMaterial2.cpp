@@ -23,6 +23,10 @@ int symbolOf(const QString &key) {
     return key == QLatin1String("AddInfo") ? 11 : 10;
 }
 
+bool hasGraph(const QString &boundKey) {
+    return boundKey != QLatin1String("ImpEnergy");
+}
+
 } // namespace
 
 frmMaterial2::frmMaterial2()
@@ -49,16 +53,8 @@ frmMaterial2::~frmMaterial2() = default;
 void frmMaterial2::connectControls() {
     connect(cmdShowNotes, &QPushButton::clicked, this, [this] { m_notes.Toggle(); });
     connect(TimerFlash, &QTimer::timeout, this, [this] { m_notes.Flash(); });
-    connect(CommandShowGraph, &QPushButton::clicked, this, [this] {
-        m_graphs.bGraphShown = true;
-        m_graphs.ShowChartFrames(true);
-        m_graphs.SetShowButtons(false);
-    });
-    connect(CommandShowTable, &QPushButton::clicked, this, [this] {
-        m_graphs.bGraphShown = false;
-        m_graphs.ShowChartFrames(false);
-        m_graphs.SetShowButtons(true);
-    });
+    connect(CommandShowGraph, &QPushButton::clicked, this, [this] { m_graphs.Choose(true); });
+    connect(CommandShowTable, &QPushButton::clicked, this, [this] { m_graphs.Choose(false); });
     connect(cmdUnBoundGraph, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(true); });
     connect(cmdUnBoundTable, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(false); });
     const QStringList keys{"Rp02", "Rp10", "Rm"};
@@ -206,8 +202,7 @@ void frmMaterial2::showBoundTable(Material &material, const QString &key) {
     framOptions->show();
     lblElevated->setVisible(isElevatedKey(key));
     framMechOpt->setVisible(isElevatedKey(key));
-    m_graphs.SetShowButtons(!m_graphs.bGraphShown);
-    m_graphs.ShowChartFrames(m_graphs.bGraphShown);
+    m_graphs.ShowBoundPage(hasGraph(key));
     lblFullForm->show();
     m_notes.LoadNotes(material, key);
     m_boundTables.LoadBoundTable(material, key);
@@ -215,6 +210,9 @@ void frmMaterial2::showBoundTable(Material &material, const QString &key) {
 }
 
 void frmMaterial2::focusMechOption() {
+    // The focus would bring a window behind to the front.
+    const Form *front = mdiVelmar::instance().activeChild();
+    if (front != nullptr && front != this) return;
     for (const auto &[index, option] : optMechProp)
         if (option->isChecked() && !framOptions->isHidden()) option->setFocus();
 }

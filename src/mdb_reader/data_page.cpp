@@ -4,7 +4,6 @@
 #include "mdb_reader/damaged.h"
 
 namespace {
-constexpr std::uint8_t DataPageKind = 1;
 constexpr std::uint16_t HiddenFlag = 0x8000;
 constexpr std::uint16_t MovedFlag = 0x4000;
 constexpr std::uint16_t OffsetBits = 0x1fff;
@@ -14,13 +13,13 @@ DataPage::DataPage(const std::uint8_t *data, std::size_t size, bool jet3)
     : m_bytes(data)
     , m_size(size)
     , m_slotTable(jet3 ? 10 : 14) {
-    if (data[0] != DataPageKind) return;
+    if (kind() != Kind) return;
     m_slots = bytes::u16(data + m_slotTable - 2);
     if (m_slotTable + 2 * m_slots > size) throw Damaged("page with too many rows");
 }
 
-bool DataPage::belongsTo(std::uint32_t owner) const {
-    return m_bytes[0] == DataPageKind && bytes::u32(m_bytes + 4) == owner;
+std::uint32_t DataPage::owner() const {
+    return bytes::u32(m_bytes + 4);
 }
 
 Slot DataPage::slot(std::size_t index) const {

@@ -16,6 +16,8 @@ struct Slot {
 
 class DataPage {
 public:
+    /// What the first byte of such a page says.
+    static constexpr std::uint8_t Kind = 1;
     /// The owner of the pages of long values, which belong to no table.
     static constexpr std::uint32_t LongValues = 0x4c41564c; // "LVAL"
 
@@ -23,7 +25,9 @@ public:
     DataPage(const std::uint8_t *bytes, std::size_t size, bool jet3);
 
     /// Whether it is a page of the table with this definition page.
-    bool belongsTo(std::uint32_t owner) const;
+    bool belongsTo(std::uint32_t table) const { return kind() == Kind && owner() == table; }
+    std::uint8_t kind() const { return m_bytes[0]; }
+    std::uint32_t owner() const;
     std::size_t slots() const { return m_slots; }
     /// Raises Damaged for a slot that is none, or that points outside the page.
     Slot slot(std::size_t index) const;

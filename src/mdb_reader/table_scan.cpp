@@ -2,11 +2,12 @@
 
 #include "mdb_reader/bytes.h"
 #include "mdb_reader/damaged.h"
-#include "mdb_reader/data_page.h"
 
 namespace {
 
 constexpr int MostMoves = 16;
+constexpr std::uint8_t DefinitionKind = 2; // between it and the maps, two kinds of index
+constexpr std::uint8_t MapKind = 5;
 
 std::uint32_t newPlace(const Slot &slot) {
     if (slot.size < 4) throw Damaged("moved row without a place");
@@ -24,13 +25,21 @@ TableScan::TableScan(const AccessFile &file, const Table &table)
 
 void TableScan::visit(std::uint32_t number, const std::function<void(const Row &row)> &visitor) {
     const DataPage page(m_pages.at(number), m_pages.pageSize(), m_jet3);
-    // A map sometimes lists a page that has gone to another table.
-    if (!page.belongsTo(m_table.definitionPage)) return;
+    if (!page.belongsTo(m_table.definitionPage)) {
+        // A map can list a page that has gone to another use. Any other page has lost this table's rows.
+        if (!hasOtherUse(page)) throw Damaged("page that is nobody's");
+        return;
+    }
     for (std::size_t i = 0; i < page.slots(); ++i) {
         const Slot slot = page.slot(i);
         if (slot.hidden || slot.size == 0) continue;
         visitor(slot.moved ? follow(newPlace(slot)) : Row(slot.data, slot.size, m_table, m_jet3));
     }
+}
+
+bool TableScan::hasOtherUse(const DataPage &page) {
+    if (page.kind() != DataPage::Kind) return page.kind() >= DefinitionKind && page.kind() <= MapKind;
+    return page.owner() == DataPage::LongValues || m_movedRows.at(page.owner())[0] == DefinitionKind;
 }
 
 Row TableScan::follow(std::uint32_t place) {

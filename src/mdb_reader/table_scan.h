@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "mdb_reader/access_file.h"
+#include "mdb_reader/data_page.h"
 #include "mdb_reader/row.h"
 
 class TableScan {
@@ -16,6 +17,7 @@ public:
     void visit(std::uint32_t page, const std::function<void(const Row &row)> &visitor);
 
 private:
+    bool hasOtherUse(const DataPage &page);
     Row follow(std::uint32_t place);
 
     const Table &m_table;

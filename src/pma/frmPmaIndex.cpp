@@ -70,7 +70,7 @@ frmPmaIndex::frmPmaIndex()
     connect(txtSearchString, &QLineEdit::returnPressed, this, &frmPmaIndex::search);
     connect(txtSearchString, &QLineEdit::textChanged, this, &frmPmaIndex::searchStringChanged);
     connect(cmdInfo, &QPushButton::clicked, this,
-            [this] { modDocument::OpenDocument(winId(), App::current().path + "/morepmainfo.pdf"); });
+            [this] { modDocument::OpenDocument(this, App::current().path + "/morepmainfo.pdf"); });
     connect(tdbIndex, &TDBGrid::HeadClick, this, [this](int column) { sort(column, true); });
     connect(tdbIndex, &TDBGrid::FootClick, this, [this](int column) { sort(column, false); });
     connect(tdbIndex, &TDBGrid::DblClick, this, &frmPmaIndex::openCurrentDocument);
@@ -139,7 +139,7 @@ void frmPmaIndex::openCurrentDocument() {
     try {
         const QString path = CStr(dtaPmaIndex->recordset()->Fields(DocumentField));
         const QString file = QDir(App::current().path).absoluteFilePath(path);
-        if (modDocument::FileExists(file)) modDocument::OpenDocument(winId(), file);
+        if (modDocument::FileExists(file)) modDocument::OpenDocument(this, file);
     } catch (const RuntimeError &) {
         // a row without a document has nothing to open
     }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QString>
-#include <QWidget>
+class QWidget;
 
 namespace modDocument {
 
@@ -12,6 +12,7 @@ bool FileExists(const QString &path);
 /// Opens the file by its association. Returns the error's text, which a message box has shown, or an empty
 /// text. Where no application is associated the desktop's choice of applications is asked for, and the text
 /// is empty.
-QString OpenDocument(WId windowHandle, const QString &fileName);
+/// `window` is the one above which that choice shows.
+QString OpenDocument(QWidget *window, const QString &fileName);
 
 } // namespace modDocument

@@ -10,6 +10,7 @@
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
 #include "search/frmSearch.h"
+#include "shell/HTMLHelp.h"
 #include "shell/frmAbout.h"
 #include "shell/main_toolbar.h"
 #include "shell/mdiVelmar.h"
@@ -229,10 +230,16 @@ void MainCommands::window(int index) {
 }
 
 void MainCommands::help(int index) {
-    if (index == 4) {
+    switch (index) {
+    case 0: HTMLHelp::ShowHelpContents(1); break;
+    case 1: HTMLHelp::ShowHelpIndex(1); break;
+    case 2: HTMLHelp::ShowHelpSearch(1); break;
+    case 4:
         m_window.ShowStatus(107);
         DefaultInstance<frmAbout>().ShowModal(&m_window);
         m_window.ShowStatus(100);
+        break;
+    default: break;
     }
 }
 

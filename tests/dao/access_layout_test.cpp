@@ -122,6 +122,18 @@ TEST(AccessLayout, CipheredFileIsRead) {
               rowTexts(matchingRows(original, "Rp02", {{"matID", 2}})));
 }
 
+TEST(AccessLayout, FilesOfLaterVersionsAreRead) {
+    const QTemporaryDir folder;
+    QByteArray file = fileBytes(Main);
+    file.replace(4, 15, "Standard ACE DB");
+    for (const char version : {'\2', '\3', '\5'}) {
+        file[0x14] = version;
+        AccessSource source(writeFile(folder, "later.accdb", file), helperPath());
+        EXPECT_EQ(source.tableNames().size(), 27);
+        EXPECT_EQ(allRows(source, "Rp02").size(), 706);
+    }
+}
+
 TEST(AccessLayout, Jet3IsReadWithItsCodePageAndLongRows) {
     using Type = Jet3File::Type;
     const QString wide = QString(200, 'w') + QString::fromUtf8("é€");

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QMap>
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include "tests/dao/source_support.h"
@@ -95,6 +96,18 @@ TEST(AccessSource, RefusesConditionsThatMakeNoSense) {
     EXPECT_EQ(ask("matID", qint64(1) << 40), 0);
     EXPECT_TRUE(matchingRows(source, "Rp02", {{"matID", (qint64(1) << 32) + 1}}).isEmpty());
 }
+
+#ifndef __SANITIZE_ADDRESS__
+TEST(AccessSource, HelperIsBounded) {
+    AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    rlimit memory = {};
+    rlimit seconds = {};
+    ASSERT_EQ(prlimit(source.helperId(), RLIMIT_AS, nullptr, &memory), 0);
+    ASSERT_EQ(prlimit(source.helperId(), RLIMIT_CPU, nullptr, &seconds), 0);
+    EXPECT_LE(memory.rlim_cur, rlim_t(1) << 30);
+    EXPECT_LE(seconds.rlim_cur, 20u);
+}
+#endif
 
 TEST(AccessSource, HelperThatHasGoneIsStartedAgain) {
     AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());

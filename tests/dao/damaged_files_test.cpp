@@ -5,6 +5,8 @@
 
 #include <QElapsedTimer>
 
+#include <sqlite3.h>
+
 #include "platform/dao/sqlite_source.h"
 #include "tests/dao/mdb_pages.h"
 #include "tests/dao/source_support.h"
@@ -116,4 +118,23 @@ TEST(DamagedFiles, RandomDamageEndsInRowsOrAnError) {
     }
     EXPECT_GT(refused, 30);  // the damage does reach what matters,
     EXPECT_LT(refused, 270); // and is not always the end
+}
+
+TEST(DamagedFiles, DamagedSqliteFileEndsInRowsOrAnError) {
+    std::mt19937 random(7);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("good.db");
+    sqlite3 *database = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &database);
+    sqlite3_exec(database,
+                 "create table T (id Integer, name Text); create index I on T (id);"
+                 "with recursive n (i) as (select 1 union all select i + 1 from n where i < 2000)"
+                 " insert into T select i, printf('name %d', i) from n;",
+                 nullptr, nullptr, nullptr);
+    sqlite3_close(database);
+    const QByteArray good = fileBytes(path);
+    int refused = 0;
+    for (int i = 0; i < 200; ++i)
+        refused += errorOfSqlite(writeFile(folder, "damaged.db", damaged(good, random))) != 0;
+    EXPECT_GT(refused, 20);
 }

@@ -3,6 +3,7 @@
 
 #include <ostream>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 

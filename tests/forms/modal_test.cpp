@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "platform/forms/application.h"
 #include "platform/forms/common_dialog.h"
@@ -31,7 +32,7 @@ TEST(ModalForm, ReturnsWhenUnloadedOrHidden) {
         modal().driveForm([&](Form &form) {
             driven = true;
             EXPECT_EQ(QApplication::activeModalWidget(), &form);
-            EXPECT_EQ(form.parentWidget(), owner);
+            EXPECT_EQ(form.windowHandle()->transientParent(), owner->windowHandle());
             if (unload)
                 form.Unload();
             else
@@ -43,6 +44,16 @@ TEST(ModalForm, ReturnsWhenUnloadedOrHidden) {
         EXPECT_EQ(Forms::byName("frmDialog") != nullptr, !unload);
     }
     EXPECT_EQ(modal().lastAsked().text, "frmDialog");
+}
+
+TEST(ModalForm, OneAfterAnotherOrDeletedAtOnceReturns) {
+    for (int i = 0; i < 2; ++i) {
+        modal().driveForm([](Form &form) { form.Unload(); });
+        (new RecordingForm("frmDialog"))->ShowModal();
+    }
+    modal().driveForm([](Form &form) { delete &form; });
+    (new RecordingForm("frmDialog"))->ShowModal();
+    EXPECT_EQ(Forms::Count(), 0);
 }
 
 TEST(ModalForm, KeepsThePlaceItWasGivenOrStandsOverItsOwner) {

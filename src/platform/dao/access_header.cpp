@@ -39,7 +39,8 @@ void uncover(QByteArray &bytes, qsizetype offset, qsizetype size) {
 QString passwordOfJet3(const QByteArray &header) {
     constexpr qsizetype Length = 20;
     const QByteArray stored = header.mid(PasswordOffset, Length);
-    return QString::fromLatin1(stored.constData(), qstrnlen(stored.constData(), Length));
+    const qsizetype end = stored.indexOf('\0');
+    return QString::fromLatin1(end < 0 ? stored : stored.left(end));
 }
 
 /// Twenty UTF-16 units under a mask that is the day of creation.
@@ -69,8 +70,9 @@ std::optional<AccessHeader> AccessHeader::read(const QString &path) {
 
 std::optional<AccessHeader> AccessHeader::fromBytes(const QByteArray &start) {
     if (start.size() < HeaderSize || !start.startsWith(QByteArray("\0\1\0\0", 4))) return {};
-    const bool isJet = std::strcmp(start.constData() + SignatureOffset, "Standard Jet DB") == 0;
-    const bool isAce = std::strcmp(start.constData() + SignatureOffset, "Standard ACE DB") == 0;
+    const QByteArray signature = start.mid(SignatureOffset, 15);
+    const bool isJet = signature == "Standard Jet DB";
+    const bool isAce = signature == "Standard ACE DB";
     if (!isJet && !isAce) return {};
 
     AccessHeader header;

@@ -405,7 +405,7 @@ RuntimeError JetParser::error(const QString &problem) const {
         const JetToken &token = m_tokens[end];
         const bool endsItem = m_piece.clause == Clause::List && token.isSymbol(",");
         const bool closesMore = token.isSymbol(")") && m_selects == 0;
-        if (depth == 0 && !closesMore && (isClauseEnd(token) || endsItem)) break;
+        if (depth <= 0 && !closesMore && (isClauseEnd(token) || endsItem)) break;
         if (token.isSymbol("(")) ++depth;
         if (token.isSymbol(")")) --depth;
     }

@@ -103,6 +103,8 @@ std::optional<KeyCondition> keyCondition(const JetSelect &select, const FieldDef
         const auto isInteger = [&](const Equality &term) { return search.isInteger(term.column); };
         const auto integer = std::find_if(branch.begin(), branch.end(), isInteger);
         if (integer != branch.end()) branch = {*integer};
+        std::sort(branch.begin(), branch.end(),
+                  [](const Equality &left, const Equality &right) { return left.column < right.column; });
         QVector<int> columns;
         QVector<QVariant> key;
         for (const Equality &term : branch) {

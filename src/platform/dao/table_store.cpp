@@ -1,6 +1,5 @@
 #include "platform/dao/table_store.h"
 
-#include "platform/dao/file_lock.h"
 #include "platform/dao/jet_errors.h"
 #include "platform/dao/memory_database.h"
 

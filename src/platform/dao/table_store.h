@@ -9,12 +9,12 @@
 #include <QHash>
 #include <QSet>
 
+#include "platform/dao/file_lock.h"
 #include "platform/dao/jet_syntax.h"
 #include "platform/dao/jet_table.h"
 #include "platform/dao/key_condition.h"
 #include "platform/dao/table_source.h"
 
-class FileLock;
 class MemoryDatabase;
 
 /// What one SELECT needs of a table: its rows in memory once load() has brought them.

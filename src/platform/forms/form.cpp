@@ -5,8 +5,8 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QScopeGuard>
-#include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <QWindowStateChangeEvent>
 
 #include "platform/forms/application.h"
@@ -29,7 +29,9 @@ Form::Form(const QString &name, Kind kind)
     applyWindowFlags();
 }
 
-Form::~Form() = default;
+Form::~Form() {
+    endModal();
+}
 
 QWidget *Form::frame() {
     if (m_frame) return m_frame;
@@ -41,7 +43,7 @@ QSize Form::nominalFrame() const {
 }
 
 void Form::applyWindowFlags() {
-    Qt::WindowFlags flags = isMdiChild() ? Qt::SubWindow : Qt::Window;
+    Qt::WindowFlags flags = isMdiChild() ? Qt::SubWindow : Qt::Dialog;
     flags |= Qt::CustomizeWindowHint;
     if (m_borderless) {
         flags |= Qt::FramelessWindowHint;
@@ -77,9 +79,13 @@ void Form::setIcon(const QIcon &icon) {
     if (m_frame) m_frame->setWindowIcon(icon);
 }
 
-void Form::setDefaultButton(QAbstractButton *button) { m_defaultButton = button; }
+void Form::setDefaultButton(QAbstractButton *button) {
+    m_defaultButton = button;
+}
 
-void Form::setCancelButton(QAbstractButton *button) { m_cancelButton = button; }
+void Form::setCancelButton(QAbstractButton *button) {
+    m_cancelButton = button;
+}
 
 void Form::showFrame() {
     if (isMdiChild() && MDIForm::current() != nullptr && !MDIForm::current()->Visible())
@@ -146,19 +152,13 @@ void Form::ShowModal(QWidget *owner) {
 }
 
 void Form::standAbove(QWidget *owner) {
-    const bool placed = testAttribute(Qt::WA_Moved);
-    const QPoint place = pos();
-    const QSize extent = size();
-    QWidget *top = owner != nullptr ? owner->window() : nullptr;
-    if (top == this) top = nullptr;
-    setParent(top, (windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
     setWindowModality(Qt::ApplicationModal);
-    resize(extent);
-    if (placed)
-        move(place);
-    else if (top != nullptr)
-        move(top->frameGeometry().center() - QPoint(extent.width() / 2, extent.height() / 2));
-    if (!placed) setAttribute(Qt::WA_Moved, top != nullptr);
+    const bool stands = owner != nullptr && owner->isVisible() && owner->window() != this;
+    if (stands && !testAttribute(Qt::WA_Moved))
+        move(owner->window()->frameGeometry().center() - rect().center());
+    // No widget parent: an owner that goes must not take the form with it.
+    create();
+    windowHandle()->setTransientParent(stands ? owner->window()->windowHandle() : nullptr);
 }
 
 void Form::endModal() {

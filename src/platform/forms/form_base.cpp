@@ -4,6 +4,7 @@
 
 #include "platform/forms/application.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/platform_style.h"
 #include "platform/runtime/twips.h"
 
 namespace {
@@ -64,6 +65,11 @@ int FormBase::ScaleWidth() const {
 
 int FormBase::ScaleHeight() const {
     return toTwips(asWidget()->height());
+}
+
+void FormBase::setScaleSize(int width, int height) {
+    const QSize childFrame = frame() == asWidget() ? QSize(0, 0) : PlatformStyle::frameSize();
+    setPixelSize(QSize(toPixels(width), toPixels(height)) + childFrame);
 }
 
 void FormBase::setPixelSize(const QSize &size) {

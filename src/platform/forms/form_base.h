@@ -51,6 +51,7 @@ public:
     /// The area inside the frame.
     int ScaleWidth() const;
     int ScaleHeight() const;
+    void setScaleSize(int width, int height);
 
     FormWindowState WindowState() const;
     void setWindowState(FormWindowState state);

@@ -1,7 +1,5 @@
 #include "platform/forms/image_box.h"
 
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
@@ -30,15 +28,4 @@ void ImageBox::mouseReleaseEvent(QMouseEvent *event) {
 
 void ImageBox::mouseDoubleClickEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) Q_EMIT DblClick();
-}
-
-void ImageBox::dragEnterEvent(QDragEnterEvent *event) {
-    if (qobject_cast<QWidget *>(event->source()) != nullptr) event->acceptProposedAction();
-}
-
-void ImageBox::dropEvent(QDropEvent *event) {
-    auto *source = qobject_cast<QWidget *>(event->source());
-    if (source == nullptr) return;
-    event->acceptProposedAction();
-    Q_EMIT DragDrop(source);
 }

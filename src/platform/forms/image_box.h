@@ -1,4 +1,4 @@
-// A picture that fills its place, and can be clicked and dropped on.
+// A picture that fills its place and can be clicked.
 #pragma once
 
 #include <QIcon>
@@ -19,16 +19,11 @@ public:
 Q_SIGNALS:
     void Click();
     void DblClick();
-    /// A control of this program was dropped here; `source` is the control that began the drag. Only a box
-    /// whose acceptDrops is on takes part.
-    void DragDrop(QWidget *source);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private:
     QString m_picture;

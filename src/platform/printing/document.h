@@ -48,7 +48,7 @@ struct Element : TextStyle {
     /// A straight rule from the box's top left to its bottom right corner.
     bool isRule = false;
     Picture picture;
-    /// Of the picture; in a table cell that holds text as well, the box is the cell's.
+    /// Of the picture; where a block's element holds text as well, the box is the text's.
     QSize pictureSize;
     /// Stands for the picture where there are only letters.
     QString alternativeText;
@@ -106,6 +106,8 @@ struct Document {
     /// As on the first page.
     std::vector<Row> pageHeader;
     std::vector<Row> pageFooter;
+    int pageHeaderHeight = 0;
+    int pageFooterHeight = 0;
     std::vector<Heading> headings;
 
     int printWidth() const {

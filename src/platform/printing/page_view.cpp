@@ -20,7 +20,7 @@ constexpr double ZoomStep = 1.2;
 constexpr int ImageMemory = 128 * 1024; // kilobytes
 constexpr int ScrollStep = 48;
 const QColor Ground(0x8A, 0x8F, 0x96);
-const QColor Shadow(0x5A, 0x5E, 0x64);
+const QColor PageShadow(0x5A, 0x5E, 0x64);
 const QColor MatchColour(255, 221, 0, 110);
 const QColor CurrentMatchColour(255, 128, 0, 150);
 
@@ -52,7 +52,7 @@ QRect PageView::pageRect(int page) const {
 
 void PageView::setZoom(double zoom) {
     m_fit = Fit::None;
-    applyZoom(zoom);
+    applyZoom(zoom, viewport()->rect().center());
 }
 
 void PageView::setFit(Fit fit) {
@@ -66,15 +66,14 @@ void PageView::applyFit() {
     const double height = double(m_document.pageSettings.PaperHeight) / TwipsPerPixel;
     const double byWidth = (viewport()->width() - 2 * PageDistance) / width;
     const double byHeight = (viewport()->height() - 2 * PageDistance) / height;
-    applyZoom(m_fit == Fit::Width ? byWidth : std::min(byWidth, byHeight));
+    applyZoom(m_fit == Fit::Width ? byWidth : std::min(byWidth, byHeight), viewport()->rect().topLeft());
 }
 
-void PageView::applyZoom(double zoom) {
-    const QRect page = pageRect(currentPage());
-    const QPoint middle = viewport()->rect().center();
-    const double across = double(middle.x() - page.left()) / page.width();
-    const double down = double(middle.y() - page.top()) / page.height();
+void PageView::applyZoom(double zoom, const QPoint &anchor) {
     const int current = currentPage();
+    const QRect page = pageRect(current);
+    const double across = double(anchor.x() - page.left()) / page.width();
+    const double down = double(anchor.y() - page.top()) / page.height();
 
     m_zoom = std::clamp(zoom, SmallestZoom, LargestZoom);
     m_images.clear();
@@ -82,8 +81,8 @@ void PageView::applyZoom(double zoom) {
     const QRect zoomed = pageRect(current);
     QScrollBar *horizontal = horizontalScrollBar();
     QScrollBar *vertical = verticalScrollBar();
-    horizontal->setValue(horizontal->value() + zoomed.left() + qRound(across * zoomed.width()) - middle.x());
-    vertical->setValue(vertical->value() + zoomed.top() + qRound(down * zoomed.height()) - middle.y());
+    horizontal->setValue(horizontal->value() + zoomed.left() + qRound(across * zoomed.width()) - anchor.x());
+    vertical->setValue(vertical->value() + zoomed.top() + qRound(down * zoomed.height()) - anchor.y());
     viewport()->update();
     Q_EMIT zoomChanged();
 }
@@ -147,7 +146,7 @@ void PageView::paintEvent(QPaintEvent *event) {
     for (int page = 0; page < int(m_document.pages.size()); ++page) {
         const QRect area = pageRect(page);
         if (!area.adjusted(0, 0, 3, 3).intersects(event->rect())) continue;
-        painter.fillRect(area.translated(3, 3), Shadow);
+        painter.fillRect(area.translated(3, 3), PageShadow);
         painter.drawImage(area, image(page));
         paintMatches(painter, page, area);
     }

@@ -49,7 +49,8 @@ protected:
 private:
     QSize pageSize() const;
     QRect pageRect(int page) const; // in the viewport
-    void applyZoom(double zoom);
+    /// The page's point that is seen at `anchor` stays there.
+    void applyZoom(double zoom, const QPoint &anchor);
     void applyFit();
     void updateScrollBars();
     void tellCurrentPage();

@@ -78,6 +78,8 @@ void Paginator::beginPage() {
     if (m_document.pages.size() == 1) {
         m_document.pageHeader = rowsOf(header.elements);
         m_document.pageFooter = rowsOf(footer.elements);
+        m_document.pageHeaderHeight = header.height;
+        m_document.pageFooterHeight = footer.height;
     }
     m_y = m_top;
     m_isFresh = true;
@@ -131,7 +133,8 @@ Band Paginator::pageSections(SectionType type) {
         if (section->Type != type) continue;
         for (const auto &control : section->Controls) {
             auto *field = dynamic_cast<Field *>(control.get());
-            if (field && field->Summary == PageValue::PageNumber)
+            // The total is known later; until then the number stands for it.
+            if (field && field->Summary != PageValue::None)
                 field->Text = QString::number(m_document.pages.size());
         }
         Composer::format(m_report, *section);
@@ -157,14 +160,19 @@ void Paginator::putOnPage(const std::vector<Element> &elements, int top) {
 
 void Paginator::fillInPageTotal() {
     const QString total = QString::number(m_document.pages.size());
-    for (Page &page : m_document.pages) {
-        for (Element &element : page.elements) {
+    const auto fillIn = [&total](std::vector<Element> &elements) {
+        for (Element &element : elements) {
             if (element.pageValue != PageValue::PageTotal) continue;
             element.text = total;
             breakLines(element, false);
             arrangeLines(element);
         }
-    }
+    };
+    for (Page &page : m_document.pages)
+        fillIn(page.elements);
+    for (std::vector<Row> *rows : {&m_document.pageHeader, &m_document.pageFooter})
+        for (Row &row : *rows)
+            fillIn(row.cells);
 }
 
 } // namespace Printing

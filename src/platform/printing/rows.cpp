@@ -48,15 +48,28 @@ void joinStacked(Row &row, const Element &element) {
     cell.box |= element.box;
 }
 
-bool putIntoCell(std::vector<Row> &rows, const Element &picture) {
+void joinPicture(Element &cell, const Element &picture) {
+    cell.picture = picture.picture;
+    cell.pictureSize = picture.pictureSize;
+    cell.alternativeText = picture.alternativeText;
+}
+
+// Into the framed cell that it stands in, or to the only text that it stands beside.
+bool joinPictureToText(std::vector<Row> &rows, const Element &picture) {
     for (Row &row : rows)
-        for (Element &cell : row.cells)
+        for (Element &cell : row.cells) {
             if (isFramed(cell) && cell.box.contains(picture.box.center())) {
-                cell.picture = picture.picture;
-                cell.pictureSize = picture.pictureSize;
-                cell.alternativeText = picture.alternativeText;
+                joinPicture(cell, picture);
                 return true;
             }
+            if (!isFramed(cell) && row.cells.size() == 1 && cell.pictureSize.isEmpty() &&
+                isBeside(cell.box, picture.box)) {
+                joinPicture(cell, picture);
+                const int left = std::min(cell.box.left(), picture.box.left());
+                cell.box.setLeft(left);
+                return true;
+            }
+        }
     return false;
 }
 
@@ -130,7 +143,7 @@ std::vector<Row> rowsOf(const std::vector<Element> &elements) {
     for (const Element &element : elements) {
         if (element.pictureSize.isEmpty() || (element.picture.isNull() && element.alternativeText.isEmpty()))
             continue;
-        if (putIntoCell(rows, element)) continue;
+        if (joinPictureToText(rows, element)) continue;
         const auto below = std::find_if(
             rows.begin(), rows.end(), [&element](const Row &row) { return row.top() > element.box.top(); });
         rows.insert(below, Row{{element}});

@@ -8,8 +8,8 @@ namespace Printing {
 /// Texts row by row from the top, each row from the left; pictures and rules before them.
 void sortForReading(std::vector<Element> &elements);
 
-/// The rows of sorted elements. A picture that stands in a cell becomes the cell's, any other a row of its
-/// own; rules are left out.
+/// The rows of sorted elements. A picture that stands in a framed cell or beside a single text becomes
+/// that element's, any other a row of its own; rules are left out.
 std::vector<Row> rowsOf(const std::vector<Element> &elements);
 
 /// The content in its logical order: rows with borders one below the other are a table.

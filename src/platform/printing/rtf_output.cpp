@@ -9,7 +9,7 @@ namespace Printing {
 namespace {
 
 constexpr int PictureDotsPerInch = 300;
-constexpr int CellGap = 50;
+constexpr int CellPadding = 60;
 constexpr int HeadingLevels = 3;
 // Boxes that were meant to touch may be drawn some twips apart.
 constexpr int TouchingDistance = 20;
@@ -55,7 +55,7 @@ public:
 private:
     void writeBlock(const Block &block);
     void writeTable(const Block &block);
-    void writeRow(const Row &row);
+    void writeRow(const Row &row, int height);
     void writeParagraph(const Element &element, int spaceBefore);
     void writePageRows(const char *destination, const std::vector<Row> &rows);
     QByteArray content(const Element &element);
@@ -101,9 +101,10 @@ QByteArray RtfWriter::head() const {
                 number(level) + ";}";
     head += "}\n{\\info{\\title " + escaped(m_document.title) + "}{\\author " + escaped(m_document.author) + "}}\n";
     return head + "\\paperw" + number(page.PaperWidth) + "\\paperh" + number(page.PaperHeight) + "\\margl" +
-           number(page.LeftMargin) + "\\margr" + number(page.RightMargin) + "\\margt" + number(page.TopMargin) +
-           "\\margb" + number(page.BottomMargin) + "\\headery" + number(page.TopMargin / 2) + "\\footery" +
-           number(page.BottomMargin / 2) + '\n';
+           number(page.LeftMargin) + "\\margr" + number(page.RightMargin) + "\\margt" +
+           number(page.TopMargin + m_document.pageHeaderHeight) + "\\margb" +
+           number(page.BottomMargin + m_document.pageFooterHeight) + "\\headery" + number(page.TopMargin) +
+           "\\footery" + number(page.BottomMargin) + '\n';
 }
 
 int RtfWriter::colour(const QColor &value) {
@@ -127,6 +128,7 @@ QByteArray RtfWriter::characterFormat(const Element &element) {
 QByteArray RtfWriter::content(const Element &element) {
     QByteArray result = characterFormat(element);
     if (!element.picture.isNull()) result += pictureGroup(element.picture, element.pictureSize);
+    if (!element.picture.isNull() && !element.text.isEmpty()) result += ' ';
     if (element.pageValue == PageValue::None)
         result += escaped(element.text);
     else
@@ -174,8 +176,12 @@ void RtfWriter::writeTable(const Block &block) {
         m_body += QByteArray("\\pard\\plain") + (m_pageBreak ? "\\pagebb" : "") + "\\keepn\\fs2\\sl-" +
                   number(std::max(gap, 20)) + "\\slmult0\\par\n";
     m_pageBreak = false;
-    for (const Row &row : block.rows)
-        writeRow(row);
+    for (std::size_t i = 0; i < block.rows.size(); ++i) {
+        const Row &row = block.rows[i];
+        // Without a frame, the distance to the next row may be the row's.
+        const bool takesGap = block.kind == Block::Kind::Aligned && i + 1 < block.rows.size();
+        writeRow(row, (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top());
+    }
     m_afterTable = true;
 }
 
@@ -197,10 +203,11 @@ QByteArray RtfWriter::filler(int right) const {
 }
 
 // A gap between two elements becomes an empty cell.
-void RtfWriter::writeRow(const Row &row) {
-    m_body += "\\trowd\\trgaph" + number(CellGap) + "\\trleft" + number(row.left()) + "\\trkeep";
+void RtfWriter::writeRow(const Row &row, int height) {
+    // The distance to the frame is the paragraphs' own: readers disagree on where a padded cell begins.
+    m_body += "\\trowd\\trgaph0\\trleft" + number(row.left()) + "\\trkeep";
     if (row.isHeading) m_body += "\\trhdr";
-    m_body += "\\trrh" + number(row.bottom() - row.top());
+    m_body += "\\trrh" + number(height);
     QByteArray contents;
     int right = row.left();
     for (const Element &cell : row.cells) {
@@ -210,6 +217,7 @@ void RtfWriter::writeRow(const Row &row) {
         }
         m_body += cellDefinition(cell);
         contents += QByteArray("\\pard\\plain\\intbl") + alignment(cell);
+        if (cell.Border.any()) contents += "\\li" + number(CellPadding) + "\\ri" + number(CellPadding);
         if (cell.HeadingLevel > 0) contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";
         contents += content(cell) + "\\cell\n";
         right = cell.box.left() + cell.box.width();
@@ -221,6 +229,7 @@ void RtfWriter::writeRow(const Row &row) {
 void RtfWriter::writePageRows(const char *destination, const std::vector<Row> &rows) {
     if (rows.empty()) return;
     m_body += QByteArray("{\\") + destination + '\n';
+    int bottom = 0;
     for (const Row &row : rows) {
         QByteArray stops;
         QByteArray texts;
@@ -236,7 +245,8 @@ void RtfWriter::writePageRows(const char *destination, const std::vector<Row> &r
             if (cell.Alignment != 0 || left > 0) texts += "\\tab ";
             texts += content(cell);
         }
-        m_body += "\\pard\\plain" + stops + ' ' + texts + "\\par\n";
+        m_body += "\\pard\\plain\\sb" + number(std::max(0, row.top() - bottom)) + stops + ' ' + texts + "\\par\n";
+        bottom = row.bottom();
     }
     m_body += "}\n";
 }

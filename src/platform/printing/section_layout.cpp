@@ -1,6 +1,9 @@
 #include "platform/printing/section_layout.h"
 
 #include <algorithm>
+#include <climits>
+#include <optional>
+#include <span>
 
 #include "platform/printing/text_layout.h"
 #include "platform/runtime/twips.h"
@@ -81,27 +84,33 @@ int bottom(const PlacedControl &placed) {
     return placed.element.box.top() + placed.element.box.height();
 }
 
-// A control keeps the distance to those that it was drawn below.
-void pushDown(std::vector<PlacedControl> &controls) {
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        bool below = false;
-        int top = 0;
-        const int designedTop = controls[i].control->Top;
-        for (std::size_t above = 0; above < i; ++above) {
-            const int gap = designedTop - designedBottom(controls[above]);
-            if (gap < 0) continue;
-            top = below ? std::max(top, bottom(controls[above]) + gap) : bottom(controls[above]) + gap;
-            below = true;
-        }
-        if (below) controls[i].element.box.moveTop(top);
+// What was drawn at `designedTop` keeps the distance to what it was drawn directly below, and so to all that
+// stands above that. Nothing if it was drawn below none.
+std::optional<int> topBelow(std::span<const PlacedControl> controls, int designedTop) {
+    int nearestTop = INT_MIN;
+    for (const PlacedControl &placed : controls)
+        if (designedBottom(placed) <= designedTop) nearestTop = std::max(nearestTop, placed.control->Top);
+    std::optional<int> top;
+    for (const PlacedControl &placed : controls) {
+        if (designedBottom(placed) > designedTop) continue;
+        const bool isAboveNearest = designedBottom(placed) <= nearestTop && placed.control->Top < nearestTop;
+        if (!isAboveNearest)
+            top = std::max(top.value_or(INT_MIN), bottom(placed) + designedTop - designedBottom(placed));
     }
+    return top;
+}
+
+void pushDown(std::vector<PlacedControl> &controls) {
+    for (std::size_t i = 0; i < controls.size(); ++i)
+        if (const auto top = topBelow(std::span(controls).first(i), controls[i].control->Top))
+            controls[i].element.box.moveTop(*top);
 }
 
 int instanceHeight(const Section &section, const std::vector<PlacedControl> &controls) {
-    if (controls.empty() || !section.CanGrow) return section.Height;
-    int height = 0;
+    if (!section.CanGrow) return section.Height;
+    int height = topBelow(controls, section.Height).value_or(section.Height);
     for (const PlacedControl &placed : controls)
-        height = std::max(height, bottom(placed) + std::max(0, section.Height - designedBottom(placed)));
+        height = std::max(height, bottom(placed));
     return height;
 }
 

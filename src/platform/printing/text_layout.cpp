@@ -10,12 +10,20 @@ namespace Printing {
 namespace {
 
 // Between a frame or a filled ground and the text in it.
-constexpr int FramePadding = 50;
-constexpr int VerticalPadding = 12;
+constexpr int SidePadding = 60;
+constexpr int TopPadding = 25;
 constexpr QChar Ellipsis(0x2026);
 
+bool isFramed(const Element &element) {
+    return element.Border.any() || element.BackStyle != 0;
+}
+
 int sidePadding(const Element &element) {
-    return element.Border.any() || element.BackStyle != 0 ? FramePadding : 0;
+    return isFramed(element) ? SidePadding : 0;
+}
+
+int topPadding(const Element &element) {
+    return isFramed(element) ? TopPadding : 0;
 }
 
 int innerWidth(const Element &element) {
@@ -66,7 +74,7 @@ void breakLines(Element &element, bool wordWrap) {
 
 int neededHeight(const Element &element) {
     if (element.lines.empty()) return 0;
-    return element.lines.back().top + element.lines.back().height + 2 * VerticalPadding;
+    return element.lines.back().top + element.lines.back().height + 2 * topPadding(element);
 }
 
 void cutLinesToBox(Element &element) {
@@ -89,9 +97,9 @@ void arrangeLines(Element &element) {
     if (element.lines.empty()) return;
     const int height = element.lines.back().top + element.lines.back().height - element.lines.front().top;
     const int free = element.box.height() - height;
-    int top = VerticalPadding;
+    int top = topPadding(element);
     if (element.VerticalAlignment == 1) top = free / 2;
-    if (element.VerticalAlignment == 2) top = free - VerticalPadding;
+    if (element.VerticalAlignment == 2) top = free - topPadding(element);
     // A box of the line's own height still shows the whole line.
     top = std::max(std::min(top, free), 0);
     for (TextLine &line : element.lines) {

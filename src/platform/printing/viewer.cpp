@@ -150,9 +150,9 @@ void Viewer::createZoomTools() {
     addTool(QStringLiteral("zoomIn"), QStringLiteral("+"), tr("Zoom in"), QKeySequence::ZoomIn,
             [this] { m_view->setZoom(m_view->zoom() * ZoomStep); });
     addKey(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { m_view->setZoom(1); });
-    addTool(QStringLiteral("fitWidth"), tr("Width"), tr("Whole width"), QKeySequence(Qt::CTRL | Qt::Key_1),
+    addTool(QStringLiteral("fitWidth"), tr("Fit width"), tr("Fit width"), QKeySequence(Qt::CTRL | Qt::Key_1),
             [this] { m_view->setFit(PageView::Fit::Width); });
-    addTool(QStringLiteral("fitPage"), tr("Page"), tr("Whole page"), QKeySequence(Qt::CTRL | Qt::Key_2),
+    addTool(QStringLiteral("fitPage"), tr("Fit page"), tr("Fit page"), QKeySequence(Qt::CTRL | Qt::Key_2),
             [this] { m_view->setFit(PageView::Fit::Page); });
     m_toolBar->addSeparator();
 }

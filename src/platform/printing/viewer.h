@@ -21,7 +21,7 @@ namespace Printing {
 class PageView;
 
 /// Show it with exec(). Keys: Ctrl+P print, Ctrl+S save, Ctrl+F find, F3 and Shift+F3 next and previous match,
-/// Ctrl+Plus, Ctrl+Minus and Ctrl+0 zoom, Ctrl+1 whole width, Ctrl+2 whole page, Ctrl+Page Down and Up page by
+/// Ctrl+Plus, Ctrl+Minus and Ctrl+0 zoom, Ctrl+1 fit width, Ctrl+2 fit page, Ctrl+Page Down and Up page by
 /// page, Ctrl+Home and Ctrl+End first and last page, Ctrl+G page number, arrows, Page Up/Down, Home and End
 /// scroll, Escape leaves the find box and then the window.
 class Viewer : public QDialog {

@@ -1,0 +1,150 @@
+#include "platform/desktop/help_viewer.h"
+
+#include <QDesktopServices>
+#include <QHelpContentModel>
+#include <QHelpContentWidget>
+#include <QHelpEngine>
+#include <QHelpIndexWidget>
+#include <QHelpLink>
+#include <QHelpSearchEngine>
+#include <QHelpSearchQueryWidget>
+#include <QHelpSearchResultWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "platform/desktop/help_browser.h"
+#include "platform/forms/placement.h"
+#include "platform/runtime/app.h"
+
+HelpViewer::HelpViewer(const QString &file)
+    : m_file(file) {
+    setObjectName(QStringLiteral("HelpViewer"));
+    setWindowTitle(App::current().title + QLatin1String(" Help"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_namespace = QHelpEngineCore::namespaceName(file);
+    m_engine = new QHelpEngine(m_folder.filePath(QStringLiteral("help.qhc")), this);
+    m_engine->setReadOnly(false);
+    m_engine->setUsesFilterEngine(true);
+    if (m_namespace.isEmpty() || !m_engine->setupData() || !m_engine->registerDocumentation(file)) {
+        m_failure = m_namespace.isEmpty() ? QStringLiteral("it is no help file") : m_engine->error();
+        return;
+    }
+    build();
+}
+
+HelpViewer::~HelpViewer() {
+    delete takeCentralWidget(); // shows the engine's models
+    delete m_engine;            // writes into the folder
+}
+
+void HelpViewer::build() {
+    m_browser = named(new HelpBrowser(*m_engine), QStringLiteral("HelpText"), QStringLiteral("Help text"));
+    m_browser->setOpenLinks(false);
+    connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpViewer::followLink);
+
+    auto *contents = m_engine->contentWidget();
+    named(contents, QStringLiteral("HelpContents"), QStringLiteral("Contents"));
+    connect(contents, &QHelpContentWidget::linkActivated, this, &HelpViewer::followLink);
+    connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, contents, &QTreeView::expandAll);
+    m_pages = named(new QTabWidget, QStringLiteral("HelpPages"));
+    m_pages->addTab(contents, QStringLiteral("&Contents"));
+    m_pages->addTab(buildIndexPage(), QStringLiteral("&Index"));
+    m_pages->addTab(buildSearchPage(), QStringLiteral("&Search"));
+
+    auto *splitter = new QSplitter;
+    splitter->addWidget(m_pages);
+    splitter->addWidget(m_browser);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({300, 600});
+    setCentralWidget(splitter);
+
+    QToolBar *bar = addToolBar(QStringLiteral("Navigation"));
+    bar->setMovable(false);
+    const auto addButton = [&](const char *text, const QKeySequence &keys) {
+        QAction *action = bar->addAction(QLatin1String(text));
+        action->setObjectName(QLatin1String("Help") + QLatin1String(text));
+        action->setShortcut(keys);
+        return action;
+    };
+    QAction *back = addButton("Back", QKeySequence::Back);
+    QAction *forward = addButton("Forward", QKeySequence::Forward);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(back, &QAction::triggered, m_browser, &QTextBrowser::backward);
+    connect(forward, &QAction::triggered, m_browser, &QTextBrowser::forward);
+    connect(m_browser, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    auto *close = new QAction(this);
+    close->setShortcut(Qt::Key_Escape);
+    addAction(close);
+    connect(close, &QAction::triggered, this, &QWidget::close);
+    resize(900, 600);
+}
+
+QWidget *HelpViewer::buildIndexPage() {
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    auto *filter = named(new QLineEdit, QStringLiteral("HelpIndexFilter"), QStringLiteral("Look for"));
+    auto *label = new QLabel(QStringLiteral("&Look for:"));
+    label->setBuddy(filter);
+    QHelpIndexWidget *index = m_engine->indexWidget();
+    named(index, QStringLiteral("HelpIndex"), QStringLiteral("Index"));
+    layout->addWidget(label);
+    layout->addWidget(filter);
+    layout->addWidget(index);
+    connect(filter, &QLineEdit::textChanged, index,
+            [index](const QString &text) { index->filterIndices(text); });
+    connect(filter, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
+    connect(index, &QHelpIndexWidget::documentActivated, this,
+            [this](const QHelpLink &link) { followLink(link.url); });
+    connect(index, &QHelpIndexWidget::documentsActivated, this,
+            [this](const QList<QHelpLink> &links) { followLink(links.value(0).url); });
+    return page;
+}
+
+QWidget *HelpViewer::buildSearchPage() {
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    QHelpSearchEngine *search = m_engine->searchEngine();
+    named(search->queryWidget(), QStringLiteral("HelpSearch"), QStringLiteral("Search"));
+    named(search->resultWidget(), QStringLiteral("HelpSearchResult"), QStringLiteral("Topics found"));
+    layout->addWidget(search->queryWidget());
+    layout->addWidget(search->resultWidget(), 1);
+    connect(search->queryWidget(), &QHelpSearchQueryWidget::search, search,
+            [search] { search->search(search->queryWidget()->searchInput()); });
+    connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, this, &HelpViewer::followLink);
+    search->reindexDocumentation();
+    return page;
+}
+
+void HelpViewer::open(HelpCommand command, const QString &topic) {
+    if (command != HelpTopic) m_pages->setCurrentIndex(command - HelpContents);
+    const bool nothingShown = m_browser->source().isEmpty();
+    if (command == HelpTopic || nothingShown) m_browser->setSource(urlOfTopic(topic));
+    show();
+    raise();
+    activateWindow();
+}
+
+QUrl HelpViewer::urlOfTopic(const QString &topic) const {
+    const QList<QUrl> pages = m_engine->files(m_namespace, QString());
+    QUrl first;
+    for (const QUrl &page : pages) {
+        const QString name = page.fileName();
+        if (!topic.isEmpty() && name.compare(topic, Qt::CaseInsensitive) == 0) return page;
+        if (first.isEmpty() && name.contains(QLatin1String(".htm"), Qt::CaseInsensitive)) first = page;
+    }
+    return first;
+}
+
+void HelpViewer::followLink(const QUrl &url) {
+    const QUrl target = url.isRelative() ? m_browser->source().resolved(url) : url;
+    if (target.scheme() == QLatin1String("qthelp"))
+        m_browser->setSource(target);
+    else if (target.isValid())
+        QDesktopServices::openUrl(target);
+}

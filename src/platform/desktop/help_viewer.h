@@ -1,0 +1,42 @@
+// The window in which help is read.
+#pragma once
+
+#include <QMainWindow>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include "platform/desktop/help.h"
+
+class HelpBrowser;
+class QHelpEngine;
+class QTabWidget;
+
+/// Not one of the program's forms: it outlives a modal dialog and ends with the program.
+class HelpViewer : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit HelpViewer(const QString &file);
+    ~HelpViewer() override;
+
+    QString file() const { return m_file; }
+    /// Empty when the help can be read, else what is wrong with it.
+    QString failure() const { return m_failure; }
+    void open(HelpCommand command, const QString &topic);
+
+private:
+    void build();
+    QWidget *buildIndexPage();
+    QWidget *buildSearchPage();
+    QUrl urlOfTopic(const QString &topic) const;
+    void followLink(const QUrl &url);
+
+    QString m_file;
+    QString m_failure;
+    QString m_namespace;
+    // The engine keeps its search index in a file, which is made anew in each run.
+    QTemporaryDir m_folder;
+    QHelpEngine *m_engine = nullptr;
+    QTabWidget *m_pages = nullptr;
+    HelpBrowser *m_browser = nullptr;
+};

@@ -1,0 +1,124 @@
+// The help window over a help file made for the test.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QHelpContentWidget>
+#include <QHelpIndexWidget>
+#include <QHelpSearchEngine>
+#include <QHelpSearchQueryWidget>
+#include <QHelpSearchResultWidget>
+#include <QLibraryInfo>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+
+#include "platform/desktop/help.h"
+#include "platform/desktop/help_viewer.h"
+#include "tests/support/gui.h"
+
+namespace {
+
+class HelpTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        write("help.qhp", "<QtHelpProject version='1.0'><namespace>test.help</namespace>"
+                          "<virtualFolder>doc</virtualFolder><filterSection>"
+                          "<toc><section title='Start' ref='Start.htm'>"
+                          "<section title='Contact' ref='How_To.htm'/></section></toc>"
+                          "<keywords><keyword name='telephone' ref='How_To.htm'/></keywords>"
+                          "<files><file>Start.htm</file><file>How_To.htm</file></files>"
+                          "</filterSection></QtHelpProject>");
+        write("Start.htm", "<html><head><title>Start</title></head><body>Welcome. "
+                           "<a href='How_To.htm'>Contact</a></body></html>");
+        write("How_To.htm", "<html><head><title>Contact</title></head><body>Call us about "
+                            "crankshafts.</body></html>");
+        QProcess generator;
+        generator.start(QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + "/qhelpgenerator",
+                        {folder().filePath("help.qhp"), "-o", folder().filePath("Manual_HELP.qch")});
+        ASSERT_TRUE(generator.waitForFinished());
+        ASSERT_EQ(generator.exitCode(), 0) << generator.readAllStandardError().toStdString();
+    }
+
+    void TearDown() override { delete viewer(); }
+
+    static QTemporaryDir &folder() {
+        static QTemporaryDir made;
+        return made;
+    }
+
+    static void write(const QString &name, const QByteArray &text) {
+        QFile file(folder().filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    static HelpViewer *viewer() {
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (auto *found = qobject_cast<HelpViewer *>(widget)) return found;
+        return nullptr;
+    }
+
+    static QString shownText() { return viewer()->findChild<QTextBrowser *>("HelpText")->toPlainText(); }
+
+    static void show(HelpCommand command, const QString &topic = {}) {
+        HtmlHelp(folder().filePath("Manual_Help.chm"), command, topic);
+    }
+};
+
+TEST_F(HelpTest, ATopicIsFoundByItsFileName) {
+    show(HelpTopic, "HOW_TO.htm");
+    EXPECT_TRUE(shownText().contains("Call us"));
+    HelpViewer *first = viewer();
+    show(HelpTopic, "Start.htm");
+    EXPECT_EQ(viewer(), first) << "one window for all calls";
+    EXPECT_TRUE(shownText().contains("Welcome"));
+    viewer()->findChild<QTextBrowser *>("HelpText")->anchorClicked(QUrl("How_To.htm"));
+    EXPECT_TRUE(shownText().contains("Call us"));
+}
+
+TEST_F(HelpTest, ContentsIndexAndSearchLeadToTheTopic) {
+    show(HelpContents);
+    auto *pages = viewer()->findChild<QTabWidget *>("HelpPages");
+    EXPECT_EQ(pages->currentIndex(), 0);
+    auto *contents = viewer()->findChild<QHelpContentWidget *>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return contents->model()->rowCount() == 1; }));
+    EXPECT_EQ(contents->model()->index(0, 0).data().toString(), "Start");
+    EXPECT_TRUE(shownText().contains("Welcome")) << "no empty window";
+
+    show(HelpIndex);
+    EXPECT_EQ(pages->currentIndex(), 1);
+    auto *index = viewer()->findChild<QHelpIndexWidget *>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return index->model()->rowCount() == 1; }));
+    auto *filter = viewer()->findChild<QLineEdit *>("HelpIndexFilter");
+    QTest::keyClicks(filter, "tele");
+    QTest::keyClick(filter, Qt::Key_Return);
+    EXPECT_TRUE(shownText().contains("Call us"));
+
+    show(HelpSearch);
+    EXPECT_EQ(pages->currentIndex(), 2);
+    auto *query = viewer()->findChild<QHelpSearchQueryWidget *>();
+    auto *search = viewer()->findChild<QHelpSearchEngine *>();
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        query->setSearchInput("crankshafts");
+        Q_EMIT query->search();
+        QTest::qWait(100);
+        return search->searchResultCount() > 0;
+    }));
+    EXPECT_EQ(search->searchResults(0, 1).value(0).title(), "Contact");
+}
+
+TEST_F(HelpTest, AMissingOrDamagedFileIsToldAndNothingElseHappens) {
+    write("damaged.qch", "no help");
+    for (const char *name : {"none.chm", "damaged.chm"}) {
+        modal().answerMsgBox(1);
+        HtmlHelp(folder().filePath(name), HelpContents);
+        EXPECT_TRUE(modal().lastAsked().text.contains(name));
+        EXPECT_EQ(viewer(), nullptr);
+    }
+}
+
+} // namespace

@@ -1,0 +1,332 @@
+// The material window over the sample database.
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "data/Material.h"
+#include "data/table_vocabulary.h"
+#include "material/frmMaterial2.h"
+#include "material/menu_place.h"
+#include "platform/forms/call_by_name.h"
+#include "shell/mdiVelmar.h"
+#include "tests/support/error_of.h"
+#include "tests/support/given_rows.h"
+#include "tests/support/gui.h"
+#include "tests/support/program.h"
+
+namespace {
+
+constexpr int P265GH = 2;
+constexpr int Mo3 = 5;            // other elements "-"
+constexpr int X6CrNiMoTi = 16;    // other elements, no notes; tables without thickness bands
+constexpr int X10CrMoVNb9 = 26;   // "-" in an impact value after the first
+constexpr int CrMo4 = 37;         // one row of empty cells
+constexpr int ReferenceOnly = 38; // no table at all
+
+// A grade that the property tables do not know, of a standard with other elements.
+std::shared_ptr<Material> gradeWithoutRows() {
+    const QDateTime date(QDate(2020, 1, 1), QTime(0, 0));
+    auto material = std::make_shared<Material>();
+    material->SetProperties(givenRows({"matID", "name", "numbr", "description", "groups", "revision_date"},
+                                      {{30000, "X", "1.0", QVariant(), QVariant(), date}}),
+                            givenRows({"stID", "standard", "description", "revision_date", "otherElem"},
+                                      {{1, "EN 10028-2", QVariant(), date, true}}));
+    return material;
+}
+
+class MaterialWindow : public ::testing::Test {
+protected:
+    frmMaterial2 &show(int matID, const QString &key = "Ref") {
+        material = program.material(matID);
+        frmMaterial2 &window = program.open(material);
+        window.ShowTable(key);
+        return window;
+    }
+
+    /// The headings of the columns that show, the lines parted by a stroke.
+    static QStringList headings(TDBGrid &grid) {
+        QStringList result;
+        for (int i = 0; i < grid.ColumnCount(); ++i)
+            if (grid.Columns(i).Visible()) result << QString(grid.Columns(i).Caption()).replace("\r\n", "|");
+        return result;
+    }
+    static QStringList row(TDBGrid &grid, int row) {
+        QStringList result;
+        for (int i = 0; i < grid.ColumnCount(); ++i)
+            if (grid.Columns(i).Visible()) result << grid.CellText(row, i);
+        return result;
+    }
+
+    TestProgram program;
+    std::shared_ptr<Material> material;
+};
+
+TEST_F(MaterialWindow, ShowsGradeStandardAndProductForms) {
+    const frmMaterial2 &window = show(P265GH);
+    EXPECT_TRUE(window.framMain->isVisible() && window.framStand->isVisible() &&
+                window.ImgPic(1)->isVisible());
+    EXPECT_FALSE(window.framNotes->isVisible());
+    const QStringList expected{" EN 10028-2",
+                               " Flat products made of steels for pressure purposes - Non-alloy and alloy "
+                               "steels with specified elevated temperature properties",
+                               " P265GH",
+                               " Non-alloy quality steel",
+                               " 1.0425",
+                               " 1.1",
+                               " 2017-09-30",
+                               " Plate, Sheet, Strip",
+                               " 2017-09-30"};
+    for (int i = 0; i < expected.size(); ++i)
+        EXPECT_EQ(window.txtMainData(i)->toPlainText(), expected[i]);
+    EXPECT_TRUE(material->TableChecked("Ref"));
+    EXPECT_EQ(material->ProductForms(), QStringList({"Plate", "Sheet", "Strip"}));
+    EXPECT_EQ(material->MyForm(), &window);
+
+    const frmMaterial2 &bare = show(ReferenceOnly);
+    EXPECT_EQ(bare.txtMainData(7)->toPlainText(), "");
+    EXPECT_EQ(bare.txtMainData(3)->toPlainText(), " ") << "Null shows as nothing";
+    EXPECT_FALSE(material->HasProductForms());
+}
+
+TEST_F(MaterialWindow, LaysTheCompositionOnItsSide) {
+    frmMaterial2 &window = show(P265GH, "ChemComp");
+    TDBGrid &grid = *window.tdbTable;
+    EXPECT_EQ(grid.Caption(), "Chemical composition");
+    ASSERT_EQ(grid.ColumnCount(), 15) << "fourteen elements";
+    EXPECT_EQ(headings(grid).mid(0, 3), QStringList({"", "C||", "Si||"}));
+    EXPECT_EQ(grid.Columns(6).Caption(), "Al\r\n\r\na)");
+    EXPECT_EQ(row(grid, 0).mid(0, 4), QStringList({"min", "", "", "0,8"}));
+    EXPECT_EQ(row(grid, 1).mid(0, 4), QStringList({"max", "0,2", "0,4", "1,4"}));
+
+    EXPECT_EQ(window.lblNotes->text(), "Other Elements & Notes...");
+    EXPECT_EQ(window.txtNotes->toPlainText(),
+              "Other Elements - Cr + Cu + Mo + Ni max 0,70 %\n\n"
+              "Sample value for trying out the program, not for design.\n"
+              "a) Al,total min 0,020 % applies.\nb) Cr + Cu + Mo max 0,70 %.");
+    EXPECT_FALSE(material->TableNotes(1).contains("Other"))
+        << "the notes are kept without the other elements";
+    EXPECT_EQ(material->OthersText(), "Cr + Cu + Mo + Ni max 0,70 %");
+    EXPECT_EQ(material->UnboundTableData("ChemComp").Get(2, 3), "1,4");
+
+    window.ShowTable("ChemComp");
+    EXPECT_EQ(grid.ColumnCount(), 15);
+    EXPECT_EQ(material->ColCaption("ChemComp", 14), QString(grid.Columns(14).Caption()));
+    EXPECT_EQ(errorOf([&] { material->ColCaption("ChemComp", 15); }), 9) << "headings are stored once";
+}
+
+TEST_F(MaterialWindow, OtherElementsAloneOpenTheNotesPanel) {
+    frmMaterial2 &window = show(X6CrNiMoTi, "ChemComp");
+    EXPECT_EQ(window.lblNotes->text(), "Other Elements...");
+    EXPECT_TRUE(window.lblNotes->isVisible() && window.cmdShowNotes->isVisible());
+    EXPECT_TRUE(window.TimerFlash->isActive());
+
+    const frmMaterial2 &none = show(Mo3, "ChemComp");
+    EXPECT_EQ(material->OthersText(), "-");
+    EXPECT_FALSE(none.txtNotes->toPlainText().contains("Other"));
+
+    frmMaterial2 &broken = program.open(gradeWithoutRows());
+    EXPECT_EQ(errorOf([&] { broken.ShowTable("ChemComp"); }), 3021) << "the standard promises a row";
+}
+
+TEST_F(MaterialWindow, PivotsThicknessBandsIntoColumns) {
+    frmMaterial2 &window = show(P265GH, "Elevated");
+    TDBGrid &grid = *window.tdbBoundTable;
+    EXPECT_EQ(window.strCurrentTable, "Rp02");
+    EXPECT_EQ(window.window()->focusWidget(), window.optMechProp(0));
+    EXPECT_EQ(headings(grid),
+              QStringList({"Temperature ||[°C]", "(   ) - ||16mm", "(16) - ||40mm", "(40) - ||60mm",
+                           "(60) - ||100mm", "(100) - ||150mm", "(150) - ||250mm"}));
+    EXPECT_EQ(row(grid, 0), QStringList({"50", "256", "247", "237", "208", "193", "179"}));
+    EXPECT_EQ(row(grid, 7).last(), "(105)");
+    EXPECT_EQ(grid.Columns(0).Width(), 1200) << "meant so: not the width it is designed with";
+    EXPECT_EQ(grid.Columns(3).Width(), 900);
+    EXPECT_TRUE(material->ElevatedMultiCol("Rp02"));
+    EXPECT_EQ(material->ElevatedColumns("Rp02"), QVector<qint16>({0, 16, 40, 60, 100, 150, 250}));
+    EXPECT_EQ(material->MaxDesignCols(), 6);
+
+    window.ShowTable("ModElast");
+    EXPECT_EQ(grid.ColumnCount(), 4);
+    EXPECT_EQ(headings(grid), QStringList({"Temperature ||[°C]", "KN ||/ mm²"}));
+    EXPECT_EQ(grid.Columns(1).PicturePosition(), HeadPicturePosition::PictureOnly);
+    EXPECT_EQ(row(grid, 0), QStringList({"20", "212"}));
+    EXPECT_FALSE(window.framMechOpt->isVisible());
+
+    frmMaterial2 &plain = show(X6CrNiMoTi, "Rm");
+    EXPECT_EQ(headings(*plain.tdbBoundTable), QStringList({"Temperature ||[°C]", "Rm ||[MPa]"}));
+    EXPECT_EQ(plain.tdbBoundTable->Columns(1).PicturePosition(), HeadPicturePosition::TextOnly);
+    EXPECT_FALSE(material->ElevatedMultiCol("Rm"));
+}
+
+TEST_F(MaterialWindow, ShowsImpactColumnsThatHaveValues) {
+    frmMaterial2 &window = show(P265GH, "ImpEnergy");
+    EXPECT_EQ(headings(*window.tdbBoundTable),
+              QStringList({"Temperature ||[°C]", "KVL||[Joule]", "KVT||[Joule]"}));
+    EXPECT_EQ(material->ImpEnergyCols(), 6);
+    EXPECT_FALSE(window.CommandShowGraph->isVisible() || window.CommandShowTable->isVisible());
+
+    frmMaterial2 &dash = show(X10CrMoVNb9, "ImpEnergy");
+    EXPECT_EQ(row(*dash.tdbBoundTable, 0), QStringList({"-10", "28", "-"}));
+    EXPECT_EQ(material->ImpEnergyCols(), 6);
+    dash.ShowTable("ThermExp");
+    EXPECT_EQ(headings(*dash.tdbBoundTable).size(), 3);
+    EXPECT_EQ(material->MaxDesignCols(), dash.tdbBoundTable->RowCount()) << "meant so: the rows count";
+}
+
+TEST_F(MaterialWindow, BuildsTheColumnsOfRoomTemperature) {
+    frmMaterial2 &window = show(P265GH, "MechProp");
+    TDBGrid &grid = *window.tdbTable;
+    EXPECT_EQ(headings(grid).mid(0, 3), QStringList({"Thickness||[mm]|", "ReH|1)|[MPa]|min", "Rm||[MPa]|"}));
+    EXPECT_EQ(row(grid, 1), QStringList({"(16) - 40", "255", "410 - 530", "22", "+N"}));
+    EXPECT_EQ(grid.Columns(0).Width(), 1450) << "the first column is 250 wider than told";
+    EXPECT_EQ(grid.Columns(3).Width(), 780) << "a width of 0";
+    EXPECT_EQ(material->MechCreepColSize("MechProp"), QVector<float>({1450, 900, 1100, 780, 1300}));
+    EXPECT_EQ(material->ColCaption("MechProp", 1), "ReH\r\n1)\r\n[MPa]\r\nmin");
+    EXPECT_FALSE(window.cmdUnBoundGraph->isVisible());
+
+    // meant so: one row of empty cells shows, and is no data
+    frmMaterial2 &empty = show(CrMo4, "MechProp");
+    EXPECT_EQ(empty.tdbTable->RowCount(), 1);
+    EXPECT_FALSE(empty.framNoData->isVisible());
+    EXPECT_FALSE(material->TableHasData("MechProp"));
+    EXPECT_TRUE(material->TableChecked("MechProp"));
+    empty.ShowTable("MechProp");
+    EXPECT_EQ(material->ColCaption("MechProp", 3), material->ColCaption("MechProp", 0))
+        << "meant so: the headings of a table without data are stored again";
+}
+
+TEST_F(MaterialWindow, HidesEmptyCreepColumns) {
+    frmMaterial2 &window = show(P265GH, "CreepProp");
+    TDBGrid &grid = *window.tdbTable;
+    const QVector<bool> empty = window.EmptyCreepCols();
+    ASSERT_EQ(empty.size(), grid.ColumnCount());
+    ASSERT_GT(empty.count(true), 0);
+    for (int i = 0; i < grid.ColumnCount(); ++i) {
+        EXPECT_EQ(grid.Columns(i).Visible(), !empty[i]);
+        for (int r = 0; empty[i] && r < grid.RowCount(); ++r)
+            EXPECT_TRUE(QStringList({"", " ", "-"}).contains(grid.CellText(r, i)));
+    }
+    EXPECT_EQ(window.lblXAxis->text(), "Temperature [°C]");
+    EXPECT_EQ(window.cboColumnList->count(), empty.count(false) - 1);
+    EXPECT_EQ(window.cboColumnList->currentIndex(), 0);
+    EXPECT_TRUE(window.cmdUnBoundGraph->isVisible());
+
+    window.ShowTable("ChemComp");
+    EXPECT_FALSE(window.cmdUnBoundGraph->isVisible());
+    EXPECT_EQ(headings(grid).size(), 15) << "the columns of another table are not hidden";
+}
+
+TEST_F(MaterialWindow, AdditionalInformationTakesThePageAndGivesItBack) {
+    frmMaterial2 &window = show(P265GH);
+    const QRect notes = placeOf(window.framNotes);
+    window.ShowTable("AddInfo");
+    EXPECT_TRUE(window.txtNotes->toPlainText().startsWith(
+        "General\n\nBoiler and pressure vessel plate for elevated temperature service.\n"));
+    EXPECT_TRUE(window.txtNotes->toPlainText().endsWith("600 °C.\n\n\nAll texts here are sample texts."))
+        << "a paragraph without a title stands last";
+    EXPECT_EQ(material->AddInfo().count("\r\n"), window.txtNotes->toPlainText().count('\n'));
+    EXPECT_EQ(window.lblNotes->text(), "Additional Information...");
+    EXPECT_FALSE(window.cmdShowNotes->isVisible());
+    EXPECT_GT(placeOf(window.txtNotes).height(), notes.height());
+
+    window.ShowTable("Rp02");
+    EXPECT_EQ(placeOf(window.framNotes), notes);
+    EXPECT_EQ(window.lblNotes->text(), "Notes...");
+    EXPECT_FALSE(window.txtNotes->toPlainText().contains("General"));
+}
+
+TEST_F(MaterialWindow, TheNotesButtonCallsForAttention) {
+    frmMaterial2 &window = show(P265GH, "MechProp");
+    EXPECT_EQ(placeOf(window.tdbTable).height(), 3735);
+    QTest::mouseClick(window.cmdShowNotes, Qt::LeftButton);
+    EXPECT_EQ(placeOf(window.framNotes).top(), 2520);
+    EXPECT_EQ(placeOf(window.tdbTable).height(), 2175);
+    EXPECT_EQ(window.cmdShowNotes->toolTip(), "Hide Table Notes");
+    EXPECT_TRUE(window.TimerFlash->isActive()) << "meant so: the timer runs on";
+
+    const auto picture = [&window] { return window.cmdShowNotes->icon().pixmap(18).toImage(); };
+    window.TimerFlash->setInterval(1);
+    const QImage open = picture();
+    QTest::qWait(20);
+    EXPECT_EQ(picture(), open) << "an open panel does not flash";
+    QTest::mouseClick(window.cmdShowNotes, Qt::LeftButton);
+    EXPECT_EQ(placeOf(window.framNotes).top(), 4080);
+    EXPECT_EQ(window.cmdShowNotes->toolTip(), "Show Table Notes");
+    const QImage closed = picture();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != closed; }, 1000));
+    window.ShowTable("MechProp");
+    EXPECT_EQ(picture(), closed);
+}
+
+TEST_F(MaterialWindow, TellsThatThereIsNoData) {
+    frmMaterial2 &window = show(P265GH, "Rp02");
+    window.CommandShowGraph->click();
+    EXPECT_TRUE(window.framChart->isVisible());
+    EXPECT_FALSE(window.tdbBoundTable->isVisible() || window.framNotes->isVisible());
+    window.ShowTable("ModElast");
+    EXPECT_TRUE(window.framChart->isVisible()) << "the choice of the graph holds";
+
+    window.ShowTable("Rp10");
+    EXPECT_TRUE(window.framNoData->isVisible());
+    EXPECT_EQ(placeOf(window.framNoData), placeOf(window.tdbBoundTable));
+    EXPECT_TRUE(window.txtNoData->toPlainText().contains(
+        "'Minimum values for Rp1,0 [MPa] at elevated temperature.'"));
+    EXPECT_FALSE(window.tdbBoundTable->isVisible() || window.framChart->isVisible());
+    EXPECT_FALSE(window.CommandShowGraph->isVisible() || window.CommandShowTable->isVisible());
+    EXPECT_TRUE(material->TableChecked("Rp10"));
+
+    window.ShowTable("ModElast");
+    EXPECT_FALSE(window.framNoData->isVisible() || window.framChart->isVisible()) << "the choice is gone";
+    EXPECT_TRUE(window.CommandShowGraph->isVisible());
+}
+
+TEST_F(MaterialWindow, ChecksTheTablesAndComesBack) {
+    for (const int matID : {P265GH, ReferenceOnly}) {
+        frmMaterial2 &window = show(matID, "Ref");
+        window.ShowTable("CreepProp");
+        CallByName(static_cast<FormBase &>(window), "CheckTablesForRecords");
+        EXPECT_EQ(window.strCurrentTable, "CreepProp");
+        for (int i = 0; i < TableVocabulary::TableCount; ++i)
+            EXPECT_TRUE(material->TableChecked(TableVocabulary::GetShortTableName(i))) << i;
+        EXPECT_EQ(material->TableHasData("CreepProp"), matID == P265GH);
+        EXPECT_EQ(material->TableHasData("ChemComp"), matID == P265GH);
+    }
+    EXPECT_EQ(material->UnboundTableData("ChemComp").Count(1), 0);
+    EXPECT_EQ(material->UnboundTableData("MechProp").Count(1), 1) << "a row of empty cells";
+}
+
+TEST_F(MaterialWindow, FollowsAndLeavesTheGroup) {
+    mdiVelmar &main = mdiVelmar::instance();
+    frmMaterial2 &first = show(P265GH);
+    const auto firstMaterial = material;
+    frmMaterial2 &second = show(ReferenceOnly);
+    main.iMaterialsOpen = 2;
+    EXPECT_EQ(main.mCurrent, material);
+    first.SetFocus();
+    EXPECT_EQ(main.mCurrent, firstMaterial);
+    second.ShowTable("Elevated");
+    EXPECT_EQ(main.activeChild(), &first) << "a window behind stays there";
+
+    first.parentWidget()->resize(300, 200);
+    EXPECT_EQ(first.Width(), 11280);
+    EXPECT_EQ(first.Height(), 5040);
+
+    first.ShowTable("CreepProp");
+    main.UpdateMenusAndButtons("Mech", 3);
+    first.Unload();
+    EXPECT_EQ(main.iMaterialsOpen, 1);
+    EXPECT_EQ(firstMaterial->MyForm(), nullptr);
+    EXPECT_FALSE(main.menu.mnuViewMechElem(3).Enabled()) << "the table stays the current one";
+    EXPECT_EQ(main.strTableButton, "Mech");
+}
+
+TEST(MenuPlaceTest, EveryTableHasItsEntry) {
+    const QStringList places{"View0", "View1", "Mech0", "View3", "Mech1", "Mech1", "Mech1",
+                             "Phys0", "Phys1", "Phys2", "Phys3", "Phys4", "Mech3", "View5"};
+    for (int i = 0; i < places.size(); ++i) {
+        const MenuPlace place = menuPlaceOf(TableVocabulary::GetShortTableName(i));
+        EXPECT_EQ(place.group + QString::number(place.index), places[i]);
+    }
+    EXPECT_EQ(menuPlaceOf("Design").index, 6);
+}
+
+} // namespace

@@ -1,0 +1,243 @@
+// From the start window to the search window, and every way in which the database can be missing.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "data/modDBase.h"
+#include "platform/dao/database.h"
+#include "platform/dao/file_lock.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/msg_box.h"
+#include "platform/forms/screen.h"
+#include "platform/forms/status_bar.h"
+#include "platform/forms/toolbar.h"
+#include "platform/runtime/app.h"
+#include "platform/runtime/text_file.h"
+#include "search/frmSearch.h"
+#include "shell/frmSplash.h"
+#include "shell/mdiVelmar.h"
+#include "shell/modFileHandler.h"
+#include "tests/support/gui.h"
+#include "tests/support/pinned_settings.h"
+
+namespace {
+
+/// A program folder and a user's folder, both fresh; the program is not started yet.
+class Start : public ::testing::Test {
+protected:
+    Start() {
+        App::current().path = m_program.path();
+        App::current().exeName = "velmar-ped";
+        App::current().title = "Velmar-PED";
+        qputenv("APPDATA", m_user.path().toUtf8());
+    }
+
+    ~Start() override {
+        for (FormBase &form : Forms())
+            if (form.Name() != QLatin1String("mdiVelmar")) form.Unload(vbFormMDIForm);
+        if (auto *window = LoadedInstance<mdiVelmar>()) window->Unload();
+        deleteUnloaded();
+        modDBase::reset();
+        Screen::setSizeForTest({});
+        qunsetenv("APPDATA");
+    }
+
+    QString program(const QString &file) const { return m_program.filePath(file); }
+    QString user(const QString &file) const { return m_user.filePath("Harmotek/Velmar_PED/" + file); }
+
+    void copyDatabase(const QString &to) {
+        ASSERT_TRUE(QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", to));
+    }
+    void writeUser(const QString &file, const QStringList &lines) {
+        QDir().mkpath(user(""));
+        TextFile::writeLines(user(file), lines);
+    }
+    void start() {
+        modFileHandler::SetupFileEnvironment();
+        mdiVelmar::instance();
+    }
+    static bool isRunning() { return LoadedInstance<mdiVelmar>() != nullptr; }
+
+    PinnedSettings m_settings;
+    QTemporaryDir m_program;
+    QTemporaryDir m_user;
+};
+
+QStringList settingsOf(const QString &file) {
+    return TextFile::readLines(file);
+}
+
+} // namespace
+
+TEST_F(Start, AKeyOnTheStartWindowLeadsToTheSearch) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    auto &splash = DefaultInstance<frmSplash>();
+    EXPECT_EQ(splash.Timer1->interval(), 3000);
+    EXPECT_FALSE(splash.Timer2->isActive());
+    QTest::keyClick(&splash, Qt::Key_A);
+    ASSERT_TRUE(isRunning());
+    EXPECT_TRUE(splash.isUnloaded());
+    auto &main = mdiVelmar::instance();
+    EXPECT_EQ(main.Caption(), "elmar-PED   ");
+    EXPECT_TRUE(Forms::byName("frmSearch")->Visible());
+    EXPECT_FALSE(main.Toolbar1->Visible());
+    EXPECT_FALSE(main.menu.mnuView->Visible());
+    // the path is the program's own folder, which is not worth remembering
+    EXPECT_EQ(settingsOf(user("PathSet.vlp")), QStringList());
+}
+
+TEST_F(Start, FilesBesideTheProgramAreTheFirstContentOfTheUsersFolder) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    TextFile::writeLines(program("Settings.vlp"), {"Tile_Horizontal"});
+    start();
+    EXPECT_EQ(mdiVelmar::instance().iArrangement, 1);
+    EXPECT_TRUE(QFile::exists(user("Settings.vlp")));
+}
+
+TEST_F(Start, ADatabaseThatHasGoneIsLookedForAndItsPlaceRemembered) {
+    QDir(m_program.path()).mkdir("elsewhere");
+    const QString found = program("elsewhere/Velmar_PED.mdb");
+    copyDatabase(found);
+    copyDatabase(program("elsewhere/Other.mdb"));
+    writeUser("PathSet.vlp", {program("gone.mdb")});
+    modal().answerMsgBox(vbYes);
+    modal().chooseFile([&](const ModalSeam::Request &request) {
+        EXPECT_EQ(request.title, "Locate Velmar_PED.mdb...");
+        EXPECT_EQ(request.fileName, "Velmar_PED.mdb");
+        EXPECT_EQ(request.filter, "Access files (*.mdb)|*.mdb");
+        return program("elsewhere/Other.mdb");
+    });
+    modal().answerMsgBox(vbYes);
+    modal().chooseFile(found);
+    start();
+    ASSERT_TRUE(isRunning());
+    const QList<ModalSeam::Request> asked = modal().asked();
+    ASSERT_EQ(asked.size(), 4);
+    EXPECT_EQ(asked[0].title, "Database Missing");
+    EXPECT_EQ(asked[0].style, vbYesNo + vbCritical);
+    EXPECT_TRUE(asked[0].text.startsWith("Error <3024> "));
+    EXPECT_TRUE(asked[0].text.contains("\r\n\r\nUnable to locate database.\r\n\r\nClick 'Yes' to search"));
+    EXPECT_EQ(asked[2].title, "Wrong Path...");
+    EXPECT_EQ(asked[2].style, vbYesNo + vbInformation);
+    EXPECT_EQ(asked[2].text, "You attempted to open wrong file.\r\n\r\n'" + program("elsewhere/Other.mdb") +
+                                 "'\r\n\r\nDo you wish to try again ?");
+    EXPECT_EQ(settingsOf(user("PathSet.vlp")), QStringList{found});
+    EXPECT_EQ(modDBase::dbMain()->Name(), found);
+    modal().clear();
+}
+
+TEST_F(Start, WhatIsNoDatabaseIsToldWithItsPath) {
+    TextFile::writeLines(program("Velmar_PED.mdb"), {"no database"});
+    modal().answerMsgBox(vbNo);
+    start();
+    EXPECT_FALSE(isRunning());
+    EXPECT_TRUE(modDBase::bDatabaseFailed());
+    EXPECT_EQ(modal().lastAsked().title, "Wrong file format");
+    EXPECT_EQ(modal().lastAsked().text,
+              "You attempted to open a non-database file.\r\n\r\n" + program("Velmar_PED.mdb") +
+                  "\r\n\r\nVelmar_PED.mdbis the necessary file\r\n\r\nDo you wish to try again?");
+    // the settings of a failed start are written too
+    EXPECT_EQ(settingsOf(user("Settings.vlp")).size(), 27);
+    modal().clear();
+}
+
+TEST_F(Start, CancelInTheFileDialogEndsLikeNo) {
+    modal().answerMsgBox(vbYes);
+    modal().chooseFile(QString());
+    start();
+    EXPECT_FALSE(isRunning());
+    modal().clear();
+}
+
+TEST_F(Start, ADatabaseHeldByAnotherRunIsLogged) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    const FileLock other(program("Velmar_PED.mdb"), FileLock::Kind::Exclusive);
+    modal().answerMsgBox(vbOK);
+    start();
+    EXPECT_FALSE(isRunning());
+    const QStringList log = TextFile::readLines(program("ErrorLog.txt"));
+    ASSERT_EQ(log.size(), 6);
+    EXPECT_EQ(log[1], "Error No. - 3356");
+    EXPECT_EQ(log[2], "Application EXE - velmar-ped");
+    EXPECT_EQ(log[3], "Sub/Function - modDBase.OpenDBase");
+    EXPECT_EQ(log[4], "Error Description - ");
+    EXPECT_EQ(modal().lastAsked().title, "Error Occurred!!");
+    EXPECT_TRUE(modal().lastAsked().text.startsWith(log.mid(1).join("\r\n") + "\r\n\r\nError Log - "));
+    modal().clear();
+}
+
+TEST_F(Start, ScreensDecideTheSizeOfTheSearchWindow) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    struct Case {
+        int width;
+        bool lowRes;
+        int boxes;
+    };
+    for (const Case &screen :
+         {Case{1024, false, 0}, Case{1023, true, 0}, Case{800, true, 0}, Case{640, true, 1}}) {
+        Screen::setSizeForTest({screen.width, 600});
+        if (screen.boxes > 0) modal().answerMsgBox(vbOK);
+        start();
+        EXPECT_EQ(mdiVelmar::instance().bLowRes, screen.lowRes) << screen.width;
+        EXPECT_EQ(modal().asked().size(), screen.boxes) << screen.width;
+        modal().clear();
+        mdiVelmar::instance().Unload();
+        deleteUnloaded();
+        modDBase::reset();
+    }
+}
+
+TEST_F(Start, SettingsComeBackAtTheNextStart) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    start();
+    {
+        auto &main = mdiVelmar::instance();
+        main.menu.mnuSettingsToolElem(3).trigger();
+        main.menu.mnuSettingsToolElem(1).trigger();
+        main.menu.mnuSettingsElem(1).trigger();
+        main.menu.mnuSettingsElem(2).trigger();
+        main.menu.mnuSettingsElem(3).trigger();
+        main.menu.mnuWindowElem(1).trigger();
+        main.Unload();
+        deleteUnloaded();
+        modDBase::reset();
+    }
+    EXPECT_EQ(settingsOf(user("Settings.vlp")).mid(0, 7),
+              QStringList({"Tile_Horizontal", "Tool_HIDE", "Tool_BOTTOM", "Status_HIDE", "16777215",
+                           "Colours_OFF", "ToolTips_OFF"}));
+    start();
+    auto &main = mdiVelmar::instance();
+    EXPECT_EQ(main.Toolbar1->Align(), vbAlignBottom);
+    EXPECT_TRUE(main.menu.mnuSettingsToolElem(2).Enabled());
+    EXPECT_FALSE(main.menu.mnuSettingsToolElem(3).Enabled());
+    EXPECT_FALSE(main.stbStatus->Visible());
+    EXPECT_TRUE(main.bColoursOff);
+    EXPECT_FALSE(main.bToolTips);
+    EXPECT_EQ(main.iArrangement, 1);
+    EXPECT_EQ(main.strArrangement, "Cascade"); // until the next Show brings it in line
+}
+
+TEST_F(Start, ABackColourThatIsNoNumberIsReportedAndMended) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    writeUser("Settings.vlp", {"", "", "", "", "blue"});
+    start();
+    const QList<RuntimeError> faults = takeFaults();
+    ASSERT_EQ(faults.size(), 1);
+    EXPECT_EQ(faults.first().number(), 13);
+    mdiVelmar::instance().WriteSettings();
+    EXPECT_EQ(settingsOf(user("Settings.vlp"))[4], "16697253");
+}
+
+TEST_F(Start, LeavingUnloadsEverythingAndLetsGoOfTheDatabase) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    start();
+    mdiVelmar::instance().menu.mnuFileElem(7).trigger();
+    EXPECT_FALSE(isRunning());
+    EXPECT_EQ(Forms::Count(), 0);
+    EXPECT_NO_THROW(FileLock(program("Velmar_PED.mdb"), FileLock::Kind::Exclusive));
+    EXPECT_EQ(settingsOf(user("Settings.vlp")).size(), 27);
+}
