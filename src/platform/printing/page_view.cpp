@@ -123,8 +123,10 @@ void PageView::setCurrentMatch(int index) {
     for (const QRectF &area : matchAreas(m_document, match)) {
         const QPointF place = pageRect(match.page).topLeft() + area.center() * scale;
         if (viewport()->rect().contains(place.toPoint())) return;
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + int(place.x()) - viewport()->width() / 2);
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + int(place.y()) - viewport()->height() / 2);
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + int(place.x()) -
+                                        viewport()->width() / 2);
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + int(place.y()) -
+                                      viewport()->height() / 2);
         return;
     }
 }

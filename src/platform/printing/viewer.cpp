@@ -74,8 +74,8 @@ void Viewer::openAtReadableSize() {
     m_view->setFit(PageView::Fit::Width);
 }
 
-QAction *Viewer::addTool(const QString &name, const QString &text, const QString &tip, const QKeySequence &key,
-                         std::function<void()> act) {
+QAction *Viewer::addTool(const QString &name, const QString &text, const QString &tip,
+                         const QKeySequence &key, std::function<void()> act) {
     auto *action = new QAction(text, this);
     action->setObjectName(name);
     action->setShortcut(key);
@@ -103,8 +103,8 @@ void Viewer::createFileTools() {
 
 void Viewer::createPageTools() {
     const int pages = int(m_document.pages.size());
-    const auto addPageTool = [this](const char *name, const QString &tip, Qt::Key key, QStyle::StandardPixmap icon,
-                                    std::function<void()> act) {
+    const auto addPageTool = [this](const char *name, const QString &tip, Qt::Key key,
+                                    QStyle::StandardPixmap icon, std::function<void()> act) {
         addTool(QLatin1String(name), tip, tip, QKeySequence(Qt::CTRL | key), std::move(act))
             ->setIcon(style()->standardIcon(icon));
     };
@@ -173,9 +173,9 @@ void Viewer::createFindTools() {
     addTool(QStringLiteral("findPrevious"), tr("Previous match"), tr("Previous match"),
             QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { goToMatch(-1); })
         ->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-    addTool(QStringLiteral("findNext"), tr("Next match"), tr("Next match"), QKeySequence(Qt::Key_F3),
-            [this] { goToMatch(1); })
-        ->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    addTool(QStringLiteral("findNext"), tr("Next match"), tr("Next match"), QKeySequence(Qt::Key_F3), [this] {
+        goToMatch(1);
+    })->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
     m_found = new QLabel(m_toolBar);
     m_found->setObjectName(QStringLiteral("found"));
     m_found->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Not found")) + FoundMargin);
