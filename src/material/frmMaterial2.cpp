@@ -149,28 +149,21 @@ void frmMaterial2::CheckTablesForRecords() {
 
 void frmMaterial2::HideAll() {
     m_notes.Reset();
-    for (QWidget *part : {static_cast<QWidget *>(ImgPic(1)), static_cast<QWidget *>(ImgPic(2)),
-                          static_cast<QWidget *>(framAxisCols), static_cast<QWidget *>(framChart),
-                          static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(framMain),
-                          static_cast<QWidget *>(framStand), static_cast<QWidget *>(lblFullForm),
-                          static_cast<QWidget *>(lblMain), static_cast<QWidget *>(tdbBoundTable),
-                          static_cast<QWidget *>(framOptions), static_cast<QWidget *>(framBlank),
-                          static_cast<QWidget *>(cmdUnBoundGraph), static_cast<QWidget *>(framDesign),
-                          static_cast<QWidget *>(txtNoData), static_cast<QWidget *>(framNoData)})
+    for (QWidget *part : QList<QWidget *>{ImgPic(1), ImgPic(2), framAxisCols, framChart, tdbTable, framMain,
+                                          framStand, lblFullForm, lblMain, tdbBoundTable, framOptions,
+                                          framBlank, cmdUnBoundGraph, framDesign, txtNoData, framNoData})
         part->hide();
     m_graphs.ResetBlank();
     m_boundTables.ResetColumns();
 }
 
 void frmMaterial2::showReferences() {
-    for (QWidget *part : {static_cast<QWidget *>(framMain), static_cast<QWidget *>(framStand),
-                          static_cast<QWidget *>(lblMain), static_cast<QWidget *>(ImgPic(1))})
+    for (QWidget *part : QList<QWidget *>{framMain, framStand, lblMain, ImgPic(1)})
         part->show();
 }
 
 void frmMaterial2::showComposition(Material &material) {
-    for (QWidget *part : {static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(lblFullForm),
-                          static_cast<QWidget *>(framNotes)})
+    for (QWidget *part : QList<QWidget *>{tdbTable, lblFullForm, framNotes})
         part->show();
     m_unboundGrid.Clear();
     m_notes.LoadNotes(material, "ChemComp");
@@ -178,8 +171,7 @@ void frmMaterial2::showComposition(Material &material) {
 }
 
 void frmMaterial2::showUnboundTable(Material &material, const QString &key) {
-    for (QWidget *part : {static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(lblFullForm),
-                          static_cast<QWidget *>(framNotes)})
+    for (QWidget *part : QList<QWidget *>{tdbTable, lblFullForm, framNotes})
         part->show();
     m_unboundGrid.Clear();
     m_unboundTables.LoadUnboundColumns(material, key);
