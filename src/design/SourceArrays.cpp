@@ -7,7 +7,6 @@ SourceArray &SourceArrays::of(const QString &key) {
         {u"Rp02", &SourceArrays::aRp02},
         {u"Rp10", &SourceArrays::aRp10},
         {u"Rm", &SourceArrays::aRm},
-        {u"CreepProp", &SourceArrays::aCreepData},
         {u"ModElast", &SourceArrays::aModElast},
         {u"ThermExp", &SourceArrays::aThermExp},
         {u"ThermCond", &SourceArrays::aThermCond},

@@ -1,4 +1,4 @@
-// The source arrays of a material: one for each table that design values are computed from.
+// The source arrays of a material's tables over temperature, which design values are computed from.
 #pragma once
 
 #include "design/source_array.h"
@@ -12,8 +12,6 @@ struct SourceArrays {
     SourceArray aThermCond;
     SourceArray aSpecThermCap;
     SourceArray aSpecElecRes;
-    /// The creep table without its empty columns.
-    SourceArray aCreepData;
 
     /// By the table's key. Raises 9 for a key without one.
     SourceArray &of(const QString &key);

@@ -40,8 +40,8 @@ struct TemperatureArrays {
 /// Reads all rows from the first. Raises 3265 for a field that they lack.
 TemperatureArrays temperatureArrays(Recordset &rows, const QVector<Series> &series, bool bDecimalPoint);
 
-/// X and Y in columns 0 and 1 of rows 1 to `count`. `cells` holds the cells of the X column and then, unless it
-/// is the same, those of the Y column; without cells, and where they run out, the points are empty.
+/// X and Y in columns 0 and 1 of rows 1 to `count`. `cells` holds the cells of the X column and then, unless
+/// it is the same, those of the Y column; without cells, and where they run out, the points are empty.
 XArrayDB columnPair(Recordset &cells, int count, bool sameColumn, bool bDecimalPoint);
 
 } // namespace ChartTables

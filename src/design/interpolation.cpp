@@ -48,8 +48,7 @@ QString cellBetween(const SourceArray &source, const Bracket &rows, int column, 
                     bool bDecimalPoint) {
     const QString &lowerText = source.text(rows.lower, column);
     // A table of one row has no upper one.
-    const QString &upperText =
-        rows.upper > source.rowCount() ? lowerText : source.text(rows.upper, column);
+    const QString &upperText = rows.upper > source.rowCount() ? lowerText : source.text(rows.upper, column);
     const auto [low, high] = ValueText::SplitValueText({lowerText, upperText}, bDecimalPoint);
     QString number;
     if (rows.atLower) {
@@ -57,9 +56,9 @@ QString cellBetween(const SourceArray &source, const Bracket &rows, int column, 
     } else if (rows.atUpper) {
         number = high.number;
     } else if (!low.number.isEmpty() && !high.number.isEmpty()) {
-        number = ValueText::designValueText(onTheLine(
-            static_cast<double>(temperature), CDbl(source.text(rows.lower, 0)),
-            CDbl(source.text(rows.upper, 0)), CDbl(low.number), CDbl(high.number)));
+        number = ValueText::designValueText(
+            onTheLine(static_cast<double>(temperature), CDbl(source.text(rows.lower, 0)),
+                      CDbl(source.text(rows.upper, 0)), CDbl(low.number), CDbl(high.number)));
     }
     // The lower row's decoration, also around the upper row's own number: meant so.
     return number.isEmpty() ? NoValue : low.prefix + number + low.suffix;
