@@ -199,8 +199,8 @@ void actRepUnBound::addColumns() {
     for (int column = 1; column <= iLastCol; ++column) {
         if (isEmptyColumn(column)) continue;
         if (!isExtended(column)) {
-            addCaption(column);
-            addField(column);
+            addColumnCaption(column);
+            addColumnField(column);
         } else if (isComposition()) {
             addBlockElement(column);
         } else {
@@ -209,7 +209,7 @@ void actRepUnBound::addColumns() {
     }
 }
 
-void actRepUnBound::addCaption(int column) {
+void actRepUnBound::addColumnCaption(int column) {
     Label &caption = addLabel(section("ghTitle"), "lblCaption" + QString::number(column),
                               mMaterial->ColCaption(strKey, column), rightEdge(*m_lastCaption),
                               m_lastCaption->Top, widthOf(column), m_lastCaption->Height);
@@ -217,10 +217,10 @@ void actRepUnBound::addCaption(int column) {
     m_lastCaption = &caption;
 }
 
-void actRepUnBound::addField(int column) {
+void actRepUnBound::addColumnField(int column) {
     Section &detail = section("Detail");
     const int width = isComposition() ? m_lastField->Width : widthOf(column);
-    Field &field = ReportLayout::addField(detail, "Field" + QString::number(column), rightEdge(*m_lastField),
+    Field &field = addField(detail, "Field" + QString::number(column), rightEdge(*m_lastField),
                                           m_lastField->Top, width, m_lastField->Height);
     asCell(field);
     field.Border.LeftStyle = 0;
@@ -269,7 +269,7 @@ void actRepUnBound::addBlockColumn(int column) {
 
 Field &actRepUnBound::addBlockCell(const QString &name, const Control &beside, int left, int width) {
     Field &cell =
-        ReportLayout::addField(section("gfExtended"), name, left, beside.Top, width, beside.Height);
+        addField(section("gfExtended"), name, left, beside.Top, width, beside.Height);
     asCell(cell);
     cell.Border.LeftStyle = 0;
     cell.DataField = name;

@@ -33,8 +33,8 @@ private:
     void bindFields();
     void fillNotes();
 
-    void addCaption(int column);
-    void addField(int column);
+    void addColumnCaption(int column);
+    void addColumnField(int column);
     void addBlockElement(int column);
     void addBlockColumn(int column);
     Printing::Field &addBlockCell(const QString &name, const Printing::Control &beside, int left, int width);
