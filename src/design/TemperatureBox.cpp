@@ -16,7 +16,6 @@ TemperatureBox::TemperatureBox(QLineEdit &box, QObject *parent)
     onKeyPress(&m_box, [this](int &keyAscii) {
         readBox();
         m_input.keyPress(QChar(keyAscii));
-        m_box.setCursorPosition(m_input.caret);
         keyAscii = 0;
     });
     connect(&m_box, &QLineEdit::textEdited, this, &TemperatureBox::editedByMouseOrClipboard);
@@ -38,7 +37,6 @@ bool TemperatureBox::keyDown(QKeyEvent &event) {
             m_input.deleteDown();
         else
             m_input.backspaceDown();
-        m_box.setCursorPosition(m_input.caret);
         return isDelete;
     }
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) Q_EMIT enterPressed();
@@ -66,6 +64,7 @@ void TemperatureBox::writeBox() {
     m_box.setText(m_input.text);
     // Whoever was told of the change may have emptied the box.
     m_input.text = m_box.text();
+    m_box.setCursorPosition(m_input.caret);
 }
 
 /// Pasted, cut or undone: the keys for these are no typed characters.

@@ -15,6 +15,7 @@
 #include "reports/report_commands.h"
 #include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
+#include "shell/modToolTips.h"
 
 using namespace MaterialLayout;
 
@@ -110,6 +111,7 @@ void frmMaterial2::Form_Load() {
     lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
     HideAll();
     showReferences();
+    modToolTips::SetMaterialToolTips(*this);
 }
 
 void frmMaterial2::Form_Activate() {

@@ -26,6 +26,7 @@ namespace {
 
 constexpr double ZoomStep = 1.25;
 constexpr int FoundMargin = 12;
+constexpr QSize ToolIconSize(18, 18);
 constexpr int ZoomPercents[] = {25, 50, 75, 100, 125, 150, 200, 300, 400};
 // Shows an A4 page at about 100 %.
 constexpr QSize WishedSize(920, 1000);
@@ -43,6 +44,7 @@ Viewer::Viewer(const Document &document, QWidget *parent)
     m_view->setObjectName(QStringLiteral("pages"));
     m_view->setAccessibleName(tr("Pages"));
     m_toolBar->setObjectName(QStringLiteral("toolbar"));
+    m_toolBar->setIconSize(ToolIconSize);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
