@@ -12,6 +12,7 @@
 #include "platform/forms/default_instance.h"
 #include "platform/runtime/runtime_error.h"
 #include "shell/mdiVelmar.h"
+#include "shell/modToolTips.h"
 
 using namespace MaterialLayout;
 
@@ -82,6 +83,7 @@ void frmMaterial2::Form_Load() {
     lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
     HideAll();
     showReferences();
+    modToolTips::SetMaterialToolTips(*this);
 }
 
 void frmMaterial2::Form_Activate() {

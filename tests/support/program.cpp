@@ -9,29 +9,49 @@
 #include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/default_instance.h"
-#include "platform/runtime/app.h"
+#include "platform/forms/screen.h"
+#include "platform/runtime/text_file.h"
 #include "shell/mdiVelmar.h"
 #include "shell/modFileHandler.h"
+#include "shell/program_version.h"
 #include "tests/support/gui.h"
 
-void TestProgram::putSample(const QString &path) {
-    QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", path);
-}
-
-TestProgram::TestProgram(const std::function<void(const QString &)> &putDatabase, char16_t decimalSign,
-                         char16_t groupSign)
-    : m_settings(decimalSign, groupSign) {
-    qunsetenv("APPDATA");
-    App::current().path = m_folder.path();
-    putDatabase(m_folder.filePath("Velmar_PED.mdb"));
+TestProgram::TestProgram(const Given &given)
+    : m_settings(given.regional)
+    , m_appDataBefore(qgetenv("APPDATA")) {
+    qputenv("APPDATA", m_appData.path().toUtf8());
+    ProgramVersion::apply(m_folder.path());
+    Screen::setSizeForTest(given.screen);
+    const QString database = m_folder.filePath("Velmar_PED.mdb");
+    if (given.putDatabase)
+        given.putDatabase(database);
+    else
+        QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", database);
+    if (given.pmaIndex)
+        QFile::copy(SOURCE_FOLDER "/sample/PMA_Index.mdb", m_folder.filePath("PMA_Index.mdb"));
     modFileHandler::SetupFileEnvironment();
+    if (!given.settings.isEmpty())
+        TextFile::writeLines(modFileHandler::GetUserPath("Settings.vlp"), given.settings);
     mdiVelmar::instance();
 }
 
 TestProgram::~TestProgram() {
-    mdiVelmar::instance().Unload();
-    deleteUnloaded();
+    exit();
     modDBase::reset();
+    Screen::setSizeForTest({});
+    if (m_appDataBefore.isNull())
+        qunsetenv("APPDATA");
+    else
+        qputenv("APPDATA", m_appDataBefore);
+}
+
+QString TestProgram::userFolder() const {
+    return modFileHandler::GetUserFolder();
+}
+
+void TestProgram::exit() {
+    if (auto *window = LoadedInstance<mdiVelmar>()) window->Unload();
+    deleteUnloaded();
 }
 
 std::shared_ptr<Material> TestProgram::material(int matID) const {

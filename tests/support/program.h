@@ -4,7 +4,8 @@
 #include <functional>
 #include <memory>
 
-#include <QString>
+#include <QSize>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include "tests/support/pinned_settings.h"
@@ -16,22 +17,38 @@ class Material;
 /// person who runs the tests is read or written.
 class TestProgram {
 public:
-    static void putSample(const QString &path);
+    /// What the program finds when it starts.
+    struct Given {
+        QSize screen{1280, 1024};
+        bool pmaIndex = true;
+        /// The lines of Settings.vlp; without any there is no such file.
+        QStringList settings;
+        RegionalSettings regional;
+        /// Makes the materials database; without it the sample serves.
+        std::function<void(const QString &path)> putDatabase;
+    };
 
-    /// `putDatabase` makes the database file.
-    explicit TestProgram(const std::function<void(const QString &path)> &putDatabase = putSample,
-                         char16_t decimalSign = u'.', char16_t groupSign = u',');
+    TestProgram()
+        : TestProgram(Given()) {}
+    explicit TestProgram(const Given &given);
     ~TestProgram();
     TestProgram(const TestProgram &) = delete;
     TestProgram &operator=(const TestProgram &) = delete;
 
+    /// The program's folder.
     QString folder() const { return m_folder.path(); }
+    /// The user's folder, with a closing separator.
+    QString userFolder() const;
     /// The grade of that matID, as the search would select it.
     std::shared_ptr<Material> material(int matID) const;
     /// A window that shows the grade, visible.
     frmMaterial2 &open(const std::shared_ptr<Material> &material) const;
+    /// Ends the run, as the Exit command does; the destructor does it otherwise.
+    void exit();
 
 private:
     PinnedSettings m_settings;
     QTemporaryDir m_folder;
+    QTemporaryDir m_appData;
+    QByteArray m_appDataBefore;
 };
