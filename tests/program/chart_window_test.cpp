@@ -59,7 +59,15 @@ QString dress(MSChart &chart) {
 
 class ChartWindowTest : public ::testing::Test {
 protected:
-    TestProgram program{smallDatabase(Rows), u',', u'.'};
+    static TestProgram::Given given() {
+        TestProgram::Given given;
+        given.putDatabase = smallDatabase(Rows);
+        given.regional.decimalSign = u',';
+        given.regional.groupSign = u'.';
+        return given;
+    }
+
+    TestProgram program{given()};
     frmMaterial2 &window = program.open(program.material(1));
 
     void expectChart(const char *expectedDress, const char *expectedPoints) {
