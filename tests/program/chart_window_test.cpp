@@ -59,15 +59,7 @@ QString dress(MSChart &chart) {
 
 class ChartWindowTest : public ::testing::Test {
 protected:
-    static TestProgram::Given given() {
-        TestProgram::Given given;
-        given.putDatabase = smallDatabase(Rows);
-        given.regional.decimalSign = u',';
-        given.regional.groupSign = u'.';
-        return given;
-    }
-
-    TestProgram program{given()};
+    TestProgram program{smallDatabase(Rows), u',', u'.'};
     frmMaterial2 &window = program.open(program.material(1));
 
     void expectChart(const char *expectedDress, const char *expectedPoints) {

@@ -15,19 +15,11 @@
 
 namespace {
 
-TestProgram::Given given(const QStringList &inserts, char16_t decimalSign, char16_t groupSign) {
-    TestProgram::Given given;
-    given.putDatabase = smallDatabase(inserts);
-    given.regional.decimalSign = decimalSign;
-    given.regional.groupSign = groupSign;
-    return given;
-}
-
 /// Under a decimal comma unless told otherwise.
 class SmallProgram : public TestProgram {
 public:
     explicit SmallProgram(const QStringList &inserts, char16_t decimalSign = u',', char16_t groupSign = u'.')
-        : TestProgram(given(inserts, decimalSign, groupSign)) {}
+        : TestProgram(smallDatabase(inserts), decimalSign, groupSign) {}
     frmMaterial2 &open(int matID) { return TestProgram::open(material(matID)); }
 };
 

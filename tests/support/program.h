@@ -23,14 +23,19 @@ public:
         bool pmaIndex = true;
         /// The lines of Settings.vlp; without any there is no such file.
         QStringList settings;
-        RegionalSettings regional;
-        /// Makes the materials database; without it the sample serves.
-        std::function<void(const QString &path)> putDatabase;
+        /// Makes the database file.
+        std::function<void(const QString &path)> putDatabase = putSample;
+        char16_t decimalSign = u'.';
+        char16_t groupSign = u',';
     };
+
+    static void putSample(const QString &path);
 
     TestProgram()
         : TestProgram(Given()) {}
     explicit TestProgram(const Given &given);
+    explicit TestProgram(const std::function<void(const QString &path)> &putDatabase,
+                         char16_t decimalSign = u'.', char16_t groupSign = u',');
     ~TestProgram();
     TestProgram(const TestProgram &) = delete;
     TestProgram &operator=(const TestProgram &) = delete;
