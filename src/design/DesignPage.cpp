@@ -137,9 +137,11 @@ void DesignPage::computeTables() {
     if (strDesignTables.isEmpty()) throw RuntimeError(9);
     int row = 2;
     for (const QString &key : strDesignTables) {
-        Interpolation::designValues(
-            sourceOf(key), temperature, main.bDecimalPoint,
-            [&](int column, const QString &cell) { m_values->Set(row, column, cell); });
+        const SourceArray &source = sourceOf(key);
+        const auto set = [&](int column, const QString &cell) { m_values->Set(row, column, cell); };
+        // A creep table may have rows and yet no column with a value.
+        if (source.lastColumn() >= 0)
+            Interpolation::designValues(source, temperature, main.bDecimalPoint, set);
         row += RowsPerTable;
     }
     m_controls.tdbDesign->Rebind();

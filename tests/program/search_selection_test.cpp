@@ -211,4 +211,25 @@ TEST_F(SearchSelectionTest, ShowOpensAWindowForEachAndSelectComesBack) {
     EXPECT_EQ(windows().size(), 3) << "the same set can be shown again";
 }
 
+TEST_F(SearchSelectionTest, BatchPrintingShowsNoMaterialWindowAndComesBack) {
+    type(search().txtSearch(1), "ZORBALTIKREMO");
+    click(search().chkListAll);
+    click(search().cmdBatch(0));
+    EXPECT_TRUE(modal().asked().isEmpty()) << "nothing to print";
+    addFirst(2);
+    modal().driveForm([this](Form &report) {
+        EXPECT_TRUE(main().bBatchPrint);
+        EXPECT_FALSE(search().Visible());
+        for (const frmMaterial2 *window : windows())
+            EXPECT_FALSE(window->isVisible());
+        report.Unload();
+    });
+    click(search().cmdBatch(0));
+    deleteUnloaded();
+    EXPECT_FALSE(main().bBatchPrint);
+    EXPECT_TRUE(search().Visible());
+    EXPECT_TRUE(windows().isEmpty());
+    EXPECT_EQ(selected().size(), 2);
+}
+
 } // namespace

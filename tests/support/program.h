@@ -1,6 +1,7 @@
 // The program in a folder of its own, with its main window and a database.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QSize>
@@ -12,8 +13,8 @@
 class frmMaterial2;
 class Material;
 
-/// From its making to its end the main window is loaded over the sample database, with a decimal point and
-/// fixed dates, and no file of the person who runs the tests is read or written.
+/// From its making to its end the main window is loaded over a database, with fixed dates, and no file of the
+/// person who runs the tests is read or written.
 class TestProgram {
 public:
     /// What the program finds when it starts.
@@ -22,11 +23,19 @@ public:
         bool pmaIndex = true;
         /// The lines of Settings.vlp; without any there is no such file.
         QStringList settings;
+        /// Makes the database file.
+        std::function<void(const QString &path)> putDatabase = putSample;
+        char16_t decimalSign = u'.';
+        char16_t groupSign = u',';
     };
+
+    static void putSample(const QString &path);
 
     TestProgram()
         : TestProgram(Given()) {}
     explicit TestProgram(const Given &given);
+    explicit TestProgram(const std::function<void(const QString &path)> &putDatabase,
+                         char16_t decimalSign = u'.', char16_t groupSign = u',');
     ~TestProgram();
     TestProgram(const TestProgram &) = delete;
     TestProgram &operator=(const TestProgram &) = delete;
