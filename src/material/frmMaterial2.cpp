@@ -3,13 +3,19 @@
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/table_vocabulary.h"
+#include "design/frmChart.h"
 #include "material/cell_values.h"
 #include "material/material_layout.h"
 #include "material/menu_place.h"
 #include "material/temperature_columns.h"
 #include "platform/dao/database.h"
+#include "platform/forms/default_instance.h"
 #include "platform/runtime/runtime_error.h"
+#include "reports/frmSave.h"
+#include "reports/report_commands.h"
+#include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
+#include "shell/modToolTips.h"
 
 using namespace MaterialLayout;
 
@@ -39,9 +45,12 @@ frmMaterial2::frmMaterial2()
     , m_unboundGrid(*tdbTable)
     , m_references(*this, *dtaTable)
     , m_composition(m_unboundGrid, *dtaTable, *dtaOther, m_notes)
-    , m_unboundTables(*this, *this, m_unboundGrid, m_notes, m_noData)
-    , m_boundTables(*this, *dtaTable, m_noData)
-    , m_addInfo(*dtaTable, *dtaOther, m_notes) {
+    , m_chart(*this, *dtaTable, m_sourceArrays, m_unboundTables.columns)
+    , m_unboundTables(*this, *this, m_unboundGrid, m_notes, m_noData, m_chart)
+    , m_boundTables(*this, *dtaTable, m_noData, m_chart)
+    , m_addInfo(*dtaTable, *dtaOther, m_notes)
+    , m_design(*this, *this, m_sourceArrays, m_unboundTables.columns.creep,
+               [this](const QString &key) { ShowTable(key); }) {
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     setWidth(WindowWidth);
     setHeight(WindowHeight);
@@ -57,9 +66,38 @@ void frmMaterial2::connectControls() {
     connect(CommandShowTable, &QPushButton::clicked, this, [this] { m_graphs.Choose(false); });
     connect(cmdUnBoundGraph, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(true); });
     connect(cmdUnBoundTable, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(false); });
+    connect(cboColumnList, &QComboBox::currentIndexChanged, this, [this] {
+        if (m_chart.pickColumns()) m_chart.BuildColumnChart(*m_material, strCurrentTable);
+    });
+    for (const auto &[index, button] : cmdPrintSave)
+        connect(button, &QToolButton::clicked, this, [this, i = index] { printSave(i); });
     const QStringList keys{"Rp02", "Rp10", "Rm"};
     for (int i = 0; i < keys.size(); ++i)
         connect(optMechProp(i), &QRadioButton::clicked, this, [this, key = keys[i]] { ShowTable(key); });
+}
+
+void frmMaterial2::printSave(int index) {
+    constexpr int Enlarge = 2;
+    if (index == Enlarge) {
+        NewForm<frmChart>()->ShowModal();
+        return;
+    }
+    const bool designValues = index > Enlarge;
+    const QString temperature = txtDesignTemp->text();
+    if (designValues && (temperature.isEmpty() || temperature == QLatin1String("-"))) return;
+    iReportType = designValues ? 2 : 1;
+    switch (index) {
+    case 0:
+        ReportCommands::saveReport(ReportExport::Pdf);
+        break;
+    case 4:
+        DefaultInstance<frmSave>().setCaption("Save Design Values...");
+        DefaultInstance<frmSave>().ShowModal();
+        break;
+    default:
+        ReportCommands::previewReport();
+        break;
+    }
 }
 
 void frmMaterial2::Form_Load() {
@@ -73,6 +111,7 @@ void frmMaterial2::Form_Load() {
     lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
     HideAll();
     showReferences();
+    modToolTips::SetMaterialToolTips(*this);
 }
 
 void frmMaterial2::Form_Activate() {
@@ -126,7 +165,7 @@ void frmMaterial2::ShowTable(const QString &key) {
     } else if (key == QLatin1String("AddInfo")) {
         showAddInfo(material);
     } else if (key == QLatin1String("Design")) {
-        showDesign();
+        showDesign(material);
     } else if (key == QLatin1String("Elevated")) {
         strCurrentTable = "Rp02";
         optMechProp(0)->setChecked(true);
@@ -185,7 +224,13 @@ void frmMaterial2::showAddInfo(Material &material) {
     cmdShowNotes->hide();
 }
 
-void frmMaterial2::showDesign() {
+void frmMaterial2::showDesign(Material &material) {
+    if (!m_design.bDesignBuilt) {
+        m_design.BuildDesignTable(material, xDesignDB);
+        m_design.bDesignBuilt = true;
+        strCurrentTable = "Design";
+        HideAll(); // what the tables showed that were loaded on the way
+    }
     framDesign->show();
     lblFullForm->show();
 }

@@ -3,6 +3,9 @@
 
 #include <memory>
 
+#include "design/DesignPage.h"
+#include "design/PropertyChart.h"
+#include "design/SourceArrays.h"
 #include "material/AdditionalInfo.h"
 #include "material/BoundTables.h"
 #include "material/CompositionTable.h"
@@ -57,12 +60,14 @@ protected:
 
 private:
     void connectControls();
+    /// 0 save, 1 print and 2 enlarge the graph; 3 print and 4 save the design values.
+    void printSave(int index);
     void HideAll();
     void showReferences();
     void showComposition(Material &material);
     void showUnboundTable(Material &material, const QString &key);
     void showAddInfo(Material &material);
-    void showDesign();
+    void showDesign(Material &material);
     void showBoundTable(Material &material, const QString &key);
     void focusMechOption();
     void setPageSymbol(const QString &key);
@@ -74,7 +79,10 @@ private:
     UnboundGrid m_unboundGrid;
     ReferencePage m_references;
     CompositionTable m_composition;
+    SourceArrays m_sourceArrays;
+    PropertyChart m_chart;
     UnboundTables m_unboundTables;
     BoundTables m_boundTables;
     AdditionalInfo m_addInfo;
+    DesignPage m_design;
 };

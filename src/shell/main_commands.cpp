@@ -1,6 +1,9 @@
 #include "shell/main_commands.h"
 
+#include <QPushButton>
+
 #include "data/Material.h"
+#include "data/table_vocabulary.h"
 #include "platform/forms/call_by_name.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/default_instance.h"
@@ -9,11 +12,15 @@
 #include "platform/forms/send_keys.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
+#include "platform/runtime/runtime_error.h"
+#include "reports/actRepBatchPrint.h"
+#include "reports/frmSelData.h"
 #include "search/frmSearch.h"
-#include "shell/HTMLHelp.h"
 #include "shell/frmAbout.h"
+#include "shell/HTMLHelp.h"
 #include "shell/main_toolbar.h"
 #include "shell/mdiVelmar.h"
+#include "shell/modToolTips.h"
 
 namespace {
 
@@ -54,12 +61,50 @@ void MainCommands::file(int index) {
     case 0:
         showSelectedOrSearch();
         break;
+    case 2:
+        selectData(true);
+        break;
+    case 3:
+        selectData(false);
+        break;
     case 7:
         leaveProgram();
         break;
     default:
         break;
     }
+}
+
+/// The caption of the save says "As Text File" whatever format is chosen then; it is meant to.
+void MainCommands::selectData(bool save) {
+    const auto &current = m_window.mCurrent;
+    if (!current || !current->MyForm()) throw RuntimeError(91);
+    SetPropertyByName(*current->MyForm(), "iReportType", 0);
+    auto &dialog = DefaultInstance<frmSelData>();
+    dialog.setCaption(save ? "Save " + current->Name() + " As Text File - " + dialog.Caption()
+                           : "Print " + current->Name() + " - " + dialog.Caption());
+    dialog.cmdSavePrint->setText(save ? "Save..." : "Print/Preview...");
+    m_window.ShowStatus(save ? 103 : 102);
+    dialog.setIcon(m_window.ImageList1.ListImages(save ? 4 : 5));
+    dialog.setTop(1500);
+    dialog.framSave->setVisible(save);
+    dialog.ShowModal(&m_window);
+}
+
+/// The references are not forced into the reports: their mark stays as it was.
+void MainCommands::batchPrint() {
+    m_window.setMousePointer(vbHourglass);
+    for (const auto &material : m_window.colMaterials) {
+        if (!material->MyForm()) throw RuntimeError(91);
+        FormBase &form = *material->MyForm();
+        CallByName(form, "CheckTablesForRecords");
+        SetPropertyByName(*form.asWidget(), "iReportType", 0);
+        for (int i = 1; i < TableVocabulary::TableCount; ++i)
+            if (material->TableHasData(m_window.GetShortTableName(i))) material->setPrintTable(i, true);
+        form.Unload();
+    }
+    m_window.setMousePointer(vbDefault);
+    actRepBatchPrint::instance().ShowModal(&m_window);
 }
 
 void MainCommands::showSelectedOrSearch() {
@@ -180,6 +225,7 @@ void MainCommands::settings(int index) {
     case 3:
         entry.setChecked(!entry.Checked());
         m_window.bToolTips = !m_window.bToolTips;
+        modToolTips::SetToolTips(m_window.bToolTips);
         break;
     case 4:
         changeBackColour();
@@ -231,15 +277,22 @@ void MainCommands::window(int index) {
 
 void MainCommands::help(int index) {
     switch (index) {
-    case 0: HTMLHelp::ShowHelpContents(1); break;
-    case 1: HTMLHelp::ShowHelpIndex(1); break;
-    case 2: HTMLHelp::ShowHelpSearch(1); break;
+    case 0:
+        HTMLHelp::ShowHelpContents(1);
+        break;
+    case 1:
+        HTMLHelp::ShowHelpIndex(1);
+        break;
+    case 2:
+        HTMLHelp::ShowHelpSearch(1);
+        break;
     case 4:
         m_window.ShowStatus(107);
         DefaultInstance<frmAbout>().ShowModal(&m_window);
         m_window.ShowStatus(100);
         break;
-    default: break;
+    default:
+        break;
     }
 }
 

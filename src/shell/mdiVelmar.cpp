@@ -21,6 +21,7 @@
 #include "shell/main_commands.h"
 #include "shell/main_settings.h"
 #include "shell/main_toolbar.h"
+#include "shell/modToolTips.h"
 #include "shell/window_arrangement.h"
 
 namespace {
@@ -50,6 +51,12 @@ QString smallScreenMessage() {
            "Change the 'Desktop Area' to 800 x 600 (Pixels) or greater." + LineEnd;
 }
 
+/// Room for the search window and for two rows of material windows, where the screen has it. In pixels.
+QSize firstSize() {
+    return QSize(1240, 840).boundedTo(QSize(Screen::Width() / Screen::TwipsPerPixelX(),
+                                            Screen::Height() / Screen::TwipsPerPixelY()));
+}
+
 template <class Array>
 auto &element(Array &array, int index) {
     if (index < 0 || index >= static_cast<int>(array.size())) throw RuntimeError(9);
@@ -74,7 +81,7 @@ mdiVelmar::~mdiVelmar() = default;
 
 void mdiVelmar::buildControls() {
     setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
-    resize(1024, 768);
+    setGeometry(QRect(QPoint(), firstSize()));
     Toolbar1 = new Toolbar("Toolbar1", this);
     addToolBar(Toolbar1);
     MainToolbar::addButtons(*Toolbar1);
@@ -142,6 +149,7 @@ void mdiVelmar::openDatabase() {
     Show();
     DefaultInstance<frmSearch>().Show();
     if (bColoursOff) Do_Undo_Colour_All();
+    modToolTips::SetToolTips(bToolTips);
 }
 
 void mdiVelmar::UnloadMain() {
@@ -259,6 +267,10 @@ void mdiVelmar::ShowAbout() {
 
 void mdiVelmar::SelectMaterials() {
     m_commands->file(0);
+}
+
+void mdiVelmar::DoBatchPrint() {
+    m_commands->batchPrint();
 }
 
 void mdiVelmar::SetCurrentMaterial(const std::shared_ptr<Material> &mat) {
