@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "data/passing_up.h"
 #include "data/path_file.h"
 #include "platform/dao/database.h"
 #include "platform/dao/db_engine.h"
@@ -36,16 +37,6 @@ const QString LogName = QStringLiteral("ErrorLog.txt");
 constexpr int FileNotFound = 3024;
 constexpr int PathNotValid = 3044;
 constexpr int WrongFormat = 3343;
-
-/// Runs `routine`; an error goes up with this module's own source.
-template <class Routine>
-auto passingUp(const char *name, Routine routine) {
-    try {
-        return routine();
-    } catch (const RuntimeError &error) {
-        throw RuntimeError(error.number(), error.description(), App::current().exeName + "modDBase." + name);
-    }
-}
 
 /// The loop of the file dialog. Empty when the user gives up.
 QString LocateDatabase(CommonDialog &dialog, const QString &dbName) {

@@ -9,6 +9,8 @@
 
 namespace {
 
+const QString BelowRange = QStringLiteral("-");
+const QString AboveRange = QStringLiteral("+");
 const QString NoValue = QStringLiteral("x");
 
 // Temperatures are compared in single precision, as the typed one is held.
@@ -16,18 +18,22 @@ float temperatureOfRow(const SourceArray &source, int row) {
     return CSng(source.text(row, 0));
 }
 
-float typedTemperature(QString text, bool bCommaGroup) {
-    // The box holds a comma, which such a system would read past.
-    if (bCommaGroup) text.replace(QLatin1Char(','), QLatin1Char('.'));
-    return CSng(text);
-}
+// The two rows around the temperature, and whether it is a row's own.
+struct Bracket {
+    int lower;
+    int upper;
+    bool atLower;
+    bool atUpper;
+};
 
-// The row above the temperature; the row before it is the lower neighbour.
-int upperRow(const SourceArray &source, float temperature) {
-    int row = 2;
-    while (row < source.rowCount() && temperatureOfRow(source, row) <= temperature)
-        ++row;
-    return row;
+Bracket bracketOf(const SourceArray &source, const Interpolation::Temperature &temperature) {
+    int upper = 2;
+    while (upper < source.rowCount() && temperatureOfRow(source, upper) <= temperature.value)
+        ++upper;
+    const bool atLower = temperatureOfRow(source, upper - 1) == temperature.value;
+    // By the text, not the number: 100,0 typed against a row of 100 is interpolated.
+    const bool atUpper = !atLower && source.text(upper, 0) == temperature.text;
+    return {upper - 1, upper, atLower, atUpper};
 }
 
 // Slope first, then the distance, then the sum: another order rounds otherwise.
@@ -38,38 +44,45 @@ double onTheLine(double t, double t0, double t1, double y0, double y1) {
     return y;
 }
 
+QString cellBetween(const SourceArray &source, const Bracket &rows, int column, float temperature,
+                    bool bDecimalPoint) {
+    const QString &lowerText = source.text(rows.lower, column);
+    // A table of one row has no upper one.
+    const QString &upperText = rows.upper > source.rowCount() ? lowerText : source.text(rows.upper, column);
+    const auto [low, high] = ValueText::SplitValueText({lowerText, upperText}, bDecimalPoint);
+    QString number;
+    if (rows.atLower) {
+        number = low.number;
+    } else if (rows.atUpper) {
+        number = high.number;
+    } else if (!low.number.isEmpty() && !high.number.isEmpty()) {
+        number = ValueText::designValueText(
+            onTheLine(static_cast<double>(temperature), CDbl(source.text(rows.lower, 0)),
+                      CDbl(source.text(rows.upper, 0)), CDbl(low.number), CDbl(high.number)));
+    }
+    // The lower row's decoration, also around the upper row's own number: meant so.
+    return number.isEmpty() ? NoValue : low.prefix + number + low.suffix;
+}
+
 } // namespace
 
-QStringList Interpolation::designValues(const SourceArray &source, const QString &temperature,
-                                        bool bDecimalPoint, bool bCommaGroup) {
-    const float t = typedTemperature(temperature, bCommaGroup);
-    const int lastRow = source.rowCount();
-    if (temperatureOfRow(source, 1) > t) return QStringList(source.lastColumn(), QStringLiteral("-"));
-    if (temperatureOfRow(source, lastRow) < t) return QStringList(source.lastColumn(), QStringLiteral("+"));
+Interpolation::Temperature Interpolation::typedTemperature(const QString &text, bool bCommaGroup) {
+    QString number = text;
+    // The box holds a comma, which such a system would read past.
+    if (bCommaGroup) number.replace(QLatin1Char(','), QLatin1Char('.'));
+    return {text, CSng(number)};
+}
 
-    const int upper = upperRow(source, t);
-    const int lower = upper - 1;
-    const bool atLower = temperatureOfRow(source, lower) == t;
-    // By the text, not the number: 100,0 typed against a row of 100 is interpolated.
-    const bool atUpper = !atLower && source.text(upper, 0) == temperature;
-
-    QStringList cells;
-    for (int column = 1; column <= source.lastColumn(); ++column) {
-        const QString &lowerText = source.text(lower, column);
-        const QString &upperText = upper > lastRow ? lowerText : source.text(upper, column);
-        const auto [low, high] = ValueText::SplitValueText({lowerText, upperText}, bDecimalPoint);
-        QString number;
-        if (atLower) {
-            number = low.number;
-        } else if (atUpper) {
-            number = high.number;
-        } else if (!low.number.isEmpty() && !high.number.isEmpty()) {
-            number = ValueText::designValueText(onTheLine(static_cast<double>(t), CDbl(source.text(lower, 0)),
-                                                          CDbl(source.text(upper, 0)), CDbl(low.number),
-                                                          CDbl(high.number)));
-        }
-        // The lower row's decoration, also around the upper row's own number: meant so.
-        cells << (number.isEmpty() ? NoValue : low.prefix + number + low.suffix);
+void Interpolation::designValues(const SourceArray &source, const Temperature &temperature,
+                                 bool bDecimalPoint, const SetCell &set) {
+    const bool below = temperatureOfRow(source, 1) > temperature.value;
+    const bool above = !below && temperatureOfRow(source, source.rowCount()) < temperature.value;
+    if (below || above) {
+        for (int column = 1; column <= source.lastColumn(); ++column)
+            set(column, below ? BelowRange : AboveRange);
+        return;
     }
-    return cells;
+    const Bracket rows = bracketOf(source, temperature);
+    for (int column = 1; column <= source.lastColumn(); ++column)
+        set(column, cellBetween(source, rows, column, temperature.value, bDecimalPoint));
 }

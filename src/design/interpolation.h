@@ -1,20 +1,34 @@
 // The values of one table at a design temperature.
 #pragma once
 
-#include <QStringList>
+#include <functional>
+
+#include <QString>
 
 class SourceArray;
 
+/// The flags are those of ValueText.
 namespace Interpolation {
 
-/// The cell texts of columns 1 to the table's last: "-" below and "+" above the table's temperatures, "x"
-/// where a neighbouring cell has no number, at a row's own temperature the cell as it stands, else the value
-/// on the straight line between the two rows around the temperature, with two decimals.
+struct Temperature {
+    /// As it stands in the box.
+    QString text;
+    /// In °C.
+    float value = 0;
+};
+
+/// Raises 13 for a text that is no number, 6 beyond a single.
+Temperature typedTemperature(const QString &text, bool bCommaGroup);
+
+using SetCell = std::function<void(int column, const QString &cell)>;
+
+/// Gives `set` the cells of columns 1 to the table's last, one after the other: "-" below and "+" above the
+/// table's temperatures, "x" where a neighbouring cell has no number, at a row's own temperature the cell as
+/// it stands, else the value on the straight line between the two rows around it, with two decimals.
 ///
-/// `temperature` is the text of the box in °C, neither empty nor a lone sign. The flags are those of
-/// ValueText. Raises 13 (a temperature or number text that does not convert), 6, 9 (a table without
-/// rows), 11.
-QStringList designValues(const SourceArray &source, const QString &temperature, bool bDecimalPoint,
-                         bool bCommaGroup);
+/// Raises 13 (a cell or temperature that does not convert), 6, 11, and 9 for a table without rows; the cells
+/// before the failing one have been given then.
+void designValues(const SourceArray &source, const Temperature &temperature, bool bDecimalPoint,
+                  const SetCell &set);
 
 } // namespace Interpolation

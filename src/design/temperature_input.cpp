@@ -52,19 +52,20 @@ void TemperatureInput::deleteDown() {
     const int length = selectionLength;
     selectionLength = 0;
     const bool hasSign = (text.left(caret) + text.mid(caret + length)).contains(Comma);
-    // Without the sign the flags would keep refusing digits in a box that has none.
-    if (!hasSign) {
-        bDecimalTyped = false;
-        iDecimalDigits = 0;
-    }
+    if (!hasSign) forgetDecimals();
     erase(caret, length);
+}
+
+void TemperatureInput::textReplaced() {
+    // A point would be a group sign to some systems, and 12.5 a hundred and twenty-five.
+    text = text.trimmed().replace(Point, Comma);
+    if (!text.contains(Comma)) forgetDecimals();
 }
 
 // The flags start anew for every key, also where a decimal sign stays behind outside the selection: meant so.
 bool TemperatureInput::dropSelection() {
     if (selectionLength == 0) return false;
-    bDecimalTyped = false;
-    iDecimalDigits = 0;
+    forgetDecimals();
     const int length = selectionLength;
     selectionLength = 0;
     erase(caret, length);
@@ -109,6 +110,12 @@ void TemperatureInput::prepareDeletion(qsizetype place) {
         selectionLength = 0;
         erase(text.size() - 1, 1);
     }
+}
+
+// Without a sign in the text the flags would keep refusing digits.
+void TemperatureInput::forgetDecimals() {
+    bDecimalTyped = false;
+    iDecimalDigits = 0;
 }
 
 void TemperatureInput::erase(qsizetype from, qsizetype length) {

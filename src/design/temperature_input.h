@@ -13,7 +13,7 @@ public:
     /// From 0; with a selection, where it begins.
     int caret = 0;
     int selectionLength = 0;
-    /// The flags follow the keys, not the text: a text written by code or pasted leaves them as they are.
+    /// The flags follow the keys, not the text: a text written by code leaves them as they are.
     bool bDecimalTyped = false;
     int iDecimalDigits = 0;
 
@@ -30,6 +30,8 @@ public:
     void backspaceDown();
     /// The whole of the Delete key, which types nothing.
     void deleteDown();
+    /// To be called when `text` was pasted or cut: gives it the one decimal sign and no blanks around it.
+    void textReplaced();
 
 private:
     bool dropSelection();
@@ -37,6 +39,7 @@ private:
     bool acceptsDigit();
     bool acceptsDecimalSign();
     void prepareDeletion(qsizetype place);
+    void forgetDecimals();
     void erase(qsizetype from, qsizetype length);
     void changed();
 };

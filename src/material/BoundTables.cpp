@@ -3,6 +3,7 @@
 #include "data/Material.h"
 #include "data/queries.h"
 #include "data/table_vocabulary.h"
+#include "design/PropertyChart.h"
 #include "material/cell_values.h"
 #include "material/grid_columns.h"
 #include "material/material_layout.h"
@@ -25,10 +26,12 @@ void growMaxDesignCols(Material &material, int count) {
 
 } // namespace
 
-BoundTables::BoundTables(MaterialControls &controls, DataControl &dtaTable, NoDataPanel &noData)
+BoundTables::BoundTables(MaterialControls &controls, DataControl &dtaTable, NoDataPanel &noData,
+                         PropertyChart &chart)
     : m_controls(controls)
     , m_dtaTable(dtaTable)
-    , m_noData(noData) {}
+    , m_noData(noData)
+    , m_chart(chart) {}
 
 void BoundTables::InitColumns() {
     TDBGrid &grid = *m_controls.tdbBoundTable;
@@ -72,6 +75,10 @@ void BoundTables::LoadBoundTable(Material &material, const QString &key) {
         CountTemperatureRows(material);
     setHeadPictures(key);
     m_dtaTable.Refresh();
+    if (key != QLatin1String("ImpEnergy")) {
+        m_chart.BuildChart(material, key, *m_dtaTable.recordset()->Clone(),
+                           bMultiCol ? aThickness : QVector<qint16>());
+    }
     grid.Rebind();
     grid.setCaption(TableVocabulary::GetTableName(TableVocabulary::GetTableIndex(key)));
 }

@@ -8,12 +8,12 @@ class DataControl;
 class ImageBox;
 class Material;
 class NoDataPanel;
-class Recordset;
+class PropertyChart;
 struct MaterialControls;
 
 class BoundTables {
 public:
-    BoundTables(MaterialControls &controls, DataControl &dtaTable, NoDataPanel &noData);
+    BoundTables(MaterialControls &controls, DataControl &dtaTable, NoDataPanel &noData, PropertyChart &chart);
 
     /// As the window is designed.
     void InitColumns();
@@ -39,4 +39,5 @@ private:
     MaterialControls &m_controls;
     DataControl &m_dtaTable;
     NoDataPanel &m_noData;
+    PropertyChart &m_chart;
 };

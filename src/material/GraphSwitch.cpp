@@ -46,9 +46,8 @@ void GraphSwitch::ShowChartFrames(bool graph) {
 }
 
 void GraphSwitch::ShowUnboundGraph(bool graph) {
-    for (QWidget *part :
-         {static_cast<QWidget *>(m_controls.framBlank), static_cast<QWidget *>(m_controls.framChart),
-          static_cast<QWidget *>(m_controls.framAxisCols), static_cast<QWidget *>(m_controls.ImgPic(2))})
+    for (QWidget *part : QList<QWidget *>{m_controls.framBlank, m_controls.framChart, m_controls.framAxisCols,
+                                          m_controls.ImgPic(2)})
         part->setVisible(graph);
     m_controls.framNotes->setVisible(!graph);
     m_controls.tdbTable->setVisible(!graph);

@@ -276,9 +276,7 @@ void MaterialControls::makePictures(QWidget *window) {
 void MaterialControls::InitLayout() {
     moveTo(lblMain, PanelLeft, PanelTop);
     moveTo(lblFullForm, PanelLeft, PanelTop);
-    for (QWidget *page : {static_cast<QWidget *>(framChart), static_cast<QWidget *>(framDesign),
-                          static_cast<QWidget *>(framStand), static_cast<QWidget *>(tdbTable),
-                          static_cast<QWidget *>(tdbBoundTable)})
+    for (QWidget *page : QList<QWidget *>{framChart, framDesign, framStand, tdbTable, tdbBoundTable})
         moveTo(page, PageLeft, PageTop);
     const QRect standard = placeOf(framStand);
     moveTo(framMain, PageLeft, standard.top() + standard.height() + FrameGap);

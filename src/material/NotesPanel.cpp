@@ -107,9 +107,8 @@ void NotesPanel::SizeForNotes(const QString &state) {
     place(m_controls.framNotes, frame.left(), open ? OpenNotesTop : ClosedNotesTop, frame.width(),
           open ? OpenNotesHeight : ClosedNotesHeight);
     const int height = open ? TableHeightWithNotes : TableHeight;
-    for (QWidget *table :
-         {static_cast<QWidget *>(m_controls.framOptions), static_cast<QWidget *>(m_controls.tdbBoundTable),
-          static_cast<QWidget *>(m_controls.tdbTable), static_cast<QWidget *>(m_controls.framNoData)})
+    for (QWidget *table : QList<QWidget *>{m_controls.framOptions, m_controls.tdbBoundTable,
+                                           m_controls.tdbTable, m_controls.framNoData})
         setHeight(table, height);
     setHeight(m_controls.txtNoData, height - 2 * NoDataMargin);
     // The folded panel cuts the text off, so that the keyboard must not go there.

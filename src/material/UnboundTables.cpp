@@ -6,6 +6,7 @@
 #include "data/modDBase.h"
 #include "data/queries.h"
 #include "data/table_vocabulary.h"
+#include "design/PropertyChart.h"
 #include "material/cell_values.h"
 #include "material/material_layout.h"
 #include "material/MaterialControls.h"
@@ -38,12 +39,13 @@ UnboundTables::Table UnboundTables::tableOf(const QString &key, const Material &
 }
 
 UnboundTables::UnboundTables(MaterialControls &controls, MaterialSources &sources, UnboundGrid &table,
-                             NotesPanel &notes, NoDataPanel &noData)
+                             NotesPanel &notes, NoDataPanel &noData, PropertyChart &chart)
     : m_controls(controls)
     , m_sources(sources)
     , m_table(table)
     , m_notes(notes)
-    , m_noData(noData) {}
+    , m_noData(noData)
+    , m_chart(chart) {}
 
 void UnboundTables::LoadUnboundColumns(Material &material, const QString &key) {
     const Table table = tableOf(key, material);
@@ -61,6 +63,7 @@ void UnboundTables::LoadUnboundColumns(Material &material, const QString &key) {
         columns.iChartColY = columns.mColIDs.value(1);
         m_controls.cboColumnList->setCurrentIndex(0);
     }
+    m_chart.BuildColumnChart(material, key);
 }
 
 int UnboundTables::loadDefinitions(Material &material, const Table &table) {

@@ -11,6 +11,7 @@ class GridColumn;
 class Material;
 class NoDataPanel;
 class NotesPanel;
+class PropertyChart;
 class UnboundGrid;
 struct MaterialControls;
 struct MaterialSources;
@@ -36,7 +37,7 @@ struct UnboundColumns {
 class UnboundTables {
 public:
     UnboundTables(MaterialControls &controls, MaterialSources &sources, UnboundGrid &table, NotesPanel &notes,
-                  NoDataPanel &noData);
+                  NoDataPanel &noData, PropertyChart &chart);
 
     /// `key` is "MechProp" or "CreepProp". The grid is cleared. Raises 11 for cells without column
     /// definitions.
@@ -63,4 +64,5 @@ private:
     UnboundGrid &m_table;
     NotesPanel &m_notes;
     NoDataPanel &m_noData;
+    PropertyChart &m_chart;
 };

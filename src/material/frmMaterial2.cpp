@@ -3,13 +3,16 @@
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/table_vocabulary.h"
+#include "design/frmChart.h"
 #include "material/cell_values.h"
 #include "material/material_layout.h"
 #include "material/menu_place.h"
 #include "material/temperature_columns.h"
 #include "platform/dao/database.h"
+#include "platform/forms/default_instance.h"
 #include "platform/runtime/runtime_error.h"
 #include "shell/mdiVelmar.h"
+#include "shell/modToolTips.h"
 
 using namespace MaterialLayout;
 
@@ -39,9 +42,12 @@ frmMaterial2::frmMaterial2()
     , m_unboundGrid(*tdbTable)
     , m_references(*this, *dtaTable)
     , m_composition(m_unboundGrid, *dtaTable, *dtaOther, m_notes)
-    , m_unboundTables(*this, *this, m_unboundGrid, m_notes, m_noData)
-    , m_boundTables(*this, *dtaTable, m_noData)
-    , m_addInfo(*dtaTable, *dtaOther, m_notes) {
+    , m_chart(*this, *dtaTable, m_sourceArrays, m_unboundTables.columns)
+    , m_unboundTables(*this, *this, m_unboundGrid, m_notes, m_noData, m_chart)
+    , m_boundTables(*this, *dtaTable, m_noData, m_chart)
+    , m_addInfo(*dtaTable, *dtaOther, m_notes)
+    , m_design(*this, *this, m_sourceArrays, m_unboundTables.columns.creep,
+               [this](const QString &key) { ShowTable(key); }) {
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     setWidth(WindowWidth);
     setHeight(WindowHeight);
@@ -57,6 +63,10 @@ void frmMaterial2::connectControls() {
     connect(CommandShowTable, &QPushButton::clicked, this, [this] { m_graphs.Choose(false); });
     connect(cmdUnBoundGraph, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(true); });
     connect(cmdUnBoundTable, &QPushButton::clicked, this, [this] { m_graphs.ShowUnboundGraph(false); });
+    connect(cboColumnList, &QComboBox::currentIndexChanged, this, [this] {
+        if (m_chart.pickColumns()) m_chart.BuildColumnChart(*m_material, strCurrentTable);
+    });
+    connect(cmdPrintSave(2), &QToolButton::clicked, this, [] { NewForm<frmChart>()->ShowModal(); });
     const QStringList keys{"Rp02", "Rp10", "Rm"};
     for (int i = 0; i < keys.size(); ++i)
         connect(optMechProp(i), &QRadioButton::clicked, this, [this, key = keys[i]] { ShowTable(key); });
@@ -73,6 +83,7 @@ void frmMaterial2::Form_Load() {
     lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
     HideAll();
     showReferences();
+    modToolTips::SetMaterialToolTips(*this);
 }
 
 void frmMaterial2::Form_Activate() {
@@ -126,7 +137,7 @@ void frmMaterial2::ShowTable(const QString &key) {
     } else if (key == QLatin1String("AddInfo")) {
         showAddInfo(material);
     } else if (key == QLatin1String("Design")) {
-        showDesign();
+        showDesign(material);
     } else if (key == QLatin1String("Elevated")) {
         strCurrentTable = "Rp02";
         optMechProp(0)->setChecked(true);
@@ -149,28 +160,21 @@ void frmMaterial2::CheckTablesForRecords() {
 
 void frmMaterial2::HideAll() {
     m_notes.Reset();
-    for (QWidget *part : {static_cast<QWidget *>(ImgPic(1)), static_cast<QWidget *>(ImgPic(2)),
-                          static_cast<QWidget *>(framAxisCols), static_cast<QWidget *>(framChart),
-                          static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(framMain),
-                          static_cast<QWidget *>(framStand), static_cast<QWidget *>(lblFullForm),
-                          static_cast<QWidget *>(lblMain), static_cast<QWidget *>(tdbBoundTable),
-                          static_cast<QWidget *>(framOptions), static_cast<QWidget *>(framBlank),
-                          static_cast<QWidget *>(cmdUnBoundGraph), static_cast<QWidget *>(framDesign),
-                          static_cast<QWidget *>(txtNoData), static_cast<QWidget *>(framNoData)})
+    for (QWidget *part : QList<QWidget *>{ImgPic(1), ImgPic(2), framAxisCols, framChart, tdbTable, framMain,
+                                          framStand, lblFullForm, lblMain, tdbBoundTable, framOptions,
+                                          framBlank, cmdUnBoundGraph, framDesign, txtNoData, framNoData})
         part->hide();
     m_graphs.ResetBlank();
     m_boundTables.ResetColumns();
 }
 
 void frmMaterial2::showReferences() {
-    for (QWidget *part : {static_cast<QWidget *>(framMain), static_cast<QWidget *>(framStand),
-                          static_cast<QWidget *>(lblMain), static_cast<QWidget *>(ImgPic(1))})
+    for (QWidget *part : QList<QWidget *>{framMain, framStand, lblMain, ImgPic(1)})
         part->show();
 }
 
 void frmMaterial2::showComposition(Material &material) {
-    for (QWidget *part : {static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(lblFullForm),
-                          static_cast<QWidget *>(framNotes)})
+    for (QWidget *part : QList<QWidget *>{tdbTable, lblFullForm, framNotes})
         part->show();
     m_unboundGrid.Clear();
     m_notes.LoadNotes(material, "ChemComp");
@@ -178,8 +182,7 @@ void frmMaterial2::showComposition(Material &material) {
 }
 
 void frmMaterial2::showUnboundTable(Material &material, const QString &key) {
-    for (QWidget *part : {static_cast<QWidget *>(tdbTable), static_cast<QWidget *>(lblFullForm),
-                          static_cast<QWidget *>(framNotes)})
+    for (QWidget *part : QList<QWidget *>{tdbTable, lblFullForm, framNotes})
         part->show();
     m_unboundGrid.Clear();
     m_unboundTables.LoadUnboundColumns(material, key);
@@ -193,7 +196,13 @@ void frmMaterial2::showAddInfo(Material &material) {
     cmdShowNotes->hide();
 }
 
-void frmMaterial2::showDesign() {
+void frmMaterial2::showDesign(Material &material) {
+    if (!m_design.bDesignBuilt) {
+        m_design.BuildDesignTable(material, xDesignDB);
+        m_design.bDesignBuilt = true;
+        strCurrentTable = "Design";
+        HideAll(); // what the tables showed that were loaded on the way
+    }
     framDesign->show();
     lblFullForm->show();
 }

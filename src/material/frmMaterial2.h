@@ -3,6 +3,9 @@
 
 #include <memory>
 
+#include "design/DesignPage.h"
+#include "design/PropertyChart.h"
+#include "design/SourceArrays.h"
 #include "material/AdditionalInfo.h"
 #include "material/BoundTables.h"
 #include "material/CompositionTable.h"
@@ -62,7 +65,7 @@ private:
     void showComposition(Material &material);
     void showUnboundTable(Material &material, const QString &key);
     void showAddInfo(Material &material);
-    void showDesign();
+    void showDesign(Material &material);
     void showBoundTable(Material &material, const QString &key);
     void focusMechOption();
     void setPageSymbol(const QString &key);
@@ -74,7 +77,10 @@ private:
     UnboundGrid m_unboundGrid;
     ReferencePage m_references;
     CompositionTable m_composition;
+    SourceArrays m_sourceArrays;
+    PropertyChart m_chart;
     UnboundTables m_unboundTables;
     BoundTables m_boundTables;
     AdditionalInfo m_addInfo;
+    DesignPage m_design;
 };

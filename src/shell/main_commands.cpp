@@ -10,10 +10,11 @@
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
 #include "search/frmSearch.h"
-#include "shell/HTMLHelp.h"
 #include "shell/frmAbout.h"
+#include "shell/HTMLHelp.h"
 #include "shell/main_toolbar.h"
 #include "shell/mdiVelmar.h"
+#include "shell/modToolTips.h"
 
 namespace {
 
@@ -180,6 +181,7 @@ void MainCommands::settings(int index) {
     case 3:
         entry.setChecked(!entry.Checked());
         m_window.bToolTips = !m_window.bToolTips;
+        modToolTips::SetToolTips(m_window.bToolTips);
         break;
     case 4:
         changeBackColour();
@@ -231,15 +233,22 @@ void MainCommands::window(int index) {
 
 void MainCommands::help(int index) {
     switch (index) {
-    case 0: HTMLHelp::ShowHelpContents(1); break;
-    case 1: HTMLHelp::ShowHelpIndex(1); break;
-    case 2: HTMLHelp::ShowHelpSearch(1); break;
+    case 0:
+        HTMLHelp::ShowHelpContents(1);
+        break;
+    case 1:
+        HTMLHelp::ShowHelpIndex(1);
+        break;
+    case 2:
+        HTMLHelp::ShowHelpSearch(1);
+        break;
     case 4:
         m_window.ShowStatus(107);
         DefaultInstance<frmAbout>().ShowModal(&m_window);
         m_window.ShowStatus(100);
         break;
-    default: break;
+    default:
+        break;
     }
 }
 

@@ -21,6 +21,7 @@
 #include "shell/main_commands.h"
 #include "shell/main_settings.h"
 #include "shell/main_toolbar.h"
+#include "shell/modToolTips.h"
 #include "shell/window_arrangement.h"
 
 namespace {
@@ -142,6 +143,7 @@ void mdiVelmar::openDatabase() {
     Show();
     DefaultInstance<frmSearch>().Show();
     if (bColoursOff) Do_Undo_Colour_All();
+    modToolTips::SetToolTips(bToolTips);
 }
 
 void mdiVelmar::UnloadMain() {

@@ -232,6 +232,10 @@ TEST_F(Dialect, Errors) {
         {"select label, id from part group by label", "3122: You tried to execute a query that does not "
                                                       "include the specified expression 'id' as part of an "
                                                       "aggregate function."},
+        {"select id from part where id in (select id from part having label = 'x')",
+         "3122: You tried to execute a query that does not include the specified expression 'id' as part of "
+         "an "
+         "aggregate function."},
         {"select id from", "3131: Syntax error in FROM clause."},
         {"select id from part, part", "3131: Syntax error in FROM clause."},
         {"select id from part order by", "3138: Syntax error in ORDER BY clause."},

@@ -87,7 +87,7 @@ TEST_F(HelpTest, ContentsIndexAndSearchLeadToTheTopic) {
     auto *contents = viewer()->findChild<QHelpContentWidget *>();
     ASSERT_TRUE(QTest::qWaitFor([&] { return contents->model()->rowCount() == 1; }));
     EXPECT_EQ(contents->model()->index(0, 0).data().toString(), "Start");
-    EXPECT_TRUE(shownText().contains("Welcome")) << "no empty window";
+    EXPECT_TRUE(QTest::qWaitFor([] { return shownText().contains("Welcome"); })) << "no empty window";
 
     show(HelpIndex);
     EXPECT_EQ(pages->currentIndex(), 1);

@@ -124,6 +124,20 @@ TEST_F(MdiFormTest, AMaximisedOrMinimisedChildKeepsItsPlace) {
     EXPECT_EQ(child[0]->Width(), 4500);
 }
 
+TEST_F(MdiFormTest, AMaximisedChildDoesNotMaximiseOneThatCannotBe) {
+    child[1]->setMinMaxButtons(true, false);
+    child[1]->Move(0, 0, 4500, 3000);
+    child[1]->Hide();
+    child[0]->SetFocus();
+    child[0]->setWindowState(vbMaximized);
+    child[1]->Show();
+    child[1]->SetFocus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(child[1]->WindowState(), vbNormal);
+    EXPECT_EQ(child[1]->Width(), 4500);
+    EXPECT_EQ(active(), "child1");
+}
+
 TEST_F(MdiFormTest, AFixedChildStaysAsItIs) {
     child[0]->setMinMaxButtons(true, false);
     child[0]->setSizable(false);

@@ -14,7 +14,8 @@ namespace {
 constexpr int LineHeight = 224; // of Arial 10
 constexpr int Padding = 50;     // above and below a text in a frame together
 
-template <class Call> int raised(Call call) {
+template <class Call>
+int raised(Call call) {
     try {
         call();
     } catch (const RuntimeError &error) {
@@ -69,7 +70,8 @@ TEST_F(Layout, WhatStandsBelowAGrowingTextKeepsItsDistance) {
 
 TEST_F(Layout, ARowOfCellsGrowsAsOne) {
     for (int i = 0; i < 3; ++i)
-        place<Field>(detail, QString::number(i), {i * 1155, 10, 1155, 283}, i == 1 ? "wider than its cell" : "cell")
+        place<Field>(detail, QString::number(i), {i * 1155, 10, 1155, 283},
+                     i == 1 ? "wider than its cell" : "cell")
             .Border = BorderStyles::all();
     report.Run();
     for (const Element &element : report.document().pages[0].elements)
@@ -90,7 +92,8 @@ TEST_F(Layout, AnEmptyTextAndAnEmptySubReportShrinkAndHiddenControlsTakeNoPlace)
 }
 
 TEST_F(Layout, ATextThatMayNotGrowEndsInAnEllipsis) {
-    auto &tight = place<Label>(detail, "tight", {0, 0, 1500, 500}, "a text of many words that needs more room");
+    auto &tight =
+        place<Label>(detail, "tight", {0, 0, 1500, 500}, "a text of many words that needs more room");
     tight.CanGrow = false;
     auto &line = place<Label>(detail, "line", {0, 600, 1500, 250}, "a line that is too long");
     line.CanGrow = false;
@@ -108,7 +111,8 @@ TEST_F(Layout, ATextThatMayNotGrowEndsInAnEllipsis) {
 
 TEST_F(Layout, TextsStandInTheirBoxAsTheAlignmentsSay) {
     const auto add = [this](int alignment, int vertical, bool frame) {
-        auto &label = place<Label>(detail, QString::number(detail.Controls.Count()), {0, 0, 3000, 1000}, "word");
+        auto &label =
+            place<Label>(detail, QString::number(detail.Controls.Count()), {0, 0, 3000, 1000}, "word");
         label.Alignment = alignment;
         label.VerticalAlignment = vertical;
         if (frame) label.Border = BorderStyles::all();
@@ -141,11 +145,23 @@ TEST_F(Layout, EventsComeInTheirOrderAndASubReportRunsWithinItsSection) {
     report.AddSection(SectionType::GroupHeader, "gh").Controls.Add<SubReport>("sub").Object = inner;
     report.onEnd = [&] { EXPECT_EQ(report.document().pages.size(), 1u); };
     report.Run();
-    const QStringList expected = {
-        "ReportStart",       "DataInitialize",       "FetchData",       "Format rh",     "Format gh",
-        "inner ReportStart", "inner DataInitialize", "inner FetchData", "inner FetchData", "inner ReportEnd",
-        "Format Detail",     "FetchData",            "Format Detail",   "FetchData",     "Format gf",
-        "Format PageFooter", "ReportEnd"};
+    const QStringList expected = {"ReportStart",
+                                  "DataInitialize",
+                                  "FetchData",
+                                  "Format rh",
+                                  "Format gh",
+                                  "inner ReportStart",
+                                  "inner DataInitialize",
+                                  "inner FetchData",
+                                  "inner FetchData",
+                                  "inner ReportEnd",
+                                  "Format Detail",
+                                  "FetchData",
+                                  "Format Detail",
+                                  "FetchData",
+                                  "Format gf",
+                                  "Format PageFooter",
+                                  "ReportEnd"};
     EXPECT_EQ(log, expected) << log.join(", ").toStdString();
 }
 
@@ -181,7 +197,8 @@ TEST_F(Layout, ControlsAndFieldsAddedAtRunTimeAreFilledAndPlaced) {
 class FakeRows : public RecordsetRows {
 public:
     const FieldDefinitions &fields() const override {
-        static const FieldDefinitions definitions = {{"temp", FieldType::Integer, 0}, {"16", FieldType::Single, 0}};
+        static const FieldDefinitions definitions = {{"temp", FieldType::Integer, 0},
+                                                     {"16", FieldType::Single, 0}};
         return definitions;
     }
     int count() const override { return 3; }
@@ -197,8 +214,12 @@ TEST_F(Layout, ARecordsetGivesARowForEachRecord) {
     place<Field>(detail, "txtTemp", {0, 0, 1000, 283}).DataField = "TEMP";
     place<Field>(detail, "txt16", {1000, 0, 1000, 283}).DataField = "16";
     place<Field>(detail, "txtNone", {2000, 0, 1000, 283}, "template text").DataField = "20";
-    report.onInitialize = [this] { report.DataSource = std::make_shared<Recordset>(std::make_shared<FakeRows>()); };
-    report.onFormat = [](Section &section) { EXPECT_EQ(section.Controls.Item<Field>("txtNone").Text, QString()); };
+    report.onInitialize = [this] {
+        report.DataSource = std::make_shared<Recordset>(std::make_shared<FakeRows>());
+    };
+    report.onFormat = [](Section &section) {
+        EXPECT_EQ(section.Controls.Item<Field>("txtNone").Text, QString());
+    };
     report.Run();
     EXPECT_EQ(boxOf("100").top(), 0);
     EXPECT_EQ(boxOf("200").top(), 283);

@@ -38,7 +38,8 @@ std::shared_ptr<TestReport> table(const QString &title, int rows) {
     return report;
 }
 
-SubReport &addSubReport(Section &section, const QString &name, const QRect &box, std::shared_ptr<Report> report) {
+SubReport &addSubReport(Section &section, const QString &name, const QRect &box,
+                        std::shared_ptr<Report> report) {
     auto &control = section.Controls.Add<SubReport>(name);
     control.Left = box.left();
     control.Top = box.top();
@@ -74,7 +75,8 @@ TEST(Paging, TheHeadingOfRowsIsRepeatedButNotAboveNotes) {
     const Document &document = report.Run();
     ASSERT_EQ(document.pages.size(), 4u);
     const int withHeading = (16838 - 2 * 850 - 400) / RowHeight;
-    EXPECT_EQ(textsOf(document.pages[1]).mid(0, 2), QStringList({"Heading", QString::number(withHeading + 1)}));
+    EXPECT_EQ(textsOf(document.pages[1]).mid(0, 2),
+              QStringList({"Heading", QString::number(withHeading + 1)}));
     EXPECT_EQ(locate(document, QString::number(withHeading + 1)).box.top(), Top + 400);
     EXPECT_EQ(textsOf(document.pages[2])[0], "Heading");
     EXPECT_EQ(textsOf(document.pages[3]), QStringList({"Notes"}));

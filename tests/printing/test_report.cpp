@@ -41,14 +41,16 @@ void TestReport::countRows(int count) {
 
 namespace {
 
-constexpr char Logo[] = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 48 48'>"
-                        "<circle cx='24' cy='24' r='22' fill='#2a6fb0'/>"
-                        "<path d='M8 30 Q16 14 24 26 T40 22' stroke='white' stroke-width='4' fill='none'/></svg>";
+constexpr char Logo[] =
+    "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 48 48'>"
+    "<circle cx='24' cy='24' r='22' fill='#2a6fb0'/>"
+    "<path d='M8 30 Q16 14 24 26 T40 22' stroke='white' stroke-width='4' fill='none'/></svg>";
 
 void addStationHeader(TestReport &report) {
     Section &header = report.AddSection(SectionType::ReportHeader, "ReportHeader");
     header.Height = 2300;
-    auto &title = place<Label>(header, "lblTitle", {700, 0, 6000, 450}, QStringLiteral("Wetterstation Großer Sand"));
+    auto &title =
+        place<Label>(header, "lblTitle", {700, 0, 6000, 450}, QStringLiteral("Wetterstation Großer Sand"));
     title.Font.Size = 18;
     title.Font.Bold = true;
     title.HeadingLevel = 1;
@@ -58,12 +60,14 @@ void addStationHeader(TestReport &report) {
     const QStringList captions = {"Place", "Height", "Description", "Keeper"};
     const QStringList texts = {
         QStringLiteral("53° 52′ N, 8° 42′ E"), QStringLiteral("≤ 12 m"),
-        QStringLiteral("Stands on a sand bank in the estuary and can be reached on foot at low water only; the "
-                       "instruments are read by radio every ten minutes and checked by hand twice a year."),
+        QStringLiteral(
+            "Stands on a sand bank in the estuary and can be reached on foot at low water only; the "
+            "instruments are read by radio every ten minutes and checked by hand twice a year."),
         QStringLiteral("Harbour office {north} \\ pilot station")};
     for (int i = 0; i < captions.size(); ++i) {
         place<Label>(header, "lbl" + captions[i], {0, 700 + 300 * i, 1700, 260}, captions[i]);
-        place<Field>(header, "txt" + captions[i], {1800, 700 + 300 * i, 8300, 260}, texts[i]).Font.Bold = true;
+        place<Field>(header, "txt" + captions[i], {1800, 700 + 300 * i, 8300, 260}, texts[i]).Font.Bold =
+            true;
     }
 }
 
@@ -82,7 +86,8 @@ std::shared_ptr<TestReport> readings(int rows) {
     detail.Height = 283;
     int left = 0;
     for (int i = 0; i < captions.size(); ++i) {
-        auto &caption = place<Label>(head, QStringLiteral("lblCol%1").arg(i), {left, 400, widths[i], 851}, captions[i]);
+        auto &caption =
+            place<Label>(head, QStringLiteral("lblCol%1").arg(i), {left, 400, widths[i], 851}, captions[i]);
         auto &field = place<Field>(detail, QStringLiteral("txtField%1").arg(i), {left, 0, widths[i], 283});
         field.DataField = QStringLiteral("f%1").arg(i);
         caption.Alignment = 2;
@@ -105,9 +110,10 @@ std::shared_ptr<TestReport> readings(int rows) {
         table->Fields("f0") = row;
         table->Fields("f1") = QStringLiteral("%1,%2").arg(row % 30).arg(row % 10);
         table->Fields("f2") = QStringLiteral("(%1 x 10²)").arg(990 + row % 40);
-        table->Fields("f3") = row % 7 == 0 ? QStringLiteral("gale ≥ 8 Bft, the reading was taken twice and the "
-                                                             "mean of both is what stands here")
-                                           : QString();
+        table->Fields("f3") = row % 7 == 0
+                                  ? QStringLiteral("gale ≥ 8 Bft, the reading was taken twice and the "
+                                                   "mean of both is what stands here")
+                                  : QString();
     };
     Section &notes = table->AddSection(SectionType::GroupFooter, "gfNotes");
     notes.Height = 700;
@@ -140,7 +146,8 @@ void drawCurve(QPainter &painter, const QSizeF &size) {
 void addPageSections(TestReport &report) {
     Section &header = report.AddSection(SectionType::PageHeader, "PageHeader");
     header.Height = 400;
-    auto &office = place<Label>(header, "lblOffice", {0, 0, 10200, 250}, QStringLiteral("Weather office – yearbook"));
+    auto &office =
+        place<Label>(header, "lblOffice", {0, 0, 10200, 250}, QStringLiteral("Weather office – yearbook"));
     office.Alignment = 1;
     office.Font.Size = 8;
     auto &rule = header.Controls.Add<Line>("rule");
@@ -150,7 +157,8 @@ void addPageSections(TestReport &report) {
     Section &footer = report.AddSection(SectionType::PageFooter, "PageFooter");
     footer.Height = 400;
     place<Label>(footer, "lblDocName", {0, 150, 4000, 250}, "Yearbook_7").Font.Size = 8;
-    const auto addPageText = [&footer](const QString &name, int left, int width, const QString &text, PageValue value) {
+    const auto addPageText = [&footer](const QString &name, int left, int width, const QString &text,
+                                       PageValue value) {
         auto &field = place<Field>(footer, name, {left, 150, width, 250}, text);
         field.Font.Size = 8;
         field.Alignment = value == PageValue::None ? 0 : 2;

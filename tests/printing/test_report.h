@@ -34,7 +34,8 @@ private:
 
 /// A text control with the usual places set.
 template <class ControlType>
-ControlType &place(Printing::Section &section, const QString &name, const QRect &box, const QString &text = {}) {
+ControlType &place(Printing::Section &section, const QString &name, const QRect &box,
+                   const QString &text = {}) {
     auto &control = section.Controls.Add<ControlType>(name);
     control.Left = box.left();
     control.Top = box.top();

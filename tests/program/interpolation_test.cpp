@@ -19,6 +19,7 @@ struct Country {
 
 constexpr Country PointComma = {u'.', u',', true, true};
 constexpr Country CommaPoint = {u',', u'.', false, false};
+constexpr Country CommaBlank = {u',', u' ', false, false};
 constexpr Country PointApostrophe = {u'.', u'\'', true, false};
 
 SourceArray table(std::initializer_list<QStringList> rows) {
@@ -32,10 +33,21 @@ SourceArray table(std::initializer_list<QStringList> rows) {
     return source;
 }
 
-QString valuesAt(const QString &temperature, const SourceArray &source, const Country &country) {
+// `cells` gets what was given before a failure.
+void collect(const QString &temperature, const SourceArray &source, const Country &country,
+             QStringList &cells) {
     const PinnedSettings settings(country.decimalSign, country.groupSign);
-    return Interpolation::designValues(source, temperature, country.bDecimalPoint, country.bCommaGroup)
-        .join(QLatin1Char('|'));
+    Interpolation::designValues(source, Interpolation::typedTemperature(temperature, country.bCommaGroup),
+                                country.bDecimalPoint, [&](int column, const QString &cell) {
+                                    EXPECT_EQ(column, cells.size() + 1);
+                                    cells << cell;
+                                });
+}
+
+QString valuesAt(const QString &temperature, const SourceArray &source, const Country &country) {
+    QStringList cells;
+    collect(temperature, source, country, cells);
+    return cells.join(QLatin1Char('|'));
 }
 
 TEST(ValueTextTest, ACellFallsIntoThreeParts) {
@@ -81,7 +93,7 @@ TEST(ValueTextTest, DesignValuesShowTwoDecimalsBehindAComma) {
         const char *text;
     } cases[] = {
         {235.125, "235,13"}, {7, "7,00"}, {-0.005, "-0,01"}, {0.014999, "0,01"}, {1234567.891, "1234567,89"}};
-    for (const Country &country : {PointComma, CommaPoint, PointApostrophe}) {
+    for (const Country &country : {PointComma, CommaPoint, CommaBlank, PointApostrophe}) {
         const PinnedSettings settings(country.decimalSign, country.groupSign);
         for (const auto &item : cases)
             EXPECT_EQ(ValueText::designValueText(item.y).toStdString(), item.text);
@@ -105,7 +117,7 @@ TEST(InterpolationTest, ValuesWorkedOutByHand) {
         {"250,0", "(180,00)|x"},                     // the same number, typed otherwise
         {"250,1", "+|+"},        {"9999", "+|+"},
     };
-    for (const Country &country : {PointComma, CommaPoint})
+    for (const Country &country : {PointComma, CommaPoint, CommaBlank})
         for (const auto &item : cases)
             EXPECT_EQ(valuesAt(item.temperature, rp, country).toStdString(), item.values) << item.temperature;
 }
@@ -124,7 +136,7 @@ TEST(InterpolationTest, AStoredSignTakesTheSystemsNotation) {
     const SourceArray conductivity = table({{"20", "12.5", "0,4"}, {"40", "13,0", "0.5"}});
     EXPECT_EQ(valuesAt("20", conductivity, CommaPoint), QStringLiteral("12,5|0,4"));
     EXPECT_EQ(valuesAt("20", conductivity, PointComma), QStringLiteral("12.5|0.4"));
-    for (const Country &country : {PointComma, CommaPoint, PointApostrophe})
+    for (const Country &country : {PointComma, CommaPoint, CommaBlank, PointApostrophe})
         EXPECT_EQ(valuesAt("30", conductivity, country), QStringLiteral("12,75|0,45"));
 }
 
@@ -160,12 +172,18 @@ TEST(InterpolationTest, WhatDoesNotConvertIsTold) {
     EXPECT_EQ(error("30", SourceArray(0, 1), CommaPoint), 9);
 }
 
+TEST(InterpolationTest, CellsBeforeAFailureAreGiven) {
+    QStringList cells;
+    const SourceArray torn = table({{"20", "1", "", "-", "4"}, {"40", "2", "3", "5", "6"}});
+    EXPECT_EQ(errorOf([&] { collect("30", torn, CommaPoint, cells); }), 13);
+    EXPECT_EQ(cells, (QStringList{"1,50", "x"}));
+}
+
 TEST(InterpolationTest, AValueLiesBetweenItsNeighboursAndOnThemAtTheRows) {
     std::mt19937 random(20030405);
     const auto between = [&](int least, int most) {
         return std::uniform_int_distribution(least, most)(random);
     };
-    const PinnedSettings settings(u',', u'.');
     for (int round = 0; round < 500; ++round) {
         const int rows = between(1, 12);
         SourceArray source(rows, 1);
@@ -178,14 +196,12 @@ TEST(InterpolationTest, AValueLiesBetweenItsNeighboursAndOnThemAtTheRows) {
             source.setText(row, 1, QString::number(hundredths.back() / 100.0, 'f', 2).replace('.', ','));
         }
         for (int row = 1; row <= rows; ++row)
-            ASSERT_EQ(Interpolation::designValues(source, source.text(row, 0), false, false),
-                      QStringList(source.text(row, 1)));
+            ASSERT_EQ(valuesAt(source.text(row, 0), source, CommaPoint), source.text(row, 1));
         for (int row = 1; row < rows; ++row) {
             const auto i = static_cast<std::size_t>(row);
             if (temperatures[i] - temperatures[i - 1] < 2) continue;
             const int typed = between(temperatures[i - 1] + 1, temperatures[i] - 1);
-            const QString cell =
-                Interpolation::designValues(source, QString::number(typed), false, false).value(0);
+            const QString cell = valuesAt(QString::number(typed), source, CommaPoint);
             const double shown = QString(cell).replace(',', '.').toDouble() * 100;
             // both neighbours have two decimals, so rounding to two cannot leave the interval
             ASSERT_GE(std::lround(shown), std::min(hundredths[i - 1], hundredths[i])) << cell.toStdString();

@@ -319,6 +319,20 @@ TEST_F(MaterialWindow, FollowsAndLeavesTheGroup) {
     EXPECT_EQ(main.strTableButton, "Mech");
 }
 
+TEST_F(MaterialWindow, OpensWithoutColoursWhereTheyAreOff) {
+    const auto noteColour = [](const frmMaterial2 &window) {
+        return window.txtNotes->palette().base().color();
+    };
+    const frmMaterial2 &coloured = show(P265GH);
+    EXPECT_TRUE(coloured.tdbDesign->AlternatingRowStyle());
+    EXPECT_NE(noteColour(coloured), QColor(Qt::white));
+
+    mdiVelmar::instance().menu.mnuSettingsElem(2).setChecked(false);
+    const frmMaterial2 &plain = show(P265GH);
+    EXPECT_FALSE(plain.tdbDesign->AlternatingRowStyle());
+    EXPECT_EQ(noteColour(plain), QColor(Qt::white));
+}
+
 TEST(MenuPlaceTest, EveryTableHasItsEntry) {
     const QStringList places{"View0", "View1", "Mech0", "View3", "Mech1", "Mech1", "Mech1",
                              "Phys0", "Phys1", "Phys2", "Phys3", "Phys4", "Mech3", "View5"};

@@ -9,23 +9,66 @@
 #include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/default_instance.h"
-#include "platform/runtime/app.h"
+#include "platform/forms/screen.h"
+#include "platform/runtime/text_file.h"
 #include "shell/mdiVelmar.h"
 #include "shell/modFileHandler.h"
+#include "shell/program_version.h"
 #include "tests/support/gui.h"
 
-TestProgram::TestProgram() {
-    qunsetenv("APPDATA");
-    App::current().path = m_folder.path();
-    QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", m_folder.filePath("Velmar_PED.mdb"));
+namespace {
+
+TestProgram::Given givenDatabase(const std::function<void(const QString &)> &putDatabase,
+                                 char16_t decimalSign, char16_t groupSign) {
+    TestProgram::Given given;
+    given.putDatabase = putDatabase;
+    given.decimalSign = decimalSign;
+    given.groupSign = groupSign;
+    return given;
+}
+
+} // namespace
+
+void TestProgram::putSample(const QString &path) {
+    QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", path);
+}
+
+TestProgram::TestProgram(const std::function<void(const QString &)> &putDatabase, char16_t decimalSign,
+                         char16_t groupSign)
+    : TestProgram(givenDatabase(putDatabase, decimalSign, groupSign)) {}
+
+TestProgram::TestProgram(const Given &given)
+    : m_settings(given.decimalSign, given.groupSign)
+    , m_appDataBefore(qgetenv("APPDATA")) {
+    qputenv("APPDATA", m_appData.path().toUtf8());
+    ProgramVersion::apply(m_folder.path());
+    Screen::setSizeForTest(given.screen);
+    given.putDatabase(m_folder.filePath("Velmar_PED.mdb"));
+    if (given.pmaIndex)
+        QFile::copy(SOURCE_FOLDER "/sample/PMA_Index.mdb", m_folder.filePath("PMA_Index.mdb"));
     modFileHandler::SetupFileEnvironment();
+    if (!given.settings.isEmpty())
+        TextFile::writeLines(modFileHandler::GetUserPath("Settings.vlp"), given.settings);
     mdiVelmar::instance();
 }
 
 TestProgram::~TestProgram() {
-    mdiVelmar::instance().Unload();
-    deleteUnloaded();
+    exit();
     modDBase::reset();
+    Screen::setSizeForTest({});
+    if (m_appDataBefore.isNull())
+        qunsetenv("APPDATA");
+    else
+        qputenv("APPDATA", m_appDataBefore);
+}
+
+QString TestProgram::userFolder() const {
+    return modFileHandler::GetUserFolder();
+}
+
+void TestProgram::exit() {
+    if (auto *window = LoadedInstance<mdiVelmar>()) window->Unload();
+    deleteUnloaded();
 }
 
 std::shared_ptr<Material> TestProgram::material(int matID) const {

@@ -1,9 +1,11 @@
 // The program in a folder of its own, with its main window and a database.
 #pragma once
 
+#include <functional>
 #include <memory>
 
-#include <QString>
+#include <QSize>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include "tests/support/pinned_settings.h"
@@ -11,22 +13,47 @@
 class frmMaterial2;
 class Material;
 
-/// From its making to its end the main window is loaded over the sample database, with a decimal point and
-/// fixed dates, and no file of the person who runs the tests is read or written.
+/// From its making to its end the main window is loaded over a database, with fixed dates, and no file of the
+/// person who runs the tests is read or written.
 class TestProgram {
 public:
-    TestProgram();
+    /// What the program finds when it starts.
+    struct Given {
+        QSize screen{1280, 1024};
+        bool pmaIndex = true;
+        /// The lines of Settings.vlp; without any there is no such file.
+        QStringList settings;
+        /// Makes the database file.
+        std::function<void(const QString &path)> putDatabase = putSample;
+        char16_t decimalSign = u'.';
+        char16_t groupSign = u',';
+    };
+
+    static void putSample(const QString &path);
+
+    TestProgram()
+        : TestProgram(Given()) {}
+    explicit TestProgram(const Given &given);
+    explicit TestProgram(const std::function<void(const QString &path)> &putDatabase,
+                         char16_t decimalSign = u'.', char16_t groupSign = u',');
     ~TestProgram();
     TestProgram(const TestProgram &) = delete;
     TestProgram &operator=(const TestProgram &) = delete;
 
+    /// The program's folder.
     QString folder() const { return m_folder.path(); }
+    /// The user's folder, with a closing separator.
+    QString userFolder() const;
     /// The grade of that matID, as the search would select it.
     std::shared_ptr<Material> material(int matID) const;
     /// A window that shows the grade, visible.
     frmMaterial2 &open(const std::shared_ptr<Material> &material) const;
+    /// Ends the run, as the Exit command does; the destructor does it otherwise.
+    void exit();
 
 private:
     PinnedSettings m_settings;
     QTemporaryDir m_folder;
+    QTemporaryDir m_appData;
+    QByteArray m_appDataBefore;
 };

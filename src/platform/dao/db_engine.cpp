@@ -47,14 +47,15 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclu
     if (!file.isFile() || !file.isReadable())
         throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
 
+    const QString fullPath = file.absoluteFilePath();
     m_open.removeIf([](const auto &entry) { return entry.value().expired(); });
     const QString identity = file.canonicalFilePath();
     std::shared_ptr<TableStore> store = m_open.value(identity).lock();
     if (!store) {
         const auto kind = exclusive ? FileLock::Kind::Exclusive : FileLock::Kind::Shared;
-        auto lock = std::make_unique<FileLock>(path, kind);
-        store = std::make_shared<TableStore>(openSource(path, passwordOf(connect)), std::move(lock));
+        auto lock = std::make_unique<FileLock>(fullPath, kind);
+        store = std::make_shared<TableStore>(openSource(fullPath, passwordOf(connect)), std::move(lock));
         m_open.insert(identity, store);
     }
-    return std::make_shared<Database>(file.absoluteFilePath(), store);
+    return std::make_shared<Database>(fullPath, store);
 }

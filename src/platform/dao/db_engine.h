@@ -22,5 +22,6 @@ public:
                                            const QString &connect);
 
 private:
+    // By canonical path: a link to an open file is that file.
     QHash<QString, std::weak_ptr<TableStore>> m_open;
 };

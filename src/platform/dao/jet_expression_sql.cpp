@@ -1,7 +1,5 @@
 #include "platform/dao/jet_expression_sql.h"
 
-#include <limits>
-
 #include "platform/dao/jet_errors.h"
 #include "platform/dao/like_pattern.h"
 #include "platform/dao/memory_database.h"
@@ -23,6 +21,11 @@ QVariant numberParameter(const QString &written) {
 
 SqlText enclosed(const SqlText &sql) {
     return "(" + sql + ")";
+}
+
+bool hasAggregate(const JetExpression &expression) {
+    return expression.kind == Kind::Call ||
+           std::any_of(expression.operands.begin(), expression.operands.end(), hasAggregate);
 }
 
 class HeldPlace {
@@ -231,6 +234,7 @@ SqlText JetExpressionSql::inSelect(const JetExpression &expression) {
     const bool asText = leftIsText || isTextType(type(column));
     const SqlText values = [&] {
         const HeldPlace held(m_place, Place::Anywhere);
+        if (isAggregate(select)) checkGrouped(column, groupKeys(select));
         return "select " + comparand(column, asText) + body(select);
     }();
     m_scopes.pop_back();
@@ -261,6 +265,14 @@ SqlText JetExpressionSql::aggregate(const JetExpression &call, const SqlText &te
     return isCount && !test.text.isEmpty() ? "nullif(" + sql + ", 0)" : sql;
 }
 
+bool JetExpressionSql::isAggregate(const JetSelect &select) {
+    const auto itemHas = [](const JetSelectItem &item) { return !item.all && hasAggregate(item.expression); };
+    const auto orderHas = [](const JetOrderItem &item) { return hasAggregate(item.expression); };
+    return !select.groupBy.empty() || select.having ||
+           std::any_of(select.items.begin(), select.items.end(), itemHas) ||
+           std::any_of(select.orderBy.begin(), select.orderBy.end(), orderHas);
+}
+
 std::vector<SqlText> JetExpressionSql::groupKeys(const JetSelect &select) {
     const HeldPlace held(m_place, Place::Inside);
     std::vector<SqlText> keys;
@@ -275,4 +287,12 @@ SqlText JetExpressionSql::body(const JetSelect &select) {
     if (!select.groupBy.empty()) sql += " group by " + joined(groupKeys(select));
     if (select.having) sql += " having " + condition(*select.having, Place::Anywhere);
     return sql;
+}
+
+void JetExpressionSql::checkGrouped(const JetExpression &expression, const std::vector<SqlText> &keys) {
+    if (expression.kind == Kind::Call || std::find(keys.begin(), keys.end(), key(expression)) != keys.end())
+        return;
+    if (find(expression)) throw JetErrors::notGrouped(expression.source);
+    for (const JetExpression &operand : expression.operands)
+        checkGrouped(operand, keys);
 }

@@ -38,8 +38,12 @@ public:
     /// The aggregate `call` over the rows that meet `test`, a condition in SQL, or over all.
     SqlText aggregate(const JetExpression &call, const SqlText &test = {});
 
+    /// Groups or counts: a row stands for many of the table's.
+    static bool isAggregate(const JetSelect &select);
     /// Raises 3095 for an aggregate among the keys.
     std::vector<SqlText> groupKeys(const JetSelect &select);
+    /// Raises 3122 for a column that is neither among the keys nor in an aggregate.
+    void checkGrouped(const JetExpression &expression, const std::vector<SqlText> &keys);
     /// " from ... where ... group by ... having ..."
     SqlText body(const JetSelect &select);
 

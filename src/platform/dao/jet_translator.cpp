@@ -7,19 +7,6 @@ namespace {
 
 using Kind = JetExpression::Kind;
 
-bool hasAggregate(const JetExpression &expression) {
-    return expression.kind == Kind::Call ||
-           std::any_of(expression.operands.begin(), expression.operands.end(), hasAggregate);
-}
-
-bool isAggregate(const JetSelect &select) {
-    const auto itemHas = [](const JetSelectItem &item) { return !item.all && hasAggregate(item.expression); };
-    const auto orderHas = [](const JetOrderItem &item) { return hasAggregate(item.expression); };
-    return !select.groupBy.empty() || select.having ||
-           std::any_of(select.items.begin(), select.items.end(), itemHas) ||
-           std::any_of(select.orderBy.begin(), select.orderBy.end(), orderHas);
-}
-
 // An integer behind ORDER BY is the position of a column.
 const JetExpression &sortExpression(const JetOrderItem &item, const std::vector<JetColumn> &columns) {
     if (item.expression.kind != Kind::Number) return item.expression;
@@ -39,7 +26,7 @@ JetTranslator::JetTranslator(JetTable table, JetExpressionSql::Resolve resolve)
     : m_sql(std::move(table), std::move(resolve)) {}
 
 bool JetTranslator::isSummary(const JetSelect &select) {
-    return select.distinct || isAggregate(select);
+    return select.distinct || JetExpressionSql::isAggregate(select);
 }
 
 std::vector<JetColumn> JetTranslator::columns(const JetSelect &select) {
@@ -102,7 +89,8 @@ SqlText JetTranslator::order(const JetSelect &select, const std::vector<JetColum
 SqlText JetTranslator::query(const JetSelect &select, const std::vector<JetColumn> &columns) {
     SqlText sql = select.distinct ? "select distinct " : "select ";
     sql += joined(values(columns)) + m_sql.body(select);
-    SqlText order = isAggregate(select) ? groupedOrder(select, columns) : this->order(select, columns);
+    SqlText order =
+        JetExpressionSql::isAggregate(select) ? groupedOrder(select, columns) : this->order(select, columns);
     if (select.distinct) order = distinctOrder(select, columns);
     if (!isSummary(select)) order = joined({order, "t0.rowid"});
     return order.text.isEmpty() ? sql : sql + " order by " + order;
@@ -138,10 +126,10 @@ std::vector<SqlText> JetTranslator::values(const std::vector<JetColumn> &columns
 SqlText JetTranslator::groupedOrder(const JetSelect &select, const std::vector<JetColumn> &columns) {
     const std::vector<SqlText> keys = m_sql.groupKeys(select);
     for (const JetColumn &column : columns)
-        checkGrouped(column.expression, keys);
-    if (select.having) checkGrouped(*select.having, keys);
+        m_sql.checkGrouped(column.expression, keys);
+    if (select.having) m_sql.checkGrouped(*select.having, keys);
     for (const JetOrderItem &item : select.orderBy)
-        checkGrouped(sortExpression(item, columns), keys);
+        m_sql.checkGrouped(sortExpression(item, columns), keys);
     std::vector<SqlText> terms = keys;
     if (!select.orderBy.empty()) terms.insert(terms.begin(), order(select, columns));
     return joined(terms);
@@ -156,11 +144,4 @@ SqlText JetTranslator::distinctOrder(const JetSelect &select, const std::vector<
             throw JetErrors::orderConflictsWithDistinct(item.expression.source);
     if (!select.orderBy.empty()) terms.insert(terms.begin(), order(select, columns));
     return joined(terms);
-}
-
-void JetTranslator::checkGrouped(const JetExpression &expression, const std::vector<SqlText> &keys) {
-    if (expression.kind == Kind::Call || contains(keys, m_sql.key(expression))) return;
-    if (m_sql.find(expression)) throw JetErrors::notGrouped(expression.source);
-    for (const JetExpression &operand : expression.operands)
-        checkGrouped(operand, keys);
 }

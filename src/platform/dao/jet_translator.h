@@ -45,7 +45,6 @@ private:
     std::vector<SqlText> values(const std::vector<JetColumn> &columns);
     SqlText groupedOrder(const JetSelect &select, const std::vector<JetColumn> &columns);
     SqlText distinctOrder(const JetSelect &select, const std::vector<JetColumn> &columns);
-    void checkGrouped(const JetExpression &expression, const std::vector<SqlText> &keys);
 
     JetExpressionSql m_sql;
 };

@@ -1,7 +1,5 @@
 #include "platform/dao/key_condition.h"
 
-#include <limits>
-
 namespace {
 
 using Kind = JetExpression::Kind;

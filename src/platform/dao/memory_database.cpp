@@ -1,8 +1,5 @@
 #include "platform/dao/memory_database.h"
 
-#include <cmath>
-#include <limits>
-
 #include <sqlite3.h>
 
 #include "platform/dao/date_number.h"

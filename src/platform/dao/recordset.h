@@ -32,7 +32,7 @@ public:
     /// The same rows with a position of its own.
     std::shared_ptr<Recordset> Clone() const;
 
-    /// `criterion` is a condition in the engine's dialect, such as "number=3 AND kind='a'". Where
+    /// `criterion` is a condition in the engine's dialect, such as "id=3 AND name='x'". Where
     /// nothing matches, NoMatch() is True and the current record stays. Raises 3077 for a condition that is
     /// no SQL.
     void FindFirst(const QString &criterion);

@@ -49,7 +49,10 @@ void HelpViewer::build() {
     auto *contents = m_engine->contentWidget();
     named(contents, QStringLiteral("HelpContents"), QStringLiteral("Contents"));
     connect(contents, &QHelpContentWidget::linkActivated, this, &HelpViewer::followLink);
-    connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, contents, &QTreeView::expandAll);
+    connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, this, [this, contents] {
+        contents->expandAll();
+        if (m_browser->source().isEmpty()) m_browser->setSource(firstTopic());
+    });
     m_pages = named(new QTabWidget, QStringLiteral("HelpPages"));
     m_pages->addTab(contents, QStringLiteral("&Contents"));
     m_pages->addTab(buildIndexPage(), QStringLiteral("&Index"));
@@ -96,6 +99,7 @@ QWidget *HelpViewer::buildIndexPage() {
     layout->addWidget(label);
     layout->addWidget(filter);
     layout->addWidget(index);
+    page->setFocusProxy(filter);
     connect(filter, &QLineEdit::textChanged, index,
             [index](const QString &text) { index->filterIndices(text); });
     connect(filter, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
@@ -117,28 +121,32 @@ QWidget *HelpViewer::buildSearchPage() {
     connect(search->queryWidget(), &QHelpSearchQueryWidget::search, search,
             [search] { search->search(search->queryWidget()->searchInput()); });
     connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, this, &HelpViewer::followLink);
+    page->setFocusProxy(search->queryWidget());
     search->reindexDocumentation();
     return page;
 }
 
 void HelpViewer::open(HelpCommand command, const QString &topic) {
-    if (command != HelpTopic) m_pages->setCurrentIndex(command - HelpContents);
-    const bool nothingShown = m_browser->source().isEmpty();
-    if (command == HelpTopic || nothingShown) m_browser->setSource(urlOfTopic(topic));
+    if (command == HelpTopic)
+        m_browser->setSource(urlOfTopic(topic));
+    else
+        m_pages->setCurrentIndex(command - HelpContents);
     show();
     raise();
     activateWindow();
+    if (command != HelpTopic) m_pages->currentWidget()->setFocus();
 }
 
 QUrl HelpViewer::urlOfTopic(const QString &topic) const {
-    const QList<QUrl> pages = m_engine->files(m_namespace, QString());
-    QUrl first;
-    for (const QUrl &page : pages) {
-        const QString name = page.fileName();
-        if (!topic.isEmpty() && name.compare(topic, Qt::CaseInsensitive) == 0) return page;
-        if (first.isEmpty() && name.contains(QLatin1String(".htm"), Qt::CaseInsensitive)) first = page;
-    }
-    return first;
+    for (const QUrl &page : m_engine->files(m_namespace, QString()))
+        if (page.fileName().compare(topic, Qt::CaseInsensitive) == 0) return page;
+    return firstTopic();
+}
+
+QUrl HelpViewer::firstTopic() const {
+    const QHelpContentModel *contents = m_engine->contentModel();
+    const QHelpContentItem *first = contents->contentItemAt(contents->index(0, 0));
+    return first != nullptr ? first->url() : QUrl();
 }
 
 void HelpViewer::followLink(const QUrl &url) {

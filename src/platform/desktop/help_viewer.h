@@ -28,7 +28,9 @@ private:
     void build();
     QWidget *buildIndexPage();
     QWidget *buildSearchPage();
+    /// The first topic of the contents for a name that no page has.
     QUrl urlOfTopic(const QString &topic) const;
+    QUrl firstTopic() const;
     void followLink(const QUrl &url);
 
     QString m_file;

@@ -56,11 +56,12 @@ void Form::applyWindowFlags() {
 }
 
 void Form::setSizable(bool sizable) {
-    m_sizable = sizable;
-    if (sizable)
-        frame()->setMinimumSize(0, 0), frame()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    else
+    if (sizable) {
+        frame()->setMinimumSize(0, 0);
+        frame()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    } else {
         frame()->setFixedSize(frame()->size());
+    }
 }
 
 void Form::setMinMaxButtons(bool minimise, bool maximise) {

@@ -67,7 +67,6 @@ private:
     QPointer<QAbstractButton> m_defaultButton;
     QPointer<QAbstractButton> m_cancelButton;
     QEventLoop *m_modalLoop = nullptr;
-    bool m_sizable = true;
     bool m_minimiseButton = true;
     bool m_maximiseButton = true;
     bool m_borderless = false;

@@ -26,6 +26,8 @@ MDIForm::MDIForm(const QString &name)
     setContextMenuPolicy(Qt::PreventContextMenu); // else a right click could hide the tool bar past the menu
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // A window that cannot be maximised must not become so because the one before it was.
+    m_area->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     setBackColor(m_backColor);
     setCentralWidget(m_area);
     m_area->viewport()->installEventFilter(this);

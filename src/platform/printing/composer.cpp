@@ -139,7 +139,8 @@ void Composer::addBands(const Section &section, const SectionLayout &layout,
         band->height = std::max(0, bottom - top);
         band->headings = m_headings;
         band->isBreakable = !section.KeepTogether && !isRowOfCells(*band);
-        band->keepWithNext = part < breaks.size() ? !band->elements.empty() : section.KeepWithNext && part == 0;
+        band->keepWithNext =
+            part < breaks.size() ? !band->elements.empty() : section.KeepWithNext && part == 0;
         append(band);
     };
     for (std::size_t part = 0; part < breaks.size(); ++part) {

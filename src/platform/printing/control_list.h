@@ -13,7 +13,8 @@ namespace Printing {
 class ControlList {
 public:
     /// Raises 457 for a name that is there already.
-    template <class ControlType> ControlType &Add(const QString &name) {
+    template <class ControlType>
+    ControlType &Add(const QString &name) {
         refuseKnown(name);
         auto control = std::make_unique<ControlType>();
         ControlType &added = *control;
@@ -28,7 +29,8 @@ public:
     /// From 0. Raises 9 outside.
     Control &Item(int index) const;
     /// Raises 5 for an unknown name, 13 for a control of another type.
-    template <class ControlType> ControlType &Item(const QString &name) const {
+    template <class ControlType>
+    ControlType &Item(const QString &name) const {
         auto *control = dynamic_cast<ControlType *>(&Item(name));
         if (!control) throw RuntimeError(13);
         return *control;

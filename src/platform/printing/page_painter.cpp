@@ -1,6 +1,7 @@
 #include "platform/printing/page_painter.h"
 
 #include <QPageSize>
+#include <QPaintEngine>
 #include <QPainter>
 
 #include "platform/printing/text_layout.h"
@@ -12,6 +13,17 @@ namespace {
 
 // 0.4 points: a hairline that a laser printer still draws black.
 constexpr double HairlineWidth = 8;
+
+// Pixels can't show less than one of them; a fraction would come out grey.
+QPen hairline(const QPainter &painter, const QColor &colour) {
+    const bool isRaster = painter.paintEngine()->type() == QPaintEngine::Raster;
+    QPen pen(colour, HairlineWidth, Qt::SolidLine, Qt::SquareCap);
+    if (isRaster && painter.transform().m11() * HairlineWidth < 1) {
+        pen.setWidth(1);
+        pen.setCosmetic(true);
+    }
+    return pen;
+}
 
 void paintBorder(QPainter &painter, const Element &element) {
     const QRectF box = element.box;
@@ -28,7 +40,8 @@ void paintText(QPainter &painter, const Element &element) {
     painter.setFont(twipsFont(element.Font));
     painter.setPen(element.ForeColor);
     for (const TextLine &line : element.lines)
-        painter.drawText(QPointF(element.box.topLeft() + QPoint(line.left, line.top + line.ascent)), line.text);
+        painter.drawText(QPointF(element.box.topLeft() + QPoint(line.left, line.top + line.ascent)),
+                         line.text);
 }
 
 } // namespace
@@ -39,7 +52,8 @@ void paintPage(QPainter &painter, const Page &page) {
     const QRectF clip = painter.hasClipping() ? painter.clipBoundingRect() : QRectF();
     std::vector<const Element *> visible;
     for (const Element &element : page.elements) {
-        const QRectF reach = QRectF(element.box).adjusted(-HairlineWidth, -HairlineWidth, HairlineWidth, HairlineWidth);
+        const QRectF reach =
+            QRectF(element.box).adjusted(-HairlineWidth, -HairlineWidth, HairlineWidth, HairlineWidth);
         if (clip.isNull() || clip.intersects(reach)) visible.push_back(&element);
     }
 
@@ -50,8 +64,7 @@ void paintPage(QPainter &painter, const Page &page) {
         element->picture.paint(painter, element->box);
     for (const Element *element : visible) {
         if (!element->Border.any() && !element->isRule) continue;
-        painter.setPen(QPen(element->isRule ? element->ForeColor : QColor(Qt::black), HairlineWidth,
-                            Qt::SolidLine, Qt::SquareCap));
+        painter.setPen(hairline(painter, element->isRule ? element->ForeColor : QColor(Qt::black)));
         paintBorder(painter, *element);
     }
     painter.setRenderHint(QPainter::TextAntialiasing);

@@ -45,7 +45,7 @@ void Paginator::run() {
             continue;
         }
         const int available = m_bottom - m_top - heightOfHeadings(band);
-        const int wanted = wished[i] <= available ? wished[i]
+        const int wanted = wished[i] <= available   ? wished[i]
                            : needed[i] <= available ? needed[i]
                                                     : firstPiece(band);
         if (m_y + wanted > m_bottom && !m_isFresh) continueOnNewPage(band);

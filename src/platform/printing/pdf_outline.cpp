@@ -21,8 +21,9 @@ QByteArray reference(int object) {
 }
 
 QByteArray captured(const QByteArray &text, const char *pattern) {
-    const auto match = QRegularExpression(QLatin1String(pattern), QRegularExpression::DotMatchesEverythingOption)
-                           .match(QString::fromLatin1(text));
+    const auto match =
+        QRegularExpression(QLatin1String(pattern), QRegularExpression::DotMatchesEverythingOption)
+            .match(QString::fromLatin1(text));
     if (!match.hasMatch()) throw RuntimeError(321);
     return match.captured(1).toLatin1();
 }
@@ -104,7 +105,8 @@ void addOutline(Objects &objects, const WrittenPdf &pdf, const Document &documen
     const std::vector<OutlineItem> items = outlineTree(document.headings, topItems);
     // One document's sections are shown at once; of several documents in one file, only their titles.
     const bool isOpen = topItems.size() == 1;
-    const std::size_t shown = topItems.size() + (isOpen ? items[std::size_t(topItems[0])].children.size() : 0);
+    const std::size_t shown =
+        topItems.size() + (isOpen ? items[std::size_t(topItems[0])].children.size() : 0);
     objects[outline] = "/Type /Outlines\n" + childEntries(topItems, firstItem, int(shown));
     for (std::size_t i = 0; i < items.size(); ++i) {
         const Heading &heading = document.headings[i];

@@ -5,8 +5,8 @@
 
 namespace Printing {
 
-/// Text in embedded fonts, pictures as vectors where they are made of them, title and author, an outline of the
-/// headings. Two runs differ in the date only. Raises what writeOutputFile() raises.
+/// Text in embedded fonts, pictures as vectors where they are made of them, title and author, an outline of
+/// the headings. Two runs differ in the date only. Raises what writeOutputFile() raises.
 void savePdf(const Document &document, const QString &path);
 
 } // namespace Printing

@@ -144,8 +144,8 @@ std::vector<Row> rowsOf(const std::vector<Element> &elements) {
         if (element.pictureSize.isEmpty() || (element.picture.isNull() && element.alternativeText.isEmpty()))
             continue;
         if (joinPictureToText(rows, element)) continue;
-        const auto below = std::find_if(
-            rows.begin(), rows.end(), [&element](const Row &row) { return row.top() > element.box.top(); });
+        const auto below = std::find_if(rows.begin(), rows.end(),
+                                        [&element](const Row &row) { return row.top() > element.box.top(); });
         rows.insert(below, Row{{element}});
     }
     return rows;

@@ -41,8 +41,9 @@ QByteArray pictureGroup(const Picture &picture, const QSize &size) {
     QBuffer buffer(&png);
     const QImage image = picture.toImage(size, PictureDotsPerInch);
     image.save(&buffer, "PNG");
-    return "{\\pict\\pngblip\\picw" + number(image.width()) + "\\pich" + number(image.height()) + "\\picwgoal" +
-           number(size.width()) + "\\pichgoal" + number(size.height()) + '\n' + png.toHex() + '}';
+    return "{\\pict\\pngblip\\picw" + number(image.width()) + "\\pich" + number(image.height()) +
+           "\\picwgoal" + number(size.width()) + "\\pichgoal" + number(size.height()) + '\n' + png.toHex() +
+           '}';
 }
 
 class RtfWriter {
@@ -55,7 +56,7 @@ public:
 private:
     void writeBlock(const Block &block);
     void writeTable(const Block &block);
-    void writeRow(const Row &row, int height);
+    void writeRow(const Row &row, int left, int height);
     void writeParagraph(const Element &element, int spaceBefore);
     void writePageRows(const char *destination, const std::vector<Row> &rows);
     QByteArray content(const Element &element);
@@ -99,7 +100,8 @@ QByteArray RtfWriter::head() const {
     for (int level = 1; level <= HeadingLevels; ++level)
         head += "{\\s" + number(level) + "\\outlinelevel" + number(level - 1) + "\\sbasedon0 heading " +
                 number(level) + ";}";
-    head += "}\n{\\info{\\title " + escaped(m_document.title) + "}{\\author " + escaped(m_document.author) + "}}\n";
+    head += "}\n{\\info{\\title " + escaped(m_document.title) + "}{\\author " + escaped(m_document.author) +
+            "}}\n";
     return head + "\\paperw" + number(page.PaperWidth) + "\\paperh" + number(page.PaperHeight) + "\\margl" +
            number(page.LeftMargin) + "\\margr" + number(page.RightMargin) + "\\margt" +
            number(page.TopMargin + m_document.pageHeaderHeight) + "\\margb" +
@@ -159,7 +161,8 @@ void RtfWriter::writeParagraph(const Element &element, int spaceBefore) {
     const int right = std::max(0, m_document.printWidth() - element.box.left() - element.box.width());
     m_body += "\\pard\\plain";
     if (m_pageBreak) m_body += "\\pagebb";
-    if (element.HeadingLevel > 0) m_body += "\\s" + number(std::min(element.HeadingLevel, HeadingLevels)) + "\\keepn";
+    if (element.HeadingLevel > 0)
+        m_body += "\\s" + number(std::min(element.HeadingLevel, HeadingLevels)) + "\\keepn";
     if (element.HeadingLevel > 0)
         m_body += "\\outlinelevel" + number(std::min(element.HeadingLevel, HeadingLevels) - 1);
     m_body += alignment(element);
@@ -176,11 +179,14 @@ void RtfWriter::writeTable(const Block &block) {
         m_body += QByteArray("\\pard\\plain") + (m_pageBreak ? "\\pagebb" : "") + "\\keepn\\fs2\\sl-" +
                   number(std::max(gap, 20)) + "\\slmult0\\par\n";
     m_pageBreak = false;
+    int left = block.rows.front().left();
+    for (const Row &row : block.rows)
+        left = std::min(left, row.left());
     for (std::size_t i = 0; i < block.rows.size(); ++i) {
         const Row &row = block.rows[i];
         // Without a frame, the distance to the next row may be the row's.
         const bool takesGap = block.kind == Block::Kind::Aligned && i + 1 < block.rows.size();
-        writeRow(row, (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top());
+        writeRow(row, left, (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top());
     }
     m_afterTable = true;
 }
@@ -202,14 +208,14 @@ QByteArray RtfWriter::filler(int right) const {
     return "\\clvertalt\\cellx" + number(right);
 }
 
-// A gap between two elements becomes an empty cell.
-void RtfWriter::writeRow(const Row &row, int height) {
+// All rows of a table begin at its left edge; a gap before an element becomes an empty cell.
+void RtfWriter::writeRow(const Row &row, int left, int height) {
     // The distance to the frame is the paragraphs' own: readers disagree on where a padded cell begins.
-    m_body += "\\trowd\\trgaph0\\trleft" + number(row.left()) + "\\trkeep";
+    m_body += "\\trowd\\trgaph0\\trleft" + number(left) + "\\trkeep";
     if (row.isHeading) m_body += "\\trhdr";
     m_body += "\\trrh" + number(height);
     QByteArray contents;
-    int right = row.left();
+    int right = left;
     for (const Element &cell : row.cells) {
         if (cell.box.left() - right > TouchingDistance) {
             m_body += filler(cell.box.left());
@@ -218,7 +224,8 @@ void RtfWriter::writeRow(const Row &row, int height) {
         m_body += cellDefinition(cell);
         contents += QByteArray("\\pard\\plain\\intbl") + alignment(cell);
         if (cell.Border.any()) contents += "\\li" + number(CellPadding) + "\\ri" + number(CellPadding);
-        if (cell.HeadingLevel > 0) contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";
+        if (cell.HeadingLevel > 0)
+            contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";
         contents += content(cell) + "\\cell\n";
         right = cell.box.left() + cell.box.width();
     }
@@ -245,7 +252,8 @@ void RtfWriter::writePageRows(const char *destination, const std::vector<Row> &r
             if (cell.Alignment != 0 || left > 0) texts += "\\tab ";
             texts += content(cell);
         }
-        m_body += "\\pard\\plain\\sb" + number(std::max(0, row.top() - bottom)) + stops + ' ' + texts + "\\par\n";
+        m_body +=
+            "\\pard\\plain\\sb" + number(std::max(0, row.top() - bottom)) + stops + ' ' + texts + "\\par\n";
         bottom = row.bottom();
     }
     m_body += "}\n";

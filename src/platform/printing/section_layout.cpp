@@ -121,8 +121,9 @@ SectionLayout layOutSection(const Section &section, const QHash<const Control *,
     for (const auto &control : section.Controls)
         if (control->Visible)
             layout.controls.push_back(measure(*control, subReportHeights.value(control.get())));
-    std::stable_sort(layout.controls.begin(), layout.controls.end(),
-                     [](const PlacedControl &a, const PlacedControl &b) { return a.control->Top < b.control->Top; });
+    std::stable_sort(
+        layout.controls.begin(), layout.controls.end(),
+        [](const PlacedControl &a, const PlacedControl &b) { return a.control->Top < b.control->Top; });
     equaliseRows(layout.controls);
     pushDown(layout.controls);
     layout.height = instanceHeight(section, layout.controls);

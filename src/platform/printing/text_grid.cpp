@@ -144,9 +144,8 @@ void Grid::findWidths() {
             const int missing = longestLine(cell.text) - widthOf(spanned(cell));
             const auto last = std::size_t(cell.column + cell.span - 1);
             if (missing > 0) m_widths[last] += missing;
-            m_leastWidths[last] =
-                std::max(m_leastWidths[last], m_widths[last] + longestWord(cell.text) -
-                                                  widthOf(spanned(cell)));
+            m_leastWidths[last] = std::max(m_leastWidths[last],
+                                           m_widths[last] + longestWord(cell.text) - widthOf(spanned(cell)));
         }
 }
 
@@ -156,7 +155,8 @@ void Grid::shrink() {
     while (surplus-- > 0) {
         std::size_t widest = m_widths.size();
         for (std::size_t i = 0; i < m_widths.size(); ++i)
-            if (m_widths[i] > m_leastWidths[i] && (widest == m_widths.size() || m_widths[i] > m_widths[widest]))
+            if (m_widths[i] > m_leastWidths[i] &&
+                (widest == m_widths.size() || m_widths[i] > m_widths[widest]))
                 widest = i;
         if (widest == m_widths.size()) return;
         --m_widths[widest];
@@ -223,7 +223,8 @@ QStringList Grid::rowLines(const GridRow &row, std::span<const int> columns) con
             result += QString();
         for (int i = 0; i < result.size(); ++i) {
             QString &line = result[i];
-            line = touchesLast ? line.leftJustified(left - int(m_gap.size())) + m_gap : line.leftJustified(left);
+            line =
+                touchesLast ? line.leftJustified(left - int(m_gap.size())) + m_gap : line.leftJustified(left);
             line += aligned(texts.value(i), width, cell.alignment);
         }
         reached = first + count;

@@ -43,7 +43,8 @@ QFont twipsFont(const TextFont &font) {
 }
 
 void breakLines(Element &element, bool wordWrap) {
-    element.text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    element.text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
     element.lines.clear();
     if (element.text.isEmpty()) return;
 

@@ -32,8 +32,7 @@ QStringList blockLines(const Block &block) {
 // Lines drawn directly under each other stay so.
 bool isNextLine(const Block &above, const Block &below) {
     if (above.kind != Block::Kind::Paragraph || below.kind != Block::Kind::Paragraph) return false;
-    const bool isHeading =
-        above.rows[0].cells[0].HeadingLevel > 0 || below.rows[0].cells[0].HeadingLevel > 0;
+    const bool isHeading = above.rows[0].cells[0].HeadingLevel > 0 || below.rows[0].cells[0].HeadingLevel > 0;
     return !isHeading && below.rows[0].top() - above.rows[0].bottom() <= NextLineGap;
 }
 

@@ -26,6 +26,7 @@ namespace {
 
 constexpr double ZoomStep = 1.25;
 constexpr int FoundMargin = 12;
+constexpr QSize ToolIconSize(18, 18);
 constexpr int ZoomPercents[] = {25, 50, 75, 100, 125, 150, 200, 300, 400};
 // Shows an A4 page at about 100 %.
 constexpr QSize WishedSize(920, 1000);
@@ -43,6 +44,7 @@ Viewer::Viewer(const Document &document, QWidget *parent)
     m_view->setObjectName(QStringLiteral("pages"));
     m_view->setAccessibleName(tr("Pages"));
     m_toolBar->setObjectName(QStringLiteral("toolbar"));
+    m_toolBar->setIconSize(ToolIconSize);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -74,8 +76,8 @@ void Viewer::openAtReadableSize() {
     m_view->setFit(PageView::Fit::Width);
 }
 
-QAction *Viewer::addTool(const QString &name, const QString &text, const QString &tip, const QKeySequence &key,
-                         std::function<void()> act) {
+QAction *Viewer::addTool(const QString &name, const QString &text, const QString &tip,
+                         const QKeySequence &key, std::function<void()> act) {
     auto *action = new QAction(text, this);
     action->setObjectName(name);
     action->setShortcut(key);
@@ -103,8 +105,8 @@ void Viewer::createFileTools() {
 
 void Viewer::createPageTools() {
     const int pages = int(m_document.pages.size());
-    const auto addPageTool = [this](const char *name, const QString &tip, Qt::Key key, QStyle::StandardPixmap icon,
-                                    std::function<void()> act) {
+    const auto addPageTool = [this](const char *name, const QString &tip, Qt::Key key,
+                                    QStyle::StandardPixmap icon, std::function<void()> act) {
         addTool(QLatin1String(name), tip, tip, QKeySequence(Qt::CTRL | key), std::move(act))
             ->setIcon(style()->standardIcon(icon));
     };
@@ -121,6 +123,7 @@ void Viewer::createPageTools() {
     m_page->setButtonSymbols(QAbstractSpinBox::NoButtons);
     m_page->setAlignment(Qt::AlignCenter);
     m_page->setKeyboardTracking(false);
+    m_page->installEventFilter(this);
     connect(m_page, &QSpinBox::valueChanged, this, [this](int page) { m_view->goToPage(page - 1); });
     addKey(QKeySequence(Qt::CTRL | Qt::Key_G), [this] {
         m_page->setFocus();
@@ -173,9 +176,9 @@ void Viewer::createFindTools() {
     addTool(QStringLiteral("findPrevious"), tr("Previous match"), tr("Previous match"),
             QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { goToMatch(-1); })
         ->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-    addTool(QStringLiteral("findNext"), tr("Next match"), tr("Next match"), QKeySequence(Qt::Key_F3),
-            [this] { goToMatch(1); })
-        ->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    addTool(QStringLiteral("findNext"), tr("Next match"), tr("Next match"), QKeySequence(Qt::Key_F3), [this] {
+        goToMatch(1);
+    })->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
     m_found = new QLabel(m_toolBar);
     m_found->setObjectName(QStringLiteral("found"));
     m_found->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Not found")) + FoundMargin);
@@ -251,6 +254,11 @@ bool Viewer::eventFilter(QObject *watched, QEvent *event) {
         }
         if (isEnter && watched == m_find) {
             goToMatch(key->modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
+            return true;
+        }
+        if (isEnter && watched == m_page) {
+            m_page->interpretText();
+            m_view->setFocus();
             return true;
         }
         if (isEnter) {

@@ -20,10 +20,10 @@ namespace Printing {
 
 class PageView;
 
-/// Show it with exec(). Keys: Ctrl+P print, Ctrl+S save, Ctrl+F find, F3 and Shift+F3 next and previous match,
-/// Ctrl+Plus, Ctrl+Minus and Ctrl+0 zoom, Ctrl+1 fit width, Ctrl+2 fit page, Ctrl+Page Down and Up page by
-/// page, Ctrl+Home and Ctrl+End first and last page, Ctrl+G page number, arrows, Page Up/Down, Home and End
-/// scroll, Escape leaves the find box and then the window.
+/// Show it with exec(). Keys: Ctrl+P print, Ctrl+S save, Ctrl+F find, F3 and Shift+F3 next and previous
+/// match, Ctrl+Plus, Ctrl+Minus and Ctrl+0 zoom, Ctrl+1 fit width, Ctrl+2 fit page, Ctrl+Page Down and Up
+/// page by page, Ctrl+Home and Ctrl+End first and last page, Ctrl+G page number, arrows, Page Up/Down, Home
+/// and End scroll, Escape leaves the find box and then the window.
 class Viewer : public QDialog {
     Q_OBJECT
 public:
@@ -36,7 +36,7 @@ public:
     void setPrinterChooser(std::function<bool(QPrinter &)> chooser);
 
 Q_SIGNALS:
-    /// After the window has been minimised.
+    /// When the window has been minimised; more than once where the window system confirms it late.
     void minimised();
 
 protected:

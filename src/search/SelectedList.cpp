@@ -1,0 +1,202 @@
+#include "search/SelectedList.h"
+
+#include "data/Material.h"
+#include "data/modDBase.h"
+#include "data/queries.h"
+#include "material/frmMaterial2.h"
+#include "platform/dao/recordset.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/drop_target.h"
+#include "platform/forms/msg_box.h"
+#include "platform/forms/toolbar.h"
+#include "platform/runtime/conversions.h"
+#include "search/frmSearch.h"
+#include "shell/main_toolbar.h"
+#include "shell/mdiVelmar.h"
+
+namespace {
+
+constexpr int MostMaterials = 10;
+constexpr int MostForBatch = 30;
+
+int matID(const DataControl &source) {
+    return CInt(source.recordset()->Fields("matID"));
+}
+
+} // namespace
+
+SelectedList::SelectedList(frmSearch &window)
+    : m_search(window) {
+    connect(m_search.cmdSelectMat, &QPushButton::clicked, this, &SelectedList::add);
+    connect(m_search.cmdSelections(0), &QPushButton::clicked, this, &SelectedList::show);
+    connect(m_search.cmdSelections(1), &QPushButton::clicked, this, &SelectedList::clear);
+    connect(m_search.cmdSelections(2), &QPushButton::clicked, this, &SelectedList::remove);
+    connect(m_search.tdbSelected, &TDBGrid::DblClick, this, &SelectedList::show);
+    connect(m_search.tdbSelected, &TDBGrid::HeadClick, this,
+            [this](int column) { refresh(m_search.mSearchFields[static_cast<std::size_t>(column)].field); });
+
+    const auto adds = [this](const QString &source) {
+        if (source == m_search.tdbMaterials->objectName()) add();
+    };
+    const auto removes = [this](const QString &source) {
+        if (source == m_search.tdbSelected->objectName()) remove();
+    };
+    connect(new DropTarget(m_search.imgFolder), &DropTarget::Dropped, this, adds);
+    connect(m_search.tdbSelected, &TDBGrid::Dropped, this, adds);
+    connect(new DropTarget(m_search.imgBin), &DropTarget::Dropped, this, removes);
+    connect(m_search.tdbMaterials, &TDBGrid::Dropped, this, removes);
+}
+
+bool SelectedList::batchOffered() const {
+    return !m_search.cmdBatch(0)->isHidden();
+}
+
+void SelectedList::addFromList() {
+    if (m_search.dtaMaterials->recordset()->RecordCount() > 0) add();
+}
+
+bool SelectedList::mayAdd() const {
+    const Materials &selected = mdiVelmar::instance().colMaterials;
+    if ((selected.Count() == MostMaterials && !batchOffered()) || selected.Count() == MostForBatch) {
+        // the title says 10 for 30 too, and it stays so
+        MsgBox("You have already selected the Maximum Number of Materials", vbInformation,
+               "10 Materials already selected!");
+        return false;
+    }
+    const int id = matID(*m_search.dtaMaterials);
+    for (const auto &material : selected) {
+        if (material->ID() != id) continue;
+        MsgBox("This Material is already selected!", vbOKOnly, "Duplicate Choice");
+        return false;
+    }
+    return true;
+}
+
+void SelectedList::add() {
+    if (m_search.cmbChooseStd->currentText() != QLatin1String("EN"))
+        MsgBox("You have entered an ASME/SS-standard. \r\n"
+               "The material properties given by VELMAR PED are valid for EN-standards only.",
+               vbExclamation, "ASME/SS-standard");
+    const auto found = m_search.dtaMaterials->recordset();
+    if (found->Eof() || found->Bof() || !mayAdd()) return;
+
+    auto material = std::make_shared<Material>();
+    material->SetProperties(*found, *m_search.dtaStandard->recordset());
+    Materials &selected = mdiVelmar::instance().colMaterials;
+    selected.Add(material);
+    refresh({});
+    if ((selected.Count() == MostMaterials && !batchOffered()) || selected.Count() == MostForBatch)
+        m_search.cmdSelectMat->setEnabled(false);
+}
+
+void SelectedList::remove() {
+    Materials &selected = mdiVelmar::instance().colMaterials;
+    if (selected.Count() == 0) return;
+    const int id = matID(*m_search.dtaSelected);
+    for (const auto &material : selected) {
+        if (material->ID() != id) continue;
+        selected.Remove(Materials::keyOf(*material));
+        m_search.cmdSelectMat->setEnabled(true);
+        refresh({});
+        fillBin();
+        return;
+    }
+}
+
+void SelectedList::clear() {
+    Materials &selected = mdiVelmar::instance().colMaterials;
+    if (selected.Count() == 0) return;
+    while (selected.Count() > 0)
+        selected.Remove(1);
+    m_search.dtaSelected->setRecordSource(Queries::sqlNoMaterialCleared());
+    m_search.dtaSelected->Refresh();
+    fillBin();
+    showCount();
+    m_search.cmdSelectMat->setEnabled(true);
+}
+
+/// Nothing empties it again while the window lives: it is meant so.
+void SelectedList::fillBin() {
+    if (m_search.imgBin->Picture() != m_search.imgFullBin->Picture())
+        m_search.imgBin->setPicture(m_search.imgFullBin->Picture());
+}
+
+void SelectedList::refresh(const QString &order) {
+    QVector<int> ids;
+    for (const auto &material : mdiVelmar::instance().colMaterials)
+        ids << material->ID();
+    if (ids.isEmpty())
+        m_search.dtaSelected->setRecordSource(Queries::sqlNoMaterial());
+    else
+        m_search.dtaSelected->setRecordSource(Queries::sqlSelectedMaterials(ids) + " order by " +
+                                              (order.isEmpty() ? "standard, name" : order));
+    m_search.dtaSelected->Refresh();
+    showCount();
+}
+
+void SelectedList::showCount() {
+    const int count = mdiVelmar::instance().colMaterials.Count();
+    m_search.lblSelCount->setText(count < 1    ? "No Materials Currently Selected"
+                                  : count == 1 ? "1 Material Currently Selected"
+                                               : QString::number(count) + " Materials Currently Selected");
+}
+
+void SelectedList::show() {
+    if (mdiVelmar::instance().colMaterials.Count() == 0) return;
+    open();
+    mdiVelmar::instance().ShowStatus(1);
+}
+
+void SelectedList::open() {
+    mdiVelmar &main = mdiVelmar::instance();
+    main.setMousePointer(vbHourglass);
+    openWindows();
+    showMaterialCommands();
+    arrangeWindows();
+    main.strTableButton = "Ref";
+    if (!main.bBatchPrint)
+        for (const auto &material : main.colMaterials)
+            material->MyForm()->Show();
+    main.iMaterialsOpen = static_cast<qint16>(main.colMaterials.Count());
+    main.UpdateMenusAndButtons("View", 0);
+    m_search.Hide();
+    main.setMousePointer(vbDefault);
+}
+
+/// They stay invisible until they are in their places.
+void SelectedList::openWindows() {
+    for (const auto &material : mdiVelmar::instance().colMaterials) {
+        auto *window = NewForm<frmMaterial2>();
+        window->setCaption("Name: " + material->Name() + " Number: " + material->Number() +
+                           " Standard: " + material->Standard());
+        window->SetMaterial(material);
+    }
+}
+
+void SelectedList::showMaterialCommands() {
+    mdiVelmar &main = mdiVelmar::instance();
+    main.menu.mnuFileElem(1).setEnabled(true);
+    main.menu.mnuFileElem(3).setEnabled(true);
+    main.menu.mnuFileElem(0).setCaption("Select &Material(s)");
+    // a bar that the user has hidden stays hidden
+    main.Toolbar1->setVisible(!main.menu.mnuSettingsToolElem(0).Enabled());
+    MainToolbar::showMaterialButtons(*main.Toolbar1, true);
+    main.menu.mnuView->setVisible(true);
+    main.menu.mnuSettingsElem(0).setEnabled(true);
+    main.menu.mnuFileElem(2).setEnabled(true);
+    main.menu.mnuFileElem(3).setEnabled(true);
+}
+
+void SelectedList::arrangeWindows() {
+    mdiVelmar &main = mdiVelmar::instance();
+    const bool tile = main.iArrangement != 0;
+    main.Toolbar1->Buttons("Cascade").setValue(tile ? tbrUnpressed : tbrPressed);
+    main.Toolbar1->Buttons("Horizontal").setValue(tile ? tbrPressed : tbrUnpressed);
+    if (tile)
+        main.DoTileHorizontal();
+    else
+        main.DoCascade();
+    main.menu.mnuWindowElem(1).setChecked(tile);
+    main.menu.mnuWindowElem(0).setChecked(!tile);
+    main.strArrangement = tile ? "Horizontal" : "Cascade";
+}

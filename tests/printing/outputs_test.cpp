@@ -1,0 +1,253 @@
+// What the files hold, read back with other eyes.
+#include <csignal>
+#include <sys/resource.h>
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QPrinter>
+#include <QTemporaryDir>
+
+#include "platform/printing/output_file.h"
+#include "platform/printing/pdf_output.h"
+#include "platform/printing/print_output.h"
+#include "platform/printing/rtf_output.h"
+#include "platform/printing/text_grid.h"
+#include "platform/printing/text_output.h"
+#include "platform/runtime/runtime_error.h"
+#include "tests/printing/test_report.h"
+#include "tests/support/pdf_tool.h"
+#include "tests/support/rtf_reader.h"
+
+using namespace Printing;
+
+namespace {
+
+constexpr int RowCount = 70;
+
+QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class Outputs : public ::testing::Test {
+protected:
+    Outputs()
+        : report(stationReport(RowCount))
+        , document(report->Run()) {}
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    QStringList cellsOf(int row) const {
+        const QString remark = row % 7 != 0
+                                   ? QString()
+                                   : QStringLiteral("gale ≥ 8 Bft, the reading was taken twice and the mean "
+                                                    "of both is what stands here");
+        return {QString::number(row), QStringLiteral("%1,%2").arg(row % 30).arg(row % 10),
+                QStringLiteral("(%1 x 10²)").arg(990 + row % 40), remark};
+    }
+
+    QTemporaryDir folder;
+    std::shared_ptr<TestReport> report;
+    const Document &document;
+};
+
+TEST_F(Outputs, PdfHoldsEveryRowInReadingOrder) {
+    savePdf(document, path("a.pdf"));
+    const QString text = pdfTool("pdftotext", {"-layout", path("a.pdf"), "-"});
+    qsizetype at = 0;
+    for (int row = 1; row <= RowCount; ++row) {
+        const QStringList cells = cellsOf(row);
+        const QRegularExpression line(
+            QStringLiteral("^ +%1 +%2 +%3").arg(cells[0], cells[1], QRegularExpression::escape(cells[2])),
+            QRegularExpression::MultilineOption);
+        at = text.indexOf(line, at);
+        ASSERT_GE(at, 0) << "row " << row;
+    }
+    EXPECT_EQ(text.count("[N / m²]"), 2);
+    EXPECT_EQ(text.count(QRegularExpression("Page +[123] of +3")), 3);
+    // Without the layout the stream's own order counts: a cell's two lines stay together.
+    EXPECT_EQ(pdfTool("pdftotext", {"-raw", path("a.pdf"), "-"}).count("taken twice\nand the mean"),
+              RowCount / 7);
+}
+
+TEST_F(Outputs, PdfTellsTitleAuthorAndOutlineAndIsMadeOfVectors) {
+    savePdf(document, path("a.pdf"));
+    const QString info = pdfTool("pdfinfo", {path("a.pdf")});
+    EXPECT_TRUE(info.startsWith(QStringLiteral("Title:           Yearbook 7 – Großer Sand\n"
+                                               "Author:          Weather office (north)\n")))
+        << info.toStdString();
+    EXPECT_TRUE(info.contains("Pages:           3\n"));
+    EXPECT_TRUE(info.endsWith("PDF version:     1.4\n")) << "a complaint: " << info.toStdString();
+    EXPECT_TRUE(info.contains("(A4)"));
+    const QString pages = pdfTool("pdftohtml", {"-xml", "-stdout", "-i", path("a.pdf")});
+    EXPECT_EQ(pages.mid(pages.indexOf("<outline>")).remove('\n'),
+              QStringLiteral("<outline><item page=\"1\">Wetterstation Großer Sand</item>"
+                             "<outline><item page=\"1\">Readings</item>"
+                             "<outline><item page=\"1\">Readings of the year</item></outline>"
+                             "<item page=\"3\">Course of the year</item></outline></outline></pdf2xml>"));
+    for (const QString &font : pdfTool("pdffonts", {path("a.pdf")}).split('\n', Qt::SkipEmptyParts).mid(2))
+        EXPECT_TRUE(font.contains(QRegularExpression("LiberationSans.*Identity-H +yes")))
+            << font.toStdString();
+    EXPECT_EQ(pdfTool("pdfimages", {"-list", path("a.pdf")}).count('\n'), 2) << "a picture became pixels";
+}
+
+TEST_F(Outputs, TwoPdfFilesDifferInTheDateOnly) {
+    savePdf(document, path("a.pdf"));
+    const auto again = stationReport(RowCount);
+    savePdf(again->Run(), path("b.pdf"));
+    const auto dateless = [](QByteArray pdf) {
+        for (qsizetype at = pdf.indexOf("/CreationDate"); at >= 0; at = pdf.indexOf("/CreationDate", at + 1))
+            pdf.replace(at, pdf.indexOf(')', at) - at, "/");
+        return pdf;
+    };
+    EXPECT_EQ(dateless(contentOf(path("a.pdf"))), dateless(contentOf(path("b.pdf"))));
+}
+
+TEST_F(Outputs, RtfHoldsTheTablesAsTables) {
+    saveRtf(document, path("a.rtf"));
+    const RtfContent rtf = RtfReader::read(contentOf(path("a.rtf")));
+    EXPECT_TRUE(rtf.isSound);
+    EXPECT_EQ(rtf.title, document.title);
+    ASSERT_EQ(rtf.rows.size(), std::size_t(4 + 1 + RowCount));
+    EXPECT_EQ(rtf.rows[1].join('|'), QStringLiteral("Height||≤ 12 m"));
+    EXPECT_EQ(rtf.rows[3].last(), "Harbour office {north} \\ pilot station");
+    EXPECT_EQ(rtf.rows[4], QStringList({"Day", QStringLiteral("Temperature\n\n[°C]"),
+                                        QStringLiteral("Pressure\n\n[N / m²]"), "Remark"}));
+    EXPECT_EQ(rtf.headingRows, 1);
+    for (int row = 1; row <= RowCount; ++row) {
+        EXPECT_EQ(rtf.rows[std::size_t(4 + row)].join('|').toStdString(),
+                  cellsOf(row).join('|').toStdString());
+        EXPECT_EQ(rtf.edges[std::size_t(4 + row)], std::vector<int>({1155, 2655, 4455, 8455}));
+    }
+    EXPECT_EQ(rtf.headings, QStringList({QStringLiteral("Wetterstation Großer Sand"), "Readings",
+                                         "Readings of the year", "Course of the year"}));
+    EXPECT_TRUE(
+        rtf.paragraphs.contains("All temperatures in the shade.\nPressures are not reduced to sea level."));
+    EXPECT_EQ(rtf.pictures, 2);
+    EXPECT_TRUE(rtf.pageText.contains("<PAGE>"));
+    EXPECT_TRUE(rtf.pageText.contains("<NUMPAGES>"));
+    EXPECT_TRUE(rtf.pageText.contains(QStringLiteral("Weather office – yearbook")));
+}
+
+TEST_F(Outputs, TextHoldsTheTableInColumns) {
+    saveText(document, path("a.txt"));
+    const QStringList lines = QString::fromUtf8(contentOf(path("a.txt"))).split('\n');
+    int row = 0;
+    for (const QString &line : lines) {
+        EXPECT_LE(line.size(), LineCharacters);
+        const bool isReading = line.count('|') == 3 && line.left(4).contains(QRegularExpression("\\d"));
+        if (!isReading) continue;
+        QStringList cells = line.split('|');
+        EXPECT_EQ(line.indexOf('|'), 4) << line.toStdString();
+        for (QString &cell : cells)
+            cell = cell.trimmed();
+        EXPECT_EQ(cells.join('|').toStdString(), cellsOf(++row).join('|').toStdString());
+    }
+    EXPECT_EQ(row, RowCount);
+    EXPECT_TRUE(lines.contains(QStringLiteral("Keeper       Harbour office {north} \\ pilot station")));
+}
+
+Block tableOf(const std::vector<QStringList> &rows, const std::vector<int> &widths) {
+    Block block{Block::Kind::Table, {}};
+    for (const QStringList &texts : rows) {
+        Row row;
+        int left = 0;
+        for (int i = 0; i < texts.size(); ++i) {
+            Element cell;
+            cell.box = QRect(left, int(block.rows.size()) * 283, widths[std::size_t(i)], 283);
+            cell.text = texts[i];
+            left += widths[std::size_t(i)];
+            row.cells.push_back(cell);
+        }
+        row.isHeading = block.rows.empty();
+        block.rows.push_back(row);
+    }
+    return block;
+}
+
+TEST(TextGrid, SpanningCellsKeepTheColumnsBelowThemInLine) {
+    Block block = tableOf({{"a", "b", "c"}, {"1", "22", "333"}}, {1000, 1000, 1000});
+    block.rows[0].cells.erase(block.rows[0].cells.begin() + 1);
+    block.rows[0].cells[0].box.setWidth(2000);
+    block.rows[0].cells[0].text = "wide heading";
+    block.rows[1].cells[2].Alignment = 1;
+    EXPECT_EQ(gridLines(block),
+              QStringList({"wide heading | c", "--+----------+----", "1 | 22       | 333"}));
+}
+
+TEST(TextGrid, ATableTooWideForTheLineGoesOnBelowWithItsFirstColumn) {
+    QStringList words;
+    for (int i = 0; i < 12; ++i)
+        words += QString(16, QLatin1Char('a' + char(i)));
+    const QStringList lines = gridLines(tableOf({words, words}, std::vector<int>(12, 1155)));
+    QString all;
+    for (const QString &line : lines) {
+        EXPECT_LE(line.size(), LineCharacters);
+        all += line;
+    }
+    for (const QString &word : words)
+        EXPECT_EQ(all.count(word), word == words[0] ? 4 : 2);
+}
+
+TEST(TextGrid, RunningTextIsBrokenAtWordsAndALongWordKeptWhole) {
+    const QString text = QStringList(60, "word").join(' ');
+    for (const QString &line : gridLines(tableOf({{"n", text}, {"1", "x"}}, {1155, 8000})))
+        EXPECT_LE(line.size(), LineCharacters);
+    const QString longWord(200, 'x');
+    EXPECT_EQ(wrapText("a " + longWord + " b", 10), QStringList({"a", longWord, "b"}));
+}
+
+class OutputFile : public ::testing::TestWithParam<std::pair<const char *, int>> {};
+
+TEST_P(OutputFile, RaisesItsNumberAndLeavesNothing) {
+    QTemporaryDir folder;
+    QDir(folder.path()).mkdir("folder");
+    const QString name = QString::fromLatin1(GetParam().first);
+    const QString path = name.startsWith('/') ? name : folder.filePath(name);
+    const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    try {
+        writeOutputFile(path, "content");
+        FAIL();
+    } catch (const RuntimeError &error) {
+        EXPECT_EQ(error.number(), GetParam().second) << error.description().toStdString();
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Paths, OutputFile,
+                         ::testing::Values(std::pair{"missing/a.pdf", 76}, std::pair{"A/B.pdf", 76},
+                                           std::pair{"folder", 75}, std::pair{"/sys/a.pdf", 70}));
+
+TEST(OutputFile, AFullDiskLeavesWhatWasThere) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("a.txt");
+    writeOutputFile(path, "before");
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1000, old.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    int number = 0;
+    try {
+        writeOutputFile(path, QByteArray(100000, 'x'));
+    } catch (const RuntimeError &error) {
+        number = error.number();
+    }
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, oldHandler);
+    EXPECT_EQ(number, 61);
+    EXPECT_EQ(contentOf(path), "before");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(Outputs, ThePrinterGetsThePagesAskedFor) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path("printed.pdf"));
+    printer.setFromTo(2, 3);
+    printDocument(document, printer);
+    EXPECT_TRUE(pdfTool("pdfinfo", {path("printed.pdf")}).contains("Pages:           2\n"));
+    EXPECT_TRUE(pdfTool("pdftotext", {path("printed.pdf"), "-"}).contains("Course of the year"));
+}
+
+} // namespace
