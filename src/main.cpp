@@ -15,7 +15,7 @@ namespace {
 
 /// What is kept when a run-time error ends the program.
 void endProgram() {
-    modDBase::CloseDBase();
+    if (modDBase::dbMain()) modDBase::CloseDBase();
     if (auto *window = LoadedInstance<mdiVelmar>()) window->WriteSettings();
 }
 
