@@ -30,5 +30,8 @@ int main(int argc, char **argv) {
     startProgram(tour);
     searchAndSelect(tour);
     readMaterials(tour);
+    showTablesAndGraphs(tour);
+    designValues(tour);
+    printAndSave(tour);
     return 0;
 }

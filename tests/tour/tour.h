@@ -54,3 +54,6 @@ private:
 void startProgram(Tour &tour);
 void searchAndSelect(Tour &tour);
 void readMaterials(Tour &tour);
+void showTablesAndGraphs(Tour &tour);
+void designValues(Tour &tour);
+void printAndSave(Tour &tour);
