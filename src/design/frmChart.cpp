@@ -72,9 +72,7 @@ void frmChart::Form_Load() {
     setCaption(material.Caption());
     strCurrentTable = material.property("strCurrentTable").toString();
 
-    QWidget::setTabOrder(cmdGraph(2), cmdGraph(0));
-    QWidget::setTabOrder(cmdGraph(0), cmdGraph(1));
-    cmdGraph(2)->setFocus();
+    cmdGraph(2)->setFocus(); // the way back is the first in the tab order
 }
 
 /// Into a file the graph goes as a PDF, whatever the button's tip says.

@@ -51,6 +51,12 @@ QString smallScreenMessage() {
            "Change the 'Desktop Area' to 800 x 600 (Pixels) or greater." + LineEnd;
 }
 
+/// Room for the search window and for two rows of material windows, where the screen has it. In pixels.
+QSize firstSize() {
+    return QSize(1240, 840).boundedTo(QSize(Screen::Width() / Screen::TwipsPerPixelX(),
+                                            Screen::Height() / Screen::TwipsPerPixelY()));
+}
+
 template <class Array>
 auto &element(Array &array, int index) {
     if (index < 0 || index >= static_cast<int>(array.size())) throw RuntimeError(9);
@@ -75,7 +81,7 @@ mdiVelmar::~mdiVelmar() = default;
 
 void mdiVelmar::buildControls() {
     setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
-    resize(1024, 768);
+    setGeometry(QRect(QPoint(), firstSize()));
     Toolbar1 = new Toolbar("Toolbar1", this);
     addToolBar(Toolbar1);
     MainToolbar::addButtons(*Toolbar1);

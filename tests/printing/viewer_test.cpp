@@ -68,10 +68,18 @@ TEST_F(ViewerTest, GoesPageByPageWithTheKeys) {
     EXPECT_EQ(view.currentPage(), 2);
     EXPECT_TRUE(viewer.isVisible());
     EXPECT_EQ(page->text(), "3 of 3");
-    view.setFocus();
+    EXPECT_TRUE(view.hasFocus());
     press(Qt::Key_Home);
     press(Qt::Key_Down);
     EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->singleStep());
+}
+
+TEST_F(ViewerTest, GoesPageByPageWhereAllPagesAreInView) {
+    view.setZoom(0.1);
+    for (const int page : {1, 2, 2, 1, 0}) {
+        press(page < view.currentPage() ? Qt::Key_PageUp : Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_EQ(view.currentPage(), page);
+    }
 }
 
 TEST_F(ViewerTest, ZoomsAndFits) {
@@ -125,6 +133,8 @@ TEST(DocumentSearch, AMatchOverTwoLinesHasAnAreaOnEach) {
     ASSERT_EQ(areas.size(), 2u);
     EXPECT_GT(areas[0].left(), areas[1].right());
     EXPECT_EQ(areas[0].bottom(), areas[1].top());
+    for (const TextMatch &blank : findText(document, " "))
+        EXPECT_FALSE(matchAreas(document, blank).empty());
     // "Pressures" stands behind a line end of its text.
     EXPECT_EQ(findText(document, "shade. Pressures").size(), 1u);
 }

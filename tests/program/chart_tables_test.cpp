@@ -3,33 +3,11 @@
 
 #include "design/chart_tables.h"
 #include "design/design_headings.h"
-#include "platform/dao/recordset.h"
-#include "platform/dao/recordset_rows.h"
 #include "tests/support/error_of.h"
+#include "tests/support/given_rows.h"
 #include "tests/support/pinned_settings.h"
 
 namespace {
-
-class GivenRows : public RecordsetRows {
-public:
-    GivenRows(const QStringList &names, QVector<QVector<QVariant>> rows)
-        : m_rows(std::move(rows)) {
-        for (const QString &name : names)
-            m_fields.append({name, FieldType::Text, 255});
-    }
-    const FieldDefinitions &fields() const override { return m_fields; }
-    int count() const override { return static_cast<int>(m_rows.size()); }
-    QVariant value(int row, int column) const override { return m_rows[row][column]; }
-    int find(const QString &, int, int) const override { return -1; }
-
-private:
-    FieldDefinitions m_fields;
-    QVector<QVector<QVariant>> m_rows;
-};
-
-Recordset recordset(const QStringList &names, const QVector<QVector<QVariant>> &rows) {
-    return Recordset(std::make_shared<GivenRows>(names, rows));
-}
 
 // "20;235|100;-" : the cells of a row parted by semicolons, Null as "~".
 QString written(const XArrayDB &cells) {
@@ -108,7 +86,7 @@ TEST(ChartTablesTest, TheDesignTableHasItsHeadings) {
 
 TEST(ChartTablesTest, RowsGiveWhatIsDrawnAndWhatStandsThere) {
     const PinnedSettings settings(u',', u'.');
-    Recordset single = recordset({"matID", "temp", "Rp02"}, {{1, 20.5f, "(235,5) a2"},
+    Recordset single = givenRows({"matID", "temp", "Rp02"}, {{1, 20.5f, "(235,5) a2"},
                                                              {1, 100, QVariant()},
                                                              {1, QVariant(), "200"},
                                                              {1, 200, "none"},
@@ -122,7 +100,7 @@ TEST(ChartTablesTest, RowsGiveWhatIsDrawnAndWhatStandsThere) {
 TEST(ChartTablesTest, SeveralSeriesGoInPairsByTheirFieldsNames) {
     const PinnedSettings settings(u'.', u',');
     const QVector<ChartTables::Series> bands{{"16", "a"}, {"40", "b"}, {"100", "c"}};
-    Recordset pivot = recordset({"temp", "ordering", "100", "16", "40"},
+    Recordset pivot = givenRows({"temp", "ordering", "100", "16", "40"},
                                 {{50, 1, QVariant(), "227", "219,5"}, {100, 2, "198", "214", QVariant()}});
     pivot.MoveLast();
     const auto arrays = ChartTables::temperatureArrays(pivot, bands, true);
@@ -135,11 +113,11 @@ TEST(ChartTablesTest, SeveralSeriesGoInPairsByTheirFieldsNames) {
 TEST(ChartTablesTest, TwoColumnsAreDrawnOverEachOther) {
     const PinnedSettings settings(u',', u'.');
     const QStringList names{"val"};
-    Recordset both = recordset(names, {{"400"}, {"450"}, {"118 a)"}, {QVariant()}});
+    Recordset both = givenRows(names, {{"400"}, {"450"}, {"118 a)"}, {QVariant()}});
     EXPECT_EQ(written(ChartTables::columnPair(both, 2, false, false)).toStdString(), "400;118|450;");
     EXPECT_EQ(written(ChartTables::columnPair(both, 2, true, false)).toStdString(), "400;400|450;450");
     EXPECT_EQ(written(ChartTables::columnPair(both, 3, false, false)).toStdString(), "400;|450;|118;");
-    Recordset none = recordset(names, {});
+    Recordset none = givenRows(names, {});
     EXPECT_EQ(written(ChartTables::columnPair(none, 2, false, false)).toStdString(), ";|;");
 }
 

@@ -133,8 +133,8 @@ TEST(TemperatureBoxTest, ASelectionGoesWithEveryKey) {
         {"12,5(b", "12"}, // with its digit the comma goes too
         {"12,5<(d", "12"},
         {"2500,7(((9", "2509"},
-        {"25,^)7", "75,"},     // a comma behind the selection, and
-                              // another is still let in
+        {"25,^)7", "75,"},
+        // another is still let in
         {"25,^))7$,", "7,,"}, // the comma behind the selection is forgotten
     };
     for (const auto &item : cases) {

@@ -9,10 +9,19 @@
 
 #include "material/frmMaterial2.h"
 #include "shell/mdiVelmar.h"
-#include "tests/program/small_program.h"
 #include "tests/support/gui.h"
+#include "tests/support/program.h"
+#include "tests/support/small_database.h"
 
 namespace {
+
+/// Under a decimal comma unless told otherwise.
+class SmallProgram : public TestProgram {
+public:
+    explicit SmallProgram(const QStringList &inserts, char16_t decimalSign = u',', char16_t groupSign = u'.')
+        : TestProgram(smallDatabase(inserts), decimalSign, groupSign) {}
+    frmMaterial2 &open(int matID) { return TestProgram::open(material(matID)); }
+};
 
 const QString Rp02 = "Rp02 (matID, temp, thickness, ordering, Rp02) values ";
 const QString Rm = "Rm (matID, temp, thickness, ordering, Rm) values ";
@@ -248,6 +257,46 @@ TEST(DesignWindowTest, AFailureIsToldAndLeavesWhatWasWritten) {
         EXPECT_EQ(window.txtDesignTemp->text(), QString());
         EXPECT_EQ(values(window).toStdString(), item.values);
     }
+}
+
+TEST(DesignWindowTest, ATableWiderThanTheArrayFailsWhereItEnds) {
+    const QStringList allEmptyCreep = {
+        "Columns values (1, 'Temperature', 1), (2, 'A', 1)",
+        "CreepPropTable values (1, 1, 1, null, null, 0), (1, 2, 2, null, null, 0)",
+        "CreepProperties values (1, 1, 1, 1, '-'), (1, 1, 2, 2, '-'), (1, 2, 1, 1, '-'), (1, 2, 2, 2, null)",
+    };
+    const QStringList rows = {
+        Rp02 + "(1, 0, 16, 1, '202'), (1, 100, 16, 2, '200'), (1, 0, 40, 1, '192'), (1, 100, 40, 2, '190')",
+        "ModElast values (1, 0, 212), (1, 100, 200), (2, 0, 210), (2, 100, 200)",
+        "ThermExp values (2, 50, '12', '13')",
+    };
+    SmallProgram program(allEmptyCreep + rows);
+    // No creep column is kept, and the width is forgotten with them.
+    frmMaterial2 &creep = program.open(1);
+    creep.ShowTable("Design");
+    EXPECT_EQ(captions(creep).toStdString(), "Rp0,2 [MPa];( ) - 16mm|Creep Properties;|ModElast;[kN/mm]");
+    modal().answerMsgBox(1);
+    creep.txtDesignTemp->setText("50");
+    EXPECT_EQ(modal().lastAsked().text, QStringLiteral("Subscript out of range"));
+    EXPECT_EQ(values(creep), QStringLiteral("201,00||"));
+
+    // One row of thermal expansion makes room for one of its two columns.
+    frmMaterial2 &expansion = program.open(2);
+    expansion.ShowTable("Design");
+    modal().answerMsgBox(1);
+    expansion.txtDesignTemp->setText("50");
+    EXPECT_EQ(values(expansion), QStringLiteral("205,00|12"));
+}
+
+TEST(DesignWindowTest, ACreepTableOfEmptyColumnsHasNoValues) {
+    SmallProgram program({"Columns values (1, 'Temperature', 1)",
+                          "CreepPropTable values (1, 1, 1, null, null, 0)",
+                          "CreepProperties values (1, 1, 1, 1, '-'), (1, 2, 1, 1, '-')",
+                          "ModElast values (1, 0, 212), (1, 100, 200)"});
+    frmMaterial2 &window = program.open(1);
+    window.ShowTable("Design");
+    type(window, "5");
+    EXPECT_EQ(values(window), QStringLiteral("|211,40"));
 }
 
 } // namespace

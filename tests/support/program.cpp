@@ -16,12 +16,34 @@
 #include "shell/program_version.h"
 #include "tests/support/gui.h"
 
+namespace {
+
+TestProgram::Given givenDatabase(const std::function<void(const QString &)> &putDatabase,
+                                 char16_t decimalSign, char16_t groupSign) {
+    TestProgram::Given given;
+    given.putDatabase = putDatabase;
+    given.decimalSign = decimalSign;
+    given.groupSign = groupSign;
+    return given;
+}
+
+} // namespace
+
+void TestProgram::putSample(const QString &path) {
+    QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", path);
+}
+
+TestProgram::TestProgram(const std::function<void(const QString &)> &putDatabase, char16_t decimalSign,
+                         char16_t groupSign)
+    : TestProgram(givenDatabase(putDatabase, decimalSign, groupSign)) {}
+
 TestProgram::TestProgram(const Given &given)
-    : m_appDataBefore(qgetenv("APPDATA")) {
+    : m_settings(given.decimalSign, given.groupSign)
+    , m_appDataBefore(qgetenv("APPDATA")) {
     qputenv("APPDATA", m_appData.path().toUtf8());
     ProgramVersion::apply(m_folder.path());
     Screen::setSizeForTest(given.screen);
-    QFile::copy(SOURCE_FOLDER "/sample/Velmar_PED.mdb", m_folder.filePath("Velmar_PED.mdb"));
+    given.putDatabase(m_folder.filePath("Velmar_PED.mdb"));
     if (given.pmaIndex)
         QFile::copy(SOURCE_FOLDER "/sample/PMA_Index.mdb", m_folder.filePath("PMA_Index.mdb"));
     modFileHandler::SetupFileEnvironment();
@@ -31,8 +53,7 @@ TestProgram::TestProgram(const Given &given)
 }
 
 TestProgram::~TestProgram() {
-    exit();
-    modDBase::reset();
+    end();
     Screen::setSizeForTest({});
     if (m_appDataBefore.isNull())
         qunsetenv("APPDATA");
@@ -44,9 +65,16 @@ QString TestProgram::userFolder() const {
     return modFileHandler::GetUserFolder();
 }
 
-void TestProgram::exit() {
+void TestProgram::end() {
     if (auto *window = LoadedInstance<mdiVelmar>()) window->Unload();
     deleteUnloaded();
+    modDBase::reset();
+}
+
+void TestProgram::restart() {
+    end();
+    modFileHandler::SetupFileEnvironment();
+    mdiVelmar::instance();
 }
 
 std::shared_ptr<Material> TestProgram::material(int matID) const {

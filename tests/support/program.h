@@ -1,6 +1,7 @@
 // The program in a folder of its own, with its main window and a database.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QSize>
@@ -12,8 +13,8 @@
 class frmMaterial2;
 class Material;
 
-/// From its making to its end the main window is loaded over the sample database, with a decimal point and
-/// fixed dates, and no file of the person who runs the tests is read or written.
+/// From its making to its end the main window is loaded over a database, with fixed dates, and no file of the
+/// person who runs the tests is read or written.
 class TestProgram {
 public:
     /// What the program finds when it starts.
@@ -22,11 +23,19 @@ public:
         bool pmaIndex = true;
         /// The lines of Settings.vlp; without any there is no such file.
         QStringList settings;
+        /// Makes the database file.
+        std::function<void(const QString &path)> putDatabase = putSample;
+        char16_t decimalSign = u'.';
+        char16_t groupSign = u',';
     };
+
+    static void putSample(const QString &path);
 
     TestProgram()
         : TestProgram(Given()) {}
     explicit TestProgram(const Given &given);
+    explicit TestProgram(const std::function<void(const QString &path)> &putDatabase,
+                         char16_t decimalSign = u'.', char16_t groupSign = u',');
     ~TestProgram();
     TestProgram(const TestProgram &) = delete;
     TestProgram &operator=(const TestProgram &) = delete;
@@ -39,10 +48,12 @@ public:
     std::shared_ptr<Material> material(int matID) const;
     /// A window that shows the grade, visible.
     frmMaterial2 &open(const std::shared_ptr<Material> &material) const;
-    /// Ends the run, as the Exit command does; the destructor does it otherwise.
-    void exit();
+    /// Ends the run, as the Exit command does, and starts it again with the same files.
+    void restart();
 
 private:
+    static void end();
+
     PinnedSettings m_settings;
     QTemporaryDir m_folder;
     QTemporaryDir m_appData;

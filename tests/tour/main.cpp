@@ -3,9 +3,11 @@
 #include <cstdio>
 
 #include <QDir>
+#include <QIcon>
 
 #include "data/modDBase.h"
 #include "platform/forms/application.h"
+#include "platform/forms/screen.h"
 #include "platform/runtime/regional_settings.h"
 #include "shell/program_version.h"
 #include "tests/tour/tour.h"
@@ -20,6 +22,9 @@ int main(int argc, char **argv) {
     RegionalSettings settings;
     settings.shortDateFormat = "yyyy-MM-dd";
     RegionalSettings::setCurrent(settings);
+
+    Screen::setSizeForTest({1280, 1024});
+    Application::setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
 
     Tour tour(QString::fromLocal8Bit(argv[1]));
     startProgram(tour);

@@ -17,7 +17,9 @@ std::vector<TextMatch> findText(const Document &document, const QString &text) {
             searched.replace(QLatin1Char('\n'), QLatin1Char(' '));
             for (qsizetype at = searched.indexOf(text, 0, Qt::CaseInsensitive); at >= 0;
                  at = searched.indexOf(text, at + text.size(), Qt::CaseInsensitive))
-                matches.push_back({page, i, int(at), int(text.size())});
+                if (const TextMatch match{page, i, int(at), int(text.size())};
+                    !matchAreas(document, match).empty())
+                    matches.push_back(match);
         }
     }
     return matches;

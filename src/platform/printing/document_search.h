@@ -14,10 +14,12 @@ struct TextMatch {
     int length = 0;
 };
 
-/// In reading order; capitals don't count, a line end is a blank. Empty for an empty text.
+/// In reading order; capitals don't count, a line end is a blank. What is not to be seen is not found: a text
+/// behind an ellipsis, the blank at which a line was broken. Empty for an empty text.
 std::vector<TextMatch> findText(const Document &document, const QString &text);
 
-/// The match on its page, in twips: one rectangle for each line that it touches.
+/// The match on its page, in twips: one rectangle for each line that it touches, and at least
+/// one for what findText() found.
 std::vector<QRectF> matchAreas(const Document &document, const TextMatch &match);
 
 } // namespace Printing

@@ -97,15 +97,19 @@ void PageView::updateScrollBars() {
     horizontalScrollBar()->setRange(0, std::max(0, size.width() + 2 * PageDistance - view.width()));
 }
 
-int PageView::currentPage() const {
+int PageView::pageInView() const {
+    const int last = std::max(0, int(m_document.pages.size()) - 1);
+    const QScrollBar *scrollBar = verticalScrollBar();
+    if (scrollBar->value() > 0 && scrollBar->value() == scrollBar->maximum()) return last;
     const int pageStep = pageSize().height() + PageDistance;
-    const int middle = verticalScrollBar()->value() + viewport()->height() / 2;
-    return std::clamp(middle / pageStep, 0, std::max(0, int(m_document.pages.size()) - 1));
+    return std::min((scrollBar->value() + pageStep / 2) / pageStep, last);
 }
 
 void PageView::goToPage(int page) {
-    const int last = int(m_document.pages.size()) - 1;
-    verticalScrollBar()->setValue(std::clamp(page, 0, last) * (pageSize().height() + PageDistance));
+    page = std::clamp(page, 0, std::max(0, int(m_document.pages.size()) - 1));
+    verticalScrollBar()->setValue(page * (pageSize().height() + PageDistance));
+    // Where several pages are in view, the scroll bar can't reach each of them.
+    setCurrentPage(page);
 }
 
 void PageView::setMatches(std::vector<TextMatch> matches) {
@@ -119,16 +123,14 @@ void PageView::setCurrentMatch(int index) {
     viewport()->update();
     if (index < 0) return;
     const TextMatch &match = m_matches[std::size_t(index)];
-    const double scale = m_zoom / TwipsPerPixel;
-    for (const QRectF &area : matchAreas(m_document, match)) {
-        const QPointF place = pageRect(match.page).topLeft() + area.center() * scale;
-        if (viewport()->rect().contains(place.toPoint())) return;
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + int(place.x()) -
-                                        viewport()->width() / 2);
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + int(place.y()) -
-                                      viewport()->height() / 2);
-        return;
+    const QPointF middle = matchAreas(m_document, match).front().center() * (m_zoom / TwipsPerPixel);
+    const QPoint place = pageRect(match.page).topLeft() + middle.toPoint();
+    if (!viewport()->rect().contains(place)) {
+        const QPoint away = place - viewport()->rect().center();
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + away.x());
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + away.y());
     }
+    setCurrentPage(match.page);
 }
 
 const QImage &PageView::image(int page) {
@@ -164,10 +166,9 @@ void PageView::paintMatches(QPainter &painter, int page, const QRect &area) {
     }
 }
 
-void PageView::tellCurrentPage() {
-    const int page = currentPage();
-    if (page == m_toldPage) return;
-    m_toldPage = page;
+void PageView::setCurrentPage(int page) {
+    if (page == m_currentPage) return;
+    m_currentPage = page;
     Q_EMIT currentPageChanged(page);
 }
 
@@ -177,14 +178,14 @@ void PageView::resizeEvent(QResizeEvent *event) {
         updateScrollBars();
     else
         applyFit();
-    tellCurrentPage();
+    setCurrentPage(pageInView());
 }
 
 void PageView::scrollContentsBy(int dx, int dy) {
     Q_UNUSED(dx)
     Q_UNUSED(dy)
     viewport()->update();
-    tellCurrentPage();
+    setCurrentPage(pageInView());
 }
 
 void PageView::keyPressEvent(QKeyEvent *event) {

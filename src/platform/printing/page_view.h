@@ -24,8 +24,8 @@ public:
     /// Width and Page follow the view's size until a zoom is set.
     void setFit(Fit fit);
 
-    /// The page, from 0, that covers the middle of the view.
-    int currentPage() const;
+    /// From 0: the page gone to last or, after scrolling, the one that fills the upper part of the view.
+    int currentPage() const { return m_currentPage; }
     void goToPage(int page);
 
     void setMatches(std::vector<TextMatch> matches);
@@ -53,14 +53,15 @@ private:
     void applyZoom(double zoom, const QPoint &anchor);
     void applyFit();
     void updateScrollBars();
-    void tellCurrentPage();
+    int pageInView() const;
+    void setCurrentPage(int page);
     const QImage &image(int page);
     void paintMatches(QPainter &painter, int page, const QRect &area);
 
     const Document &m_document;
     double m_zoom = 1;
     Fit m_fit = Fit::Width;
-    int m_toldPage = 0;
+    int m_currentPage = 0;
     std::vector<TextMatch> m_matches;
     int m_currentMatch = -1;
     QCache<int, QImage> m_images; // cost in kilobytes

@@ -123,6 +123,7 @@ void Viewer::createPageTools() {
     m_page->setButtonSymbols(QAbstractSpinBox::NoButtons);
     m_page->setAlignment(Qt::AlignCenter);
     m_page->setKeyboardTracking(false);
+    m_page->installEventFilter(this);
     connect(m_page, &QSpinBox::valueChanged, this, [this](int page) { m_view->goToPage(page - 1); });
     addKey(QKeySequence(Qt::CTRL | Qt::Key_G), [this] {
         m_page->setFocus();
@@ -253,6 +254,11 @@ bool Viewer::eventFilter(QObject *watched, QEvent *event) {
         }
         if (isEnter && watched == m_find) {
             goToMatch(key->modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
+            return true;
+        }
+        if (isEnter && watched == m_page) {
+            m_page->interpretText();
+            m_view->setFocus();
             return true;
         }
         if (isEnter) {
