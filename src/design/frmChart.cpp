@@ -4,10 +4,14 @@
 #include <QToolButton>
 
 #include "data/Material.h"
+#include "design/chart_copy.h"
+#include "platform/forms/call_by_name.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/ms_chart.h"
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/twips.h"
+#include "reports/report_commands.h"
+#include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
 
 namespace {
@@ -37,6 +41,8 @@ frmChart::frmChart()
     addButton(1, "graph/print.svg", "Print Graph");
     addButton(2, "graph/return.svg", "Return To Material");
     setCancelButton(cmdGraph(2));
+    connect(cmdGraph(0), &QToolButton::clicked, this, &frmChart::save);
+    connect(cmdGraph(1), &QToolButton::clicked, this, &frmChart::print);
     connect(cmdGraph(2), &QToolButton::clicked, this, [this] { Unload(); });
 }
 
@@ -61,28 +67,29 @@ void frmChart::Form_Load() {
     const Form &material = *main.mCurrent->MyForm();
     auto *source = material.findChild<MSChart *>("MSChart1");
     if (source == nullptr) throw RuntimeError(438);
-    copyChart(*source);
+    copyChart(*source, *MSChart1);
+    MSChart1->setUniformAxis(source->UniformAxis());
     setCaption(material.Caption());
     strCurrentTable = material.property("strCurrentTable").toString();
 
     cmdGraph(2)->setFocus(); // the way back is the first in the tab order
 }
 
-/// The data before the columns: it gives every column its plain label.
-void frmChart::copyChart(MSChart &source) {
-    MSChart1->setChartType(source.chartType());
-    MSChart1->setChartData(source.ChartData());
-    MSChart1->setTitleText(source.TitleText());
-    for (int axis : {0, 1})
-        MSChart1->setAxisTitle(axis, source.AxisTitle(axis));
-    MSChart1->setUniformAxis(source.UniformAxis());
-    MSChart1->setShowLegend(source.ShowLegend());
-    MSChart1->setColumnCount(source.ColumnCount());
-    for (int column = 1; column <= source.ColumnCount(); ++column) {
-        source.setColumn(column);
-        MSChart1->setColumn(column);
-        MSChart1->setColumnLabel(source.ColumnLabel());
-    }
+/// Into a file the graph goes as a PDF, whatever the button's tip says.
+void frmChart::save() {
+    takeGraph();
+    ReportCommands::saveReport(ReportExport::Pdf, true);
+}
+
+void frmChart::print() {
+    takeGraph();
+    ReportCommands::previewReport(ShowOnly + StatusOfGraph);
+}
+
+/// The material's next report is its graph.
+void frmChart::takeGraph() {
+    constexpr int Graph = 1;
+    SetPropertyByName(*mdiVelmar::instance().mCurrent->MyForm(), "iReportType", Graph);
 }
 
 void frmChart::Form_Activate() {

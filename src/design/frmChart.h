@@ -33,5 +33,7 @@ protected:
 
 private:
     void addButton(int index, const QString &picture, const QString &toolTip);
-    void copyChart(MSChart &source);
+    void save();
+    void print();
+    void takeGraph();
 };

@@ -11,6 +11,9 @@
 #include "platform/dao/database.h"
 #include "platform/forms/default_instance.h"
 #include "platform/runtime/runtime_error.h"
+#include "reports/frmSave.h"
+#include "reports/report_commands.h"
+#include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
 #include "shell/modToolTips.h"
 
@@ -66,10 +69,35 @@ void frmMaterial2::connectControls() {
     connect(cboColumnList, &QComboBox::currentIndexChanged, this, [this] {
         if (m_chart.pickColumns()) m_chart.BuildColumnChart(*m_material, strCurrentTable);
     });
-    connect(cmdPrintSave(2), &QToolButton::clicked, this, [] { NewForm<frmChart>()->ShowModal(); });
+    for (const auto &[index, button] : cmdPrintSave)
+        connect(button, &QToolButton::clicked, this, [this, i = index] { printSave(i); });
     const QStringList keys{"Rp02", "Rp10", "Rm"};
     for (int i = 0; i < keys.size(); ++i)
         connect(optMechProp(i), &QRadioButton::clicked, this, [this, key = keys[i]] { ShowTable(key); });
+}
+
+void frmMaterial2::printSave(int index) {
+    constexpr int Enlarge = 2;
+    if (index == Enlarge) {
+        NewForm<frmChart>()->ShowModal();
+        return;
+    }
+    const bool designValues = index > Enlarge;
+    const QString temperature = txtDesignTemp->text();
+    if (designValues && (temperature.isEmpty() || temperature == QLatin1String("-"))) return;
+    iReportType = designValues ? 2 : 1;
+    switch (index) {
+    case 0:
+        ReportCommands::saveReport(ReportExport::Pdf);
+        break;
+    case 4:
+        DefaultInstance<frmSave>().setCaption("Save Design Values...");
+        DefaultInstance<frmSave>().ShowModal();
+        break;
+    default:
+        ReportCommands::previewReport();
+        break;
+    }
 }
 
 void frmMaterial2::Form_Load() {

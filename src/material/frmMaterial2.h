@@ -60,6 +60,8 @@ protected:
 
 private:
     void connectControls();
+    /// 0 save, 1 print and 2 enlarge the graph; 3 print and 4 save the design values.
+    void printSave(int index);
     void HideAll();
     void showReferences();
     void showComposition(Material &material);

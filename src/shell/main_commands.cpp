@@ -1,6 +1,9 @@
 #include "shell/main_commands.h"
 
+#include <QPushButton>
+
 #include "data/Material.h"
+#include "data/table_vocabulary.h"
 #include "platform/forms/call_by_name.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/default_instance.h"
@@ -9,6 +12,9 @@
 #include "platform/forms/send_keys.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
+#include "platform/runtime/runtime_error.h"
+#include "reports/actRepBatchPrint.h"
+#include "reports/frmSelData.h"
 #include "search/frmSearch.h"
 #include "shell/frmAbout.h"
 #include "shell/HTMLHelp.h"
@@ -55,12 +61,50 @@ void MainCommands::file(int index) {
     case 0:
         showSelectedOrSearch();
         break;
+    case 2:
+        selectData(true);
+        break;
+    case 3:
+        selectData(false);
+        break;
     case 7:
         leaveProgram();
         break;
     default:
         break;
     }
+}
+
+/// The caption of the save says "As Text File" whatever format is chosen then; it is meant to.
+void MainCommands::selectData(bool save) {
+    const auto &current = m_window.mCurrent;
+    if (!current || !current->MyForm()) throw RuntimeError(91);
+    SetPropertyByName(*current->MyForm(), "iReportType", 0);
+    auto &dialog = DefaultInstance<frmSelData>();
+    dialog.setCaption(save ? "Save " + current->Name() + " As Text File - " + dialog.Caption()
+                           : "Print " + current->Name() + " - " + dialog.Caption());
+    dialog.cmdSavePrint->setText(save ? "Save..." : "Print/Preview...");
+    m_window.ShowStatus(save ? 103 : 102);
+    dialog.setIcon(m_window.ImageList1.ListImages(save ? 4 : 5));
+    dialog.setTop(1500);
+    dialog.framSave->setVisible(save);
+    dialog.ShowModal(&m_window);
+}
+
+/// The references are not forced into the reports: their mark stays as it was.
+void MainCommands::batchPrint() {
+    m_window.setMousePointer(vbHourglass);
+    for (const auto &material : m_window.colMaterials) {
+        if (!material->MyForm()) throw RuntimeError(91);
+        FormBase &form = *material->MyForm();
+        CallByName(form, "CheckTablesForRecords");
+        SetPropertyByName(*form.asWidget(), "iReportType", 0);
+        for (int i = 1; i < TableVocabulary::TableCount; ++i)
+            if (material->TableHasData(m_window.GetShortTableName(i))) material->setPrintTable(i, true);
+        form.Unload();
+    }
+    m_window.setMousePointer(vbDefault);
+    actRepBatchPrint::instance().ShowModal(&m_window);
 }
 
 void MainCommands::showSelectedOrSearch() {

@@ -26,10 +26,14 @@ public:
     void toolbarButton(ToolbarButton &button);
     void toolbarMenu(const ButtonMenu &entry);
 
+    /// Prints all selected materials, whose windows are open, in one document.
+    void batchPrint();
+
     void updateMenusAndButtons(const QString &group, int index);
 
 private:
     void showSelectedOrSearch();
+    void selectData(bool save);
     void backToSearch();
     void leaveProgram();
     void showTable(const QString &group, int index, const QString &key, int status);

@@ -269,6 +269,10 @@ void mdiVelmar::SelectMaterials() {
     m_commands->file(0);
 }
 
+void mdiVelmar::DoBatchPrint() {
+    m_commands->batchPrint();
+}
+
 void mdiVelmar::SetCurrentMaterial(const std::shared_ptr<Material> &mat) {
     mCurrent = mat;
     if (!bToolTips || !mat) return;

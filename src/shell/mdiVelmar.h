@@ -86,6 +86,8 @@ public:
     void UpdateMenusAndButtons(const QString &group, int index);
     void ShowAbout();
     void SelectMaterials();
+    /// Prints all selected materials, whose windows are open, in one document.
+    void DoBatchPrint();
     /// Pixels.
     qint16 CheckScreenResolution() const;
 

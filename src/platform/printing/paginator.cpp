@@ -59,7 +59,9 @@ std::vector<int> Paginator::freeHeights(bool withKeepTogether) const {
     std::vector<int> heights(m_bands.size());
     for (std::size_t i = m_bands.size(); i-- > 0;) {
         const Band &band = *m_bands[i];
-        const bool keeps = band.keepWithNext && i + 1 < m_bands.size() && !m_bands[i + 1]->pageBreakBefore;
+        // A distance belongs to what is above it and to what is below it.
+        const bool wishes = band.keepWithNext || band.elements.empty();
+        const bool keeps = wishes && i + 1 < m_bands.size() && !m_bands[i + 1]->pageBreakBefore;
         heights[i] = keeps ? band.height + heights[i + 1] : firstPiece(band);
         if (withKeepTogether) heights[i] = std::max(heights[i], band.keepHeight);
     }
@@ -118,9 +120,11 @@ void Paginator::placeElements(const Band &band, bool repeated) {
     const int page = int(m_document.pages.size()) - 1;
     if (!repeated) {
         for (const Element &element : band.elements)
-            if (element.HeadingLevel > 0 && !element.text.isEmpty())
+            if (element.HeadingLevel > 0 && !element.text.isEmpty()) {
+                const QString &text = element.OutlineText.isEmpty() ? element.text : element.OutlineText;
                 m_document.headings.push_back(
-                    {element.text.simplified(), element.HeadingLevel, page, m_y + element.box.top()});
+                    {text.simplified(), element.HeadingLevel, page, m_y + element.box.top()});
+            }
         m_isFresh = false;
     }
     putOnPage(band.elements, m_y);

@@ -44,6 +44,8 @@ struct TextStyle {
     BorderStyles Border;
     /// 1 and up marks the text as a heading of that level, for the outline and the outputs; 0 is plain text.
     int HeadingLevel = 0;
+    /// What the outline says of a heading; where it is empty, the heading's text.
+    QString OutlineText;
 };
 
 } // namespace Printing

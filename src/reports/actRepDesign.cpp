@@ -1,0 +1,295 @@
+#include "reports/actRepDesign.h"
+
+#include <cmath>
+
+#include "data/Material.h"
+#include "design/CreepColumns.h"
+#include "material/frmMaterial2.h"
+#include "platform/runtime/runtime_error.h"
+#include "reports/report_layout.h"
+#include "shell/mdiVelmar.h"
+
+using namespace Printing;
+using namespace ReportLayout;
+
+namespace {
+
+constexpr int LabelWidth = 1250;
+constexpr int SmallestColumn = 1155;
+constexpr int CaptionHeight = 851;
+constexpr int ValueHeight = 283;
+constexpr int FieldTop = 10;
+constexpr int BlockGap = 70;
+constexpr int DummyOffset = 50;
+constexpr double FontSize = 8;
+/// Six tables: the layout knows no more rows, and a seventh table stays hidden, as it is meant.
+constexpr int LastLaidOutRow = 18;
+
+/// A table has a row of captions, a row of values and an empty one.
+enum class RowKind { Caption, Value, Spacer };
+
+RowKind kindOf(int row) {
+    return static_cast<RowKind>((row - 1) % 3);
+}
+
+QString blockCellName(int row, int column) {
+    return QStringLiteral("txtFieldExt%1_%2").arg(row).arg(column);
+}
+
+void frameRight(TextControl &control) {
+    control.Border.TopStyle = control.Border.RightStyle = control.Border.BottomStyle = 1;
+}
+
+} // namespace
+
+actRepDesign::actRepDesign() {
+    AddSection(SectionType::PageHeader, "PageHeader");
+    Section &header = AddSection(SectionType::GroupHeader, "ghDesignTemp");
+    header.RepeatOnNewPage = true;
+    header.Height = 720;
+    addLabel(header, "lblDesignTemp", "Temperature", 0, 0, LabelWidth, TitleHeight);
+    addField(header, "txtDesignTemp", LabelWidth + 60, 0, 3000, TitleHeight).Font.Bold = true;
+    addLabel(header, "lblTable", "Table", 0, 390, LabelWidth, TitleHeight).Alignment = 2;
+
+    AddSection(SectionType::GroupHeader, "ghExtended");
+    Section &detail = AddSection(SectionType::Detail, "Detail");
+    Field &first = addField(detail, "txtField0", 0, FieldTop, LabelWidth, ValueHeight);
+    Field &second = addField(detail, "txtField1", LabelWidth, FieldTop, SmallestColumn, ValueHeight);
+    for (Field *field : {&first, &second}) {
+        asCell(*field);
+        field->Font.Size = FontSize;
+    }
+    second.Border.LeftStyle = 0;
+    addLabel(detail, "lblDummy", {}, 0, 0, 0, 0);
+
+    Section &block = AddSection(SectionType::GroupFooter, "gfExtended");
+    block.Visible = false;
+    block.KeepTogether = true;
+    Label &continued = addLabel(block, "lblContinued", "Continued...", 0, 150, PageWidth, TitleHeight);
+    asHeading(continued, 2);
+    continued.HeadingLevel = 0;
+    Section &key = AddSection(SectionType::GroupFooter, "gfDesignValuesKey");
+    addField(key, "txtKey", 0, 120, PageWidth, TitleHeight).Font.Size = 9;
+    AddSection(SectionType::PageFooter, "PageFooter");
+}
+
+Field &actRepDesign::templateField(const char *name) const {
+    return Sections("Detail").Controls.Item<Field>(QLatin1String(name));
+}
+
+void actRepDesign::DataInitialize() {
+    Sections("gfDesignValuesKey").Controls.Item<Field>("txtKey").Text =
+        "KEY\r\n\r\n'-' = Below Temperature Range of this table\r\n"
+        "'+' = Above Temperature Range of this table\r\n"
+        "'x' = No value given for this temperature";
+    const Material &material = *mdiVelmar::instance().mCurrent;
+    auto *window = static_cast<frmMaterial2 *>(material.MyForm());
+    if (!window) throw RuntimeError(91);
+    xDesign = window->xDesignDB;
+    iLastCol = xDesign->UpperBound(2);
+    Sections("ghDesignTemp").Controls.Item<Field>("txtDesignTemp").Text = window->txtDesignTemp->text() + " °C";
+    bCreep = material.TableHasData("CreepProp");
+    if (bCreep) {
+        aColSize = material.MechCreepColSize("CreepProp");
+        bEmptyCol = window->EmptyCreepCols();
+        templateField("txtField1").Width = qRound(columnSize(1));
+    }
+    bExtended = testWidth();
+    if (bExtended) {
+        markExtendedRows();
+        // without a row in it the block would be a lone heading
+        Sections("gfExtended").Visible = iFirstExtRow > 0;
+        addFirstBlockColumn();
+    }
+    m_lastField = &templateField("txtField1");
+    for (int column = 2; column <= iLastCol; ++column) {
+        if (column < iFirstExtCol || !bExtended)
+            addColumn(column);
+        else
+            addBlockColumn(column);
+    }
+    for (const char *number : {"0", "1"}) {
+        const QString name = QLatin1String("Field") + QLatin1String(number);
+        Fields.Add(name);
+        Sections("Detail").Controls.Item<Field>("txt" + name).DataField = name;
+    }
+}
+
+/// Of a creep column, never below the smallest; also for a column past the end.
+float actRepDesign::columnSize(int column) const {
+    return std::max(aColSize.value(column), static_cast<float>(SmallestColumn));
+}
+
+bool actRepDesign::testWidth() {
+    int width = bCreep ? 0 : templateField("txtField0").Width;
+    const int last = bCreep ? static_cast<int>(aColSize.size()) - 1 : iLastCol;
+    for (int column = bCreep ? 0 : 1; column <= last; ++column) {
+        if (bCreep && bEmptyCol.value(column)) continue;
+        width = bCreep ? static_cast<int>(std::lrint(static_cast<float>(width) + columnSize(column)))
+                       : width + SmallestColumn;
+        if (width > PageWidth) {
+            iFirstExtCol = column;
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The tables that have columns past the break.
+void actRepDesign::markExtendedRows() {
+    bExtRow.fill(false, lastRow() + 1);
+    // empty creep columns count in the width test's numbers and not in the table's
+    if (iFirstExtCol > iLastCol) return;
+    for (int row = 1; row <= lastRow(); row += 3) {
+        const QString cell = xDesign->Get(row, iFirstExtCol).toString();
+        if (cell.isEmpty() || cell == QLatin1String(" ")) continue;
+        for (int i = row; i < row + 3; ++i)
+            bExtRow[i] = true;
+        if (iFirstExtRow == 0) iFirstExtRow = row;
+    }
+}
+
+void actRepDesign::addColumn(int column) {
+    const QString name = "Field" + QString::number(column);
+    Field &field = addField(Sections("Detail"), "txt" + name, rightEdge(*m_lastField), FieldTop, SmallestColumn,
+                            ValueHeight);
+    field.VerticalAlignment = 1;
+    field.Alignment = 2;
+    frameRight(field);
+    field.DataField = name;
+    Fields.Add(name);
+    m_lastField = &field;
+}
+
+/// Repeats the tables' names beside the columns of the block.
+void actRepDesign::addFirstBlockColumn() {
+    Section &block = Sections("gfExtended");
+    const Field &label = templateField("txtField0");
+    int y = bottomEdge(block.Controls.Item("lblContinued")) + BlockGap;
+    for (int row = iFirstExtRow; row <= lastRow(); ++row) {
+        if (!isExtendedRow(row)) continue;
+        const RowKind kind = kindOf(row);
+        const int height = row > LastLaidOutRow || kind == RowKind::Spacer ? 0
+                           : kind == RowKind::Caption                      ? CaptionHeight
+                                                                           : ValueHeight;
+        Field &cell = addField(block, blockCellName(row, 0), label.Left, y, label.Width, height);
+        asCell(cell);
+        cell.VerticalAlignment = 0;
+        cell.Font = label.Font;
+        cell.Font.Bold = true;
+        cell.Visible = kind == RowKind::Caption && row <= LastLaidOutRow;
+        cell.DataField = cell.Name;
+        Fields.Add(cell.Name);
+        y += height + BlockGap;
+    }
+    block.Height = y;
+}
+
+/// The width of the block's next column. Flagged creep columns have none.
+int actRepDesign::nextBlockWidth() {
+    if (m_creepColumn < 0)
+        m_creepColumn = iFirstExtCol;
+    else
+        while (bEmptyCol.value(m_creepColumn))
+            ++m_creepColumn;
+    return bCreep ? qRound(columnSize(m_creepColumn++)) : SmallestColumn;
+}
+
+void actRepDesign::addBlockColumn(int column) {
+    Section &block = Sections("gfExtended");
+    const int previousColumn = column == iFirstExtCol ? 0 : column - 1;
+    const int width = nextBlockWidth();
+    const Control *above = nullptr;
+    for (int row = iFirstExtRow; row <= lastRow(); ++row) {
+        if (!isExtendedRow(row)) continue;
+        auto &cell = block.Controls.Add<Field>(blockCellName(row, column));
+        cell.DataField = cell.Name;
+        Fields.Add(cell.Name);
+        if (row > LastLaidOutRow) {
+            cell.Visible = false;
+            continue;
+        }
+        const auto &previous = block.Controls.Item<Field>(blockCellName(row, previousColumn));
+        placeBlockCell(cell, row, above, previous, width);
+        if (column == iFirstExtCol && kindOf(row) != RowKind::Spacer) cell.Border.LeftStyle = 1;
+        above = &cell;
+    }
+}
+
+void actRepDesign::placeBlockCell(Field &cell, int row, const Control *above, const Control &previous, int width) {
+    cell.Left = above ? above->Left : rightEdge(previous);
+    cell.Top = above ? bottomEdge(*above) + BlockGap : previous.Top;
+    cell.Width = width;
+    cell.Alignment = 2;
+    cell.Font.Size = static_cast<const Field &>(previous).Font.Size;
+    switch (kindOf(row)) {
+    case RowKind::Caption:
+        cell.Height = CaptionHeight;
+        frameRight(cell);
+        break;
+    case RowKind::Value:
+        cell.Height = ValueHeight;
+        cell.VerticalAlignment = 1;
+        cell.Font.Bold = true;
+        frameRight(cell);
+        break;
+    case RowKind::Spacer:
+        cell.Visible = false;
+        break;
+    }
+}
+
+/// The values of the second block stay in their fields until it is printed, after the last row.
+void actRepDesign::FetchData(bool &eof) {
+    eof = iRow > lastRow();
+    if (eof) return;
+    // a table without a value in the block's first column has no fields there
+    const auto putIntoBlock = [this](int column, const QVariant &cell) {
+        const QString name = blockCellName(iRow, column);
+        if (Fields.contains(name)) Fields(name) = cell;
+    };
+    for (int column = 0; column <= iLastCol; ++column) {
+        const QVariant cell = xDesign->Get(iRow, column);
+        if (bExtended && column >= iFirstExtCol) {
+            putIntoBlock(column, cell);
+            continue;
+        }
+        if (bExtended && column == 0) putIntoBlock(0, cell);
+        Fields("Field" + QString::number(column)) = cell;
+    }
+    ++iRow;
+}
+
+/// `iRow` is the row behind the one that is laid out.
+void actRepDesign::Format(Section &section) {
+    if (section.Name != QLatin1String("Detail")) return;
+    const int row = iRow - 1;
+    const double fontSize = templateField("txtField0").Font.Size;
+    Control &dummy = section.Controls.Item("lblDummy");
+    for (int column = 0; column <= iLastCol; ++column) {
+        if (bExtended && column >= iFirstExtCol) break;
+        auto &field = section.Controls.Item<Field>("txtField" + QString::number(column));
+        field.Font.Size = fontSize;
+        if (row <= LastLaidOutRow) {
+            field.Top = FieldTop;
+            switch (kindOf(row)) {
+            case RowKind::Caption:
+                field.Height = CaptionHeight;
+                field.Font.Bold = column == 0;
+                field.VerticalAlignment = 0;
+                field.Visible = true;
+                break;
+            case RowKind::Value:
+                field.Height = ValueHeight;
+                field.Font.Bold = true;
+                field.VerticalAlignment = 1;
+                break;
+            case RowKind::Spacer:
+                field.Height = 0;
+                field.Visible = false;
+                break;
+            }
+        }
+        dummy.Top = field.Height + DummyOffset;
+    }
+}

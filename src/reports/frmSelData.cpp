@@ -1,0 +1,123 @@
+#include "reports/frmSelData.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "data/Material.h"
+#include "platform/forms/call_by_name.h"
+#include "platform/runtime/runtime_error.h"
+#include "reports/report_commands.h"
+#include "shell/mdiVelmar.h"
+
+namespace {
+
+/// By table index.
+const char *const Captions[] = {"References",
+                                "Chemical Composition",
+                                "Mechanical Properties At Room Temperature",
+                                "Impact Energy",
+                                "Min Values For Rp0,2 At Elevated Temperature",
+                                "Min. Values For Rp1,0 At Elevated Temperature",
+                                "Min. Values For Rm At Elevated Temperature",
+                                "Modulus Of Elasticity",
+                                "Thermal Expansion",
+                                "Thermal Conductivity",
+                                "Specific Thermal Capacity",
+                                "Specific Electrical Resistivity",
+                                "Creep Properties",
+                                "Additional Information"};
+
+const QString SaveCaption = QStringLiteral("Save...");
+
+constexpr int FirstBoxTop = 570;
+constexpr int BoxDistance = 330;
+constexpr int RightPart = 5340;
+
+} // namespace
+
+frmSelData::frmSelData()
+    : Form("frmSelData")
+    , FormatChoice(this)
+    , lblSelData(named(new QLabel("Tables of the report:", this), "lblSelData"))
+    , cmdSavePrint(named(new QPushButton(this), "cmdSavePrint", "Save or print the report"))
+    , cmdCancel(named(new QPushButton("Cancel", this), "cmdCancel", "Cancel")) {
+    setCaption("Select Data...");
+    setSizable(false);
+    setMinMaxButtons(false, false);
+    setScaleSize(RightPart + 3240, 5400);
+    place(lblSelData, 240, 180, 4860, 300);
+    for (int i = 0; i < static_cast<int>(std::size(Captions)); ++i)
+        chkData.add(i, new QCheckBox(Captions[i], this), Captions[i])->setChecked(true);
+    moveTo(framSave, RightPart, 480);
+    place(cmdSavePrint, RightPart, 4230, 3000, 420);
+    place(cmdCancel, RightPart, 4770, 3000, 420);
+    setDefaultButton(cmdSavePrint);
+    setCancelButton(cmdCancel);
+    // the references are in every report
+    connect(chkData(0), &QCheckBox::clicked, this, [this] { chkData(0)->setChecked(true); });
+    connect(cmdSavePrint, &QPushButton::clicked, this, &frmSelData::savePrint);
+    connect(cmdCancel, &QPushButton::clicked, this, [this] {
+        mdiVelmar::instance().ShowStatus(100);
+        Unload();
+    });
+}
+
+void frmSelData::Form_Load() {
+    setLeft(5000);
+    setTop(3000);
+    m_material = mdiVelmar::instance().mCurrent;
+    if (!m_material || !m_material->MyForm()) throw RuntimeError(91);
+    checkTables();
+    placeBoxes();
+    setTabOrders();
+}
+
+/// The window goes through its tables, which the user need not watch.
+void frmSelData::checkTables() {
+    mdiVelmar &main = mdiVelmar::instance();
+    Form &window = *m_material->MyForm();
+    main.setMousePointer(vbHourglass);
+    window.Hide();
+    CallByName(static_cast<FormBase &>(window), "CheckTablesForRecords");
+    window.Show();
+    for (const auto &[index, box] : chkData) {
+        if (index == 0 || m_material->TableHasData(main.GetShortTableName(index))) continue;
+        box->setChecked(false);
+        box->hide();
+    }
+    main.setMousePointer(vbDefault);
+}
+
+void frmSelData::placeBoxes() {
+    int top = FirstBoxTop;
+    for (const auto &[index, box] : chkData) {
+        if (box->isHidden()) continue;
+        place(box, 240, top, 4980, 300);
+        top += BoxDistance;
+    }
+}
+
+void frmSelData::setTabOrders() {
+    QWidget *last = optFormat(0);
+    const auto follow = [&last](QWidget *next) {
+        setTabOrder(last, next);
+        last = next;
+    };
+    follow(optFormat(1));
+    follow(optFormat(2));
+    follow(cmdSavePrint);
+    for (const auto &[index, box] : chkData)
+        follow(box);
+    follow(cmdCancel);
+}
+
+void frmSelData::savePrint() {
+    for (const auto &[index, box] : chkData)
+        m_material->setPrintTable(index, box->isChecked());
+    if (cmdSavePrint->text() == SaveCaption)
+        ReportCommands::saveReport(chosen());
+    else
+        ReportCommands::previewReport();
+    Unload();
+}

@@ -1,0 +1,130 @@
+#include "reports/report_layout.h"
+
+#include <QFile>
+
+#include "data/Material.h"
+#include "shell/mdiVelmar.h"
+
+namespace ReportLayout {
+
+using namespace Printing;
+
+namespace {
+
+const QColor HeadingColour(0x1f, 0x3f, 0x66);
+const QColor CaptionBackColour(0xe6, 0xec, 0xf4);
+constexpr double TableFontSize = 9;
+constexpr double FooterFontSize = 8;
+constexpr int BatchTitleWidth = 9071;
+
+template <class ControlType>
+ControlType &add(Section &section, const QString &name, int left, int top, int width, int height) {
+    auto &control = section.Controls.Add<ControlType>(name);
+    control.Left = left;
+    control.Top = top;
+    control.Width = width;
+    control.Height = height;
+    return control;
+}
+
+} // namespace
+
+Label &addLabel(Section &section, const QString &name, const QString &text, int left, int top, int width,
+                int height) {
+    auto &label = add<Label>(section, name, left, top, width, height);
+    label.Text = text;
+    return label;
+}
+
+Field &addField(Section &section, const QString &name, int left, int top, int width, int height) {
+    return add<Field>(section, name, left, top, width, height);
+}
+
+Image &addImage(Section &section, const QString &name, const QString &picture, int left, int top, int width,
+                int height) {
+    auto &image = add<Image>(section, name, left, top, width, height);
+    QFile file(picture);
+    if (file.open(QIODevice::ReadOnly)) image.Content = Picture::fromSvg(file.readAll());
+    return image;
+}
+
+SubReport &addSubReport(Section &section, const QString &name, int top) {
+    return add<SubReport>(section, name, 0, top, PageWidth, 0);
+}
+
+Label &addTitle(Section &section, const QString &text) {
+    Label &title = addLabel(section, "lblTitle", text, 0, 0, PageWidth, TitleHeight);
+    asHeading(title, 2);
+    return title;
+}
+
+void addNotes(Section &section) {
+    Label &label = addLabel(section, "lblNotes", "Notes", 0, 90, PageWidth, 240);
+    label.Font.Bold = true;
+    label.Font.Size = TableFontSize;
+    addField(section, "txtNotes", 0, 330, PageWidth, 240).Font.Size = TableFontSize;
+}
+
+void addPageFooter(Section &section) {
+    section.Height = 540;
+    auto &rule = section.Controls.Add<Line>("linFooter");
+    rule.Width = PageWidth;
+    rule.Top = 90;
+    Field &page = addField(section, "txtPage", 8900, 135, 450, 200);
+    Field &total = addField(section, "txtPageTotal", 9700, 135, 500, 200);
+    TextControl *const texts[] = {&addLabel(section, "lblDocName", "Velmar 4.0", 0, 135, 7000, 200),
+                                  &addLabel(section, "lblPage", "Page", 8300, 135, 600, 200), &page,
+                                  &addLabel(section, "lblOf", "of", 9350, 135, 350, 200), &total};
+    for (TextControl *text : texts) {
+        text->Font.Size = FooterFontSize;
+        if (text != texts[0]) text->Alignment = 2;
+    }
+    page.Summary = PageValue::PageNumber;
+    total.Summary = PageValue::PageTotal;
+}
+
+void asFootnote(TextControl &control) {
+    control.Left = 0;
+    control.Top = 340;
+    control.Width = PageWidth;
+    control.Height = 200;
+    control.Font.Size = FooterFontSize;
+}
+
+void asHeading(TextControl &control, int level) {
+    control.HeadingLevel = mdiVelmar::instance().bBatchPrint ? level + 1 : level;
+    control.Font.Bold = true;
+    control.Font.Size = level == 1 ? 13 : 10;
+    control.ForeColor = HeadingColour;
+}
+
+void asCaption(TextControl &control) {
+    control.Alignment = 2;
+    control.BackStyle = 1;
+    control.BackColor = CaptionBackColour;
+    control.Border = BorderStyles::all();
+    control.Font.Size = TableFontSize;
+}
+
+void asCell(TextControl &control) {
+    control.Alignment = 2;
+    control.VerticalAlignment = 1;
+    control.Border = BorderStyles::all();
+    control.Font.Size = TableFontSize;
+}
+
+void nameMaterial(Label &title, const Material &material) {
+    if (!mdiVelmar::instance().bBatchPrint) return;
+    title.Width = BatchTitleWidth;
+    title.Text += "     " + material.Name() + '_' + material.Number();
+}
+
+int rightEdge(const Control &control) {
+    return control.Left + control.Width;
+}
+
+int bottomEdge(const Control &control) {
+    return control.Top + control.Height;
+}
+
+} // namespace ReportLayout

@@ -1,0 +1,1 @@
+"""What the scripts make_database and check_database share: the tables, the files, and the rules of the rows."""
