@@ -55,6 +55,9 @@ void MainCommands::file(int index) {
     case 0:
         showSelectedOrSearch();
         break;
+    case 5:
+        HTMLHelp::ShowHelpTopic(1, "General_Information.htm");
+        break;
     case 7:
         leaveProgram();
         break;
