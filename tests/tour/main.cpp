@@ -29,6 +29,11 @@ int main(int argc, char **argv) {
     Tour tour(QString::fromLocal8Bit(argv[1]));
     startProgram(tour);
     searchAndSelect(tour);
+    showPmaIndex(tour);
     readMaterials(tour);
+    readTables(tour);
+    showAbout(tour);
+    readHelp(tour);
+    useSmallScreens(tour);
     return 0;
 }

@@ -53,4 +53,9 @@ private:
 // The stations, in the order in which a person meets them.
 void startProgram(Tour &tour);
 void searchAndSelect(Tour &tour);
+void showPmaIndex(Tour &tour);
 void readMaterials(Tour &tour);
+void readTables(Tour &tour);
+void showAbout(Tour &tour);
+void readHelp(Tour &tour);
+void useSmallScreens(Tour &tour);
