@@ -25,6 +25,7 @@ int main(int argc, char **argv) {
     Application application(argc, argv);
     ProgramVersion::apply(Application::applicationDirPath());
     RegionalSettings::setCurrent(RegionalSettings::fromSystem());
+    Application::setDesktopFileName("velmar-ped");
     Application::setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     application.setEndHook(endProgram);
     Application::guarded([] { DefaultInstance<frmSplash>(); });

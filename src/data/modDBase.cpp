@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
 
 #include "data/passing_up.h"
 #include "data/path_file.h"
@@ -79,9 +78,9 @@ QString questionText(const RuntimeError &error, const QString &path, const QStri
 void writeErrorLog(const QStringList &lines) {
     QStringList log = lines;
     log.prepend(RegionalSettings::current().dateText(QDateTime::currentDateTime()));
-    const QString folder = App::current().path;
-    TextFile::writeLines(
-        QFileInfo(folder).isWritable() ? folder + '/' + LogName : modFileHandler::GetUserPath(LogName), log);
+    TextFile::writeLines(modFileHandler::CanWriteBesideProgram() ? App::current().path + '/' + LogName
+                                                                 : modFileHandler::GetUserPath(LogName),
+                         log);
 }
 
 void logError(const RuntimeError &error) {

@@ -22,7 +22,7 @@ struct ColumnDefinition {
 /// Column 6 stands for the product form's place among the criteria and shows nothing.
 const ColumnDefinition MaterialColumns[] = {
     {"EN Standard", "standard", 1500}, {"EN Name", "name", 1800},
-    {"EN Number", "numbr", 1200},      {"Description", "description", 2400},
+    {"EN Number", "numbr", 1200},      {"Description", "description", 2850},
     {"EN Group", "groups", 1050},      {"Revision Date", "revision_date", 1350},
     {"Product Form", "", 1500},        {"ASME Standard", "asmestandard", 1500},
     {"ASME Grade", "asmegrade", 1650}, {"SS", "ss", 1050},
@@ -60,19 +60,19 @@ SearchControls::SearchControls(QWidget &window) {
 void SearchControls::makeFrames(QWidget *window) {
     framStandDesc = named(new QFrame(window), "framStandDesc", "Select material(s)");
     const auto panel = [this](const QString &name, const QString &accessibleName) {
-        auto *frame = named(new QFrame(framStandDesc), name, accessibleName);
-        frame->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
-        return frame;
+        return named(new QFrame(framStandDesc), name, accessibleName);
     };
     framSide = panel("framSide", "Standards");
     framSearch = panel("framSearch", "Search Materials On...");
     framMatTable = named(new QGroupBox("Materials Table", framStandDesc), "framMatTable", "Materials Table");
     framSelTable =
         named(new QGroupBox("Selected Materials", framStandDesc), "framSelTable", "Selected Materials");
+    for (QGroupBox *frame : {framMatTable, framSelTable})
+        frame->setFlat(true); // the panels in it draw the lines
     QFrame *const behind[] = {framSide, framSearch};
     for (int i = 0; i < 6; ++i) {
         QWidget *frame = i < 2 ? static_cast<QWidget *>(behind[i]) : i < 4 ? framMatTable : framSelTable;
-        lblBack.add(i, new QLabel(frame))->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        lblBack.add(i, new QLabel(frame))->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     }
     framTabNav = named(new QGroupBox("Navigate", framMatTable), "framTabNav", "Navigate in Materials List");
     framSelTabNav =
@@ -202,9 +202,9 @@ void SearchControls::placeControls() {
     place(imgIcon, 1845, 825, 390, 390);
 
     place(framMatTable, 120, 1425, 14760, 5055);
-    place(lblListFrame, 180, 240, 1500, 225);
-    place(lblMaterialsCount, 12840, 240, 1260, 225);
-    place(lblMatCount, 14160, 240, 540, 225);
+    place(lblListFrame, 180, 255, 1500, 210);
+    place(lblMaterialsCount, 12600, 255, 1410, 210);
+    place(lblMatCount, 14070, 255, 630, 210);
     place(lblStdInfo, 1800, 270, 10800, 480);
     place(lblBack(2), 60, 480, 14640, 3855);
     place(tdbMaterials, 165, 615, 14430, 3615);
@@ -215,8 +215,9 @@ void SearchControls::placeControls() {
     place(imgFolder, 14070, 4425, 525, 525);
 
     place(framSelTable, 120, 6525, 14760, 3060);
-    place(lblSelectedFram, 180, 240, 1800, 225);
-    place(lblSelCount, 7800, 240, 2700, 225);
+    place(lblSelectedFram, 180, 255, 1800, 210);
+    place(lblSelCount, 7800, 255, 2700, 210);
+    lblSelCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     place(lblBack(4), 60, 480, 10560, 2520);
     place(tdbSelected, 165, 585, 10350, 2310);
     place(lblBack(5), 10680, 480, 4020, 2520);
@@ -232,7 +233,7 @@ void SearchControls::placeCriteria() {
         int index;
         int width; // twips, with its list button
     };
-    const Box boxes[] = {{0, 1620}, {6, 1620}, {1, 1740}, {2, 1380}, {3, 1680}, {4, 1380}, {5, 1680}};
+    const Box boxes[] = {{0, 1560}, {6, 1560}, {1, 1710}, {2, 1305}, {3, 1710}, {4, 1305}, {5, 1785}};
     constexpr int Gap = 60;
     constexpr int ListButton = 330;
     place(lblBack(1), 60, 345, 12120, 915);

@@ -21,9 +21,9 @@ QString programFolder() {
     return App::current().path + QLatin1Char('/');
 }
 
-/// Without "APPDATA" the program's folder serves; where that is read-only the desktop has a place of its own.
+/// Without "APPDATA" the program's folder serves; where that is not the user's, the desktop has a place for it.
 QString folderWithoutAppData() {
-    if (QFileInfo(App::current().path).isWritable()) return programFolder();
+    if (CanWriteBesideProgram()) return programFolder();
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + FolderOfTheUser;
 }
 
@@ -46,6 +46,11 @@ void SetupFileEnvironment() {
                    ": Error in SetupFileEnvironment(). Error Description: " + error.description(),
                vbCritical, "Error");
     }
+}
+
+bool CanWriteBesideProgram() {
+    const App &app = App::current();
+    return !app.isPathShared && QFileInfo(app.path).isWritable();
 }
 
 QString GetUserFolder() {

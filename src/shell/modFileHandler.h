@@ -9,6 +9,9 @@ namespace modFileHandler {
 /// serves, and a message box has said so.
 void SetupFileEnvironment();
 
+/// Never in an installation that serves all users, not even for one who could.
+bool CanWriteBesideProgram();
+
 /// With a closing separator.
 QString GetUserFolder();
 QString GetUserPath(const QString &name);

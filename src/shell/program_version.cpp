@@ -1,12 +1,18 @@
 #include "shell/program_version.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include "platform/runtime/app.h"
 
 namespace ProgramVersion {
 
-void apply(const QString &folder) {
+void apply(const QString &binaryFolder) {
     App &app = App::current();
-    app.path = folder;
+    const QString installed = QDir::cleanPath(binaryFolder + "/" + DATA_FROM_BINARY);
+    app.isPathShared = QFileInfo(installed).isDir();
+    app.path = app.isPathShared ? installed : binaryFolder;
+    app.helperPath = app.isPathShared ? QDir::cleanPath(binaryFolder + "/" + HELPERS_FROM_BINARY) : QString();
     app.exeName = "velmar-ped";
     app.title = "Velmar-PED";
     app.major = PROGRAM_VERSION_MAJOR;

@@ -42,6 +42,9 @@ BROKEN_CELLS = [
     ("UPDATE standard SET revision_date = '30.9.2017' WHERE stID = 1",
      ["standard: row 1, revision_date: '30.9.2017' is no date; 2017-09-30 is one"]),
     ("UPDATE standard SET otherElem = 'maybe' WHERE stID = 1", ["standard: row 1, otherElem: 'maybe' is no BOOLEAN"]),
+    ("UPDATE standard SET revision_date = '09/30/17'",
+     [f"standard: row {row}, revision_date: '09/30/17' is no date; 2017-09-30 is one" for row in range(1, 6)] +
+     ["standard: 6 more cells of revision_date have such a fault"]),
     ("UPDATE ProdForm SET prodFID = 1.5 WHERE rowid = 1", ["ProdForm: row 1, prodFID: 1.5 is no whole number"]),
     ("UPDATE Units SET unitTxt = x'00' WHERE rowid = 2", ["Units: row 2, unitTxt: bytes, where a value belongs"]),
     ("CREATE TABLE n (notID LONG, tableName TEXT, notTxt MEMO); INSERT INTO n SELECT * FROM TableNotes; "

@@ -35,7 +35,7 @@ def read_file(path):
     with open(path, "rb") as file:
         start = file.read(32)
     if start[4:19] in (b"Standard Jet DB", b"Standard ACE DB"):
-        raise Unreadable(f"{path}: this is an Access file; export its tables to texts and check their folder")
+        raise Unreadable(f"{path}: this is an Access file; export its tables to texts, with mdb-export for one, and check their folder")
     if not start.startswith(b"SQLite format 3\0"):
         raise Unreadable(f"{path}: this is no SQLite file")
     address = Path(path).resolve().as_uri() + "?mode=ro&immutable=1"

@@ -1,9 +1,12 @@
 """Whether every table and column is there and holds what the program can read."""
 
+from collections import Counter
+
 from .files import columns_of, quoted, table_names
 from .schema import FITTING_TYPES, FIXED_PLACES, MATERIALS, PMA_INDEX, TYPE_RANGES, schema_for, type_of
 from .values import misfit
 
+FAULTS_OF_A_COLUMN = 5  # a column exported in a wrong form is one mistake, not thousands
 DOCUMENT_PLACE = 7  # the path of a PMA document is read by its place, whatever the column's name
 
 
@@ -30,11 +33,17 @@ def cell_faults(database):
         declared = {column.lower(): type_of(declaration) for column, declaration in columns_of(database, name)}
         types = [declared[column.name.lower()] for column in columns]
         listed = ", ".join(quoted(column.name) for column in columns)
+        faults = Counter()
         for number, row in enumerate(database.execute(f"SELECT {listed} FROM {quoted(name)}"), 1):
             for value, column, type_name in zip(row, columns, types):
                 fault = _cell_fault(value, column, type_name)
                 if fault:
-                    yield f"{table}: row {number}, {column.name}: {fault}"
+                    faults[column.name] += 1
+                    if faults[column.name] <= FAULTS_OF_A_COLUMN:
+                        yield f"{table}: row {number}, {column.name}: {fault}"
+        for column, count in faults.items():
+            if count > FAULTS_OF_A_COLUMN:
+                yield f"{table}: {count - FAULTS_OF_A_COLUMN} more cells of {column} have such a fault"
 
 
 def _column_faults(table, column, place, declaration):

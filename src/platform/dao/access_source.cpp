@@ -120,16 +120,12 @@ AccessSource::AccessSource(QString path, const QString &helper, int patience)
 }
 
 QString AccessSource::helperProgram() {
-    const QString name = QStringLiteral("mdb_reader");
-    QStringList candidates;
-    for (const QString &folder : {App::current().path, QCoreApplication::applicationDirPath()}) {
-        candidates << folder + "/" + name;
-        for (const char *place : {"/../lib/", "/../libexec/"})
-            candidates << folder + place + App::current().exeName + "/" + name;
-    }
-    for (const QString &candidate : candidates)
+    const App &app = App::current();
+    const QString name = QStringLiteral("/mdb_reader");
+    const QString expected = (app.helperPath.isEmpty() ? app.path : app.helperPath) + name;
+    for (const QString &candidate : {expected, QCoreApplication::applicationDirPath() + name})
         if (QFileInfo(candidate).isExecutable()) return candidate;
-    return candidates.first();
+    return expected;
 }
 
 QStringList AccessSource::tableNames() {

@@ -17,8 +17,7 @@ public:
     /// Opens the file and reads its catalog. Raises 3343, or 53 where the helper program is missing.
     explicit AccessSource(QString path, const QString &helper = helperProgram(), int patience = Patience);
 
-    /// `mdb_reader` beside the program, or where an installed program has its own: in ../lib or ../libexec,
-    /// in the folder of the program's name.
+    /// `mdb_reader` among the program's helpers, or beside the program.
     static QString helperProgram();
 
     QStringList tableNames() override;
