@@ -14,8 +14,8 @@ namespace {
 
 constexpr int Strokes = 40;
 
-void stroke(benchmark::State &state, const QString &database, const QVector<int> &grades, const Goal &goal,
-            bool painted) {
+void stroke(benchmark::State &state, const QString &database, const Goal &goal, bool painted) {
+    const QVector<int> grades = richestGrades(database, 10);
     const Program program(database);
     paint();
     program.select(grades);
@@ -44,10 +44,9 @@ void stroke(benchmark::State &state, const QString &database, const QVector<int>
 } // namespace
 
 void addDesignRows(const QString &database) {
-    const QVector<int> grades = richestGrades(database, 10);
     const auto add = [&](const char *name, const Goal &goal, bool painted) {
-        benchmark::RegisterBenchmark(
-            name, [=](benchmark::State &state) { stroke(state, database, grades, goal, painted); })
+        benchmark::RegisterBenchmark(name,
+                                     [=](benchmark::State &state) { stroke(state, database, goal, painted); })
             ->Iterations(Strokes)
             ->UseManualTime();
     };

@@ -14,6 +14,12 @@
 
 namespace {
 
+/// The offscreen platform tells at every window what it cannot do.
+void handleMessage(QtMsgType, const QMessageLogContext &, const QString &message) {
+    if (!message.startsWith("This plugin does not support"))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 int measure(const QString &database, const QString &sample) {
     Bench::addOpeningRows(database);
     Bench::addSearchRows(database);
@@ -36,6 +42,7 @@ int playScene(const QStringList &arguments) {
 } // namespace
 
 int main(int argc, char **argv) {
+    qInstallMessageHandler(handleMessage);
     Application application(argc, argv);
     RegionalSettings::setCurrent(RegionalSettings::fromSystem());
     // An error would measure something else than what the line of the table says.

@@ -47,7 +47,8 @@ void openData(benchmark::State &state, const QString &database) {
     ours.report(state, {}, other);
 }
 
-void showTen(benchmark::State &state, const QString &database, const QVector<int> &grades) {
+void showTen(benchmark::State &state, const QString &database) {
+    const QVector<int> grades = richestGrades(database, 10);
     Samples samples;
     for ([[maybe_unused]] auto _ : state) {
         const Program program(database);
@@ -68,9 +69,8 @@ void addOpeningRows(const QString &database) {
         [database](benchmark::State &state) { openWithWindows(state, database); });
     add("- the rows alone, in order, without windows",
         [database](benchmark::State &state) { openData(state, database); });
-    const QVector<int> grades = richestGrades(database, 10);
     add("show ten grades from the search window, painted",
-        [database, grades](benchmark::State &state) { showTen(state, database, grades); });
+        [database](benchmark::State &state) { showTen(state, database); });
 }
 
 } // namespace Bench

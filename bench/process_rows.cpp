@@ -51,8 +51,9 @@ SceneResult playScene(const QString &scene, const QString &database, const QVect
     return result;
 }
 
-void memory(benchmark::State &state, const QString &scene, const QString &database,
-            const QVector<int> &grades, const Goal &goal) {
+void memory(benchmark::State &state, const QString &scene, const QString &database, int gradeCount,
+            const Goal &goal) {
+    const QVector<int> grades = gradeCount > 0 ? richestGrades(database, gradeCount) : QVector<int>();
     std::vector<double> values;
     int pages = 0;
     for ([[maybe_unused]] auto _ : state) {
@@ -113,8 +114,8 @@ void addProcessRows(const QString &database, const QString &sample) {
     const auto add = [](const char *name, int runs, auto run) {
         benchmark::RegisterBenchmark(name, run)->Iterations(runs)->UseManualTime();
     };
-    const auto addMemory = [&](const char *name, const QString &scene, const QString &path,
-                               const QVector<int> &grades, const Goal &goal) {
+    const auto addMemory = [&](const char *name, const QString &scene, const QString &path, int grades,
+                               const Goal &goal) {
         add(name, MemoryRuns, [=](benchmark::State &state) { memory(state, scene, path, grades, goal); });
     };
     add("sample: process start to painted search window", Starts,
@@ -126,15 +127,11 @@ void addProcessRows(const QString &database, const QString &sample) {
     add("sample: the program itself, idle at its list, memory", 1,
         [sample](benchmark::State &state) { programMemory(state, sample); });
 
-    const QVector<int> sampleGrades = richestGrades(sample, 10);
-    addMemory("sample: memory with ten windows", "ten", sample, sampleGrades, {0, 0, 120});
-    addMemory("sample: memory with ten windows, all tables seen", "ten-all", sample, sampleGrades,
-              {0, 0, 120});
-    addMemory("memory with the list", "list", database, {}, {0, 0, 220});
-    addMemory("memory with ten windows, all tables seen", "ten-all", database, richestGrades(database, 10),
-              {0, 0, 220});
-    addMemory("batch print of thirty: peak above the memory before", "batch", database,
-              richestGrades(database, 30), {});
+    addMemory("sample: memory with ten windows", "ten", sample, 10, {0, 0, 120});
+    addMemory("sample: memory with ten windows, all tables seen", "ten-all", sample, 10, {0, 0, 120});
+    addMemory("memory with the list", "list", database, 0, {0, 0, 220});
+    addMemory("memory with ten windows, all tables seen", "ten-all", database, 10, {0, 0, 220});
+    addMemory("batch print of thirty: peak above the memory before", "batch", database, 30, {});
 }
 
 } // namespace Bench

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 #include "data/modDBase.h"
 #include "material/frmMaterial2.h"
@@ -46,6 +47,22 @@ int richness(Database &database, int matID) {
         rows += found->RecordCount();
     }
     return tables * 10000 + rows;
+}
+
+QVector<int> gradesByRichness(const QString &path) {
+    const Program program(path);
+    const auto database = modDBase::dbMain();
+    const auto grades = database->OpenRecordset("select * from materials order by matID");
+    QVector<std::pair<int, int>> found;
+    for (; !grades->Eof() && found.size() < GradesLookedAt; grades->MoveNext()) {
+        const int matID = grades->Fields("matID").toInt();
+        found.emplaceBack(-richness(*database, matID), matID);
+    }
+    std::sort(found.begin(), found.end());
+    QVector<int> result;
+    for (const auto &[order, matID] : found)
+        result << matID;
+    return result;
 }
 
 } // namespace
@@ -113,19 +130,9 @@ void Program::command(const QString &entry) const {
 }
 
 QVector<int> richestGrades(const QString &path, int count) {
-    const Program program(path);
-    const auto database = modDBase::dbMain();
-    const auto grades = database->OpenRecordset("select * from materials order by matID");
-    QVector<std::pair<int, int>> found;
-    for (; !grades->Eof() && found.size() < GradesLookedAt; grades->MoveNext()) {
-        const int matID = grades->Fields("matID").toInt();
-        found.emplaceBack(-richness(*database, matID), matID);
-    }
-    std::sort(found.begin(), found.end());
-    QVector<int> result;
-    for (const auto &[order, matID] : found)
-        if (result.size() < count) result << matID;
-    return result;
+    static QHash<QString, QVector<int>> found;
+    if (!found.contains(path)) found[path] = gradesByRichness(path);
+    return found[path].first(qMin<qsizetype>(count, found[path].size()));
 }
 
 } // namespace Bench

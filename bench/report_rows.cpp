@@ -13,16 +13,18 @@ namespace {
 constexpr int Reports = 9;
 constexpr int Batches = 3;
 
-void fullReport(benchmark::State &state, const QString &database, int grade, const Goal &goal, int format) {
+void fullReport(benchmark::State &state, const QString &database, const Goal &goal, int format) {
+    const QVector<int> grade = richestGrades(database, 1);
     Program program(database);
     paint();
-    program.select({grade});
+    program.select(grade);
     program.showSelected();
     readyForReport(program);
     measure(state, goal, [&] { saveReport(program, format); });
 }
 
-void batch(benchmark::State &state, const QString &database, const QVector<int> &grades) {
+void batch(benchmark::State &state, const QString &database) {
+    const QVector<int> grades = richestGrades(database, 30);
     Samples samples;
     for ([[maybe_unused]] auto _ : state) {
         Program program(database);
@@ -36,10 +38,9 @@ void batch(benchmark::State &state, const QString &database, const QVector<int> 
 } // namespace
 
 void addReportRows(const QString &database) {
-    const QVector<int> grades = richestGrades(database, 30);
     const auto add = [&](const char *name, const Goal &goal, int format) {
         benchmark::RegisterBenchmark(
-            name, [=](benchmark::State &state) { fullReport(state, database, grades.first(), goal, format); })
+            name, [=](benchmark::State &state) { fullReport(state, database, goal, format); })
             ->Iterations(Reports)
             ->UseManualTime();
     };
@@ -47,7 +48,7 @@ void addReportRows(const QString &database) {
     add("full report of one rich grade to RTF", {}, 1);
     add("full report of one rich grade to text", {}, 2);
     benchmark::RegisterBenchmark("batch print of thirty rich grades to PDF",
-                                 [=](benchmark::State &state) { batch(state, database, grades); })
+                                 [=](benchmark::State &state) { batch(state, database); })
         ->Iterations(Batches)
         ->UseManualTime();
 }

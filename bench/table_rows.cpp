@@ -41,12 +41,12 @@ QString rowsOf(const QString &key, const Material &material) {
 }
 
 /// A new run of the program each time, so that nothing of the table has been read.
-void firstShowing(benchmark::State &state, const QString &database, int grade, const QString &key,
-                  Showing &showing) {
+void firstShowing(benchmark::State &state, const QString &database, const QString &key, Showing &showing) {
+    const QVector<int> grade = richestGrades(database, 1);
     for ([[maybe_unused]] auto _ : state) {
         const Program program(database);
         paint();
-        program.select({grade});
+        program.select(grade);
         program.showSelected();
         frmMaterial2 &window = *program.windows().first();
         state.SetIterationTime(showing.plain.take([&] { window.ShowTable(key); }));
@@ -83,10 +83,11 @@ void summary(benchmark::State &state, const std::vector<std::shared_ptr<Showing>
         ours.report(state, FirstGoal, others);
 }
 
-void laterShowing(benchmark::State &state, const QString &database, int grade, bool painted, bool worst) {
+void laterShowing(benchmark::State &state, const QString &database, bool painted, bool worst) {
+    const QVector<int> grade = richestGrades(database, 1);
     const Program program(database);
     paint();
-    program.select({grade});
+    program.select(grade);
     program.showSelected();
     frmMaterial2 &window = *program.windows().first();
     window.CheckTablesForRecords();
@@ -117,7 +118,6 @@ void laterShowing(benchmark::State &state, const QString &database, int grade, b
 } // namespace
 
 void addTableRows(const QString &database) {
-    const int grade = richestGrades(database, 1).first();
     auto showings = std::vector<std::shared_ptr<Showing>>();
     for (int i = 1; i < TableVocabulary::TableCount; ++i) {
         const QString key = TableVocabulary::GetShortTableName(i);
@@ -125,7 +125,7 @@ void addTableRows(const QString &database) {
         showings.push_back(showing);
         benchmark::RegisterBenchmark(
             qPrintable("- first showing of " + key),
-            [=](benchmark::State &state) { firstShowing(state, database, grade, key, *showing); })
+            [=](benchmark::State &state) { firstShowing(state, database, key, *showing); })
             ->Iterations(FirstShowings)
             ->UseManualTime();
     }
@@ -141,7 +141,7 @@ void addTableRows(const QString &database) {
 
     const auto addLater = [&](const char *name, bool painted, bool worst) {
         benchmark::RegisterBenchmark(
-            name, [=](benchmark::State &state) { laterShowing(state, database, grade, painted, worst); })
+            name, [=](benchmark::State &state) { laterShowing(state, database, painted, worst); })
             ->Iterations(LaterShowings)
             ->UseManualTime();
     };

@@ -43,6 +43,7 @@ Field &addField(Section &section, const QString &name, int left, int top, int wi
 Image &addImage(Section &section, const QString &name, const QString &picture, int left, int top, int width,
                 int height) {
     auto &image = add<Image>(section, name, left, top, width, height);
+    if (picture.isEmpty()) return image;
     QFile file(picture);
     if (file.open(QIODevice::ReadOnly)) image.Content = Picture::fromSvg(file.readAll());
     return image;
