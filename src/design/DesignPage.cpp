@@ -53,7 +53,7 @@ void DesignPage::connectBox() {
     connect(m_controls.txtDesignTemp, &QLineEdit::textChanged, this, &DesignPage::textChanged);
 }
 
-void DesignPage::BuildDesignTable(const Material &material, const std::shared_ptr<XArrayDB> &xDesignDB) {
+void DesignPage::BuildDesignTable(Material &material, const std::shared_ptr<XArrayDB> &xDesignDB) {
     m_values = xDesignDB;
     for (const QString &key : strDesignKeys) {
         if (!material.TableChecked(key)) m_showTable(key);
@@ -65,10 +65,10 @@ void DesignPage::BuildDesignTable(const Material &material, const std::shared_pt
         m_controls.cmdPrintSave(4)->setEnabled(false);
         return;
     }
-    m_values->ReDim(1, static_cast<int>(strDesignTables.size()) * RowsPerTable, 0,
-                    std::max<int>(material.MaxDesignCols(), 1));
+    if (material.MaxDesignCols() == 0) material.setMaxDesignCols(1);
+    m_values->ReDim(1, static_cast<int>(strDesignTables.size()) * RowsPerTable, 0, material.MaxDesignCols());
     writeCaptions(material);
-    addGridColumns(m_values->UpperBound(2));
+    addGridColumns(material.MaxDesignCols());
     m_controls.tdbDesign->setArray(m_values);
     m_controls.tdbDesign->Rebind();
 }

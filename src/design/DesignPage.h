@@ -25,7 +25,7 @@ public:
                std::function<void(const QString &key)> showTable);
 
     /// Loads every table that was not seen yet, and makes xDesignDB with all its captions and no value.
-    void BuildDesignTable(const Material &material, const std::shared_ptr<XArrayDB> &xDesignDB);
+    void BuildDesignTable(Material &material, const std::shared_ptr<XArrayDB> &xDesignDB);
 
     /// The table was built, which is done once in the life of the window.
     bool bDesignBuilt = false;

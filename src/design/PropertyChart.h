@@ -1,18 +1,17 @@
 // The graph of the table on show.
 #pragma once
 
-#include <QObject>
 #include <QVector>
 
 class DataControl;
 class Material;
+class QString;
 class Recordset;
 struct MaterialControls;
 struct SourceArrays;
 struct UnboundColumns;
 
-class PropertyChart : public QObject {
-    Q_OBJECT
+class PropertyChart {
 public:
     /// `columns` and `dtaTable` belong to the table on show.
     PropertyChart(MaterialControls &controls, DataControl &dtaTable, SourceArrays &sources,

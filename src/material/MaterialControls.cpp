@@ -196,6 +196,7 @@ void MaterialControls::makeDesignPage(QWidget *window) {
                  10215, 0);
 
     tdbDesign = grid(framDesign, "tdbDesign", "Design values");
+    tdbDesign->setColumnHeaders(false); // each table brings its captions in a row of its own
     AddGridColumn(*tdbDesign, {}, 1800);
     AddGridColumn(*tdbDesign, {}, 1150);
     place(tdbDesign, 0, 540, PageWidth, 3180);

@@ -1,5 +1,6 @@
 #include "mdb_reader/access_file.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -9,6 +10,7 @@
 
 #include "mdb_reader/bytes.h"
 #include "mdb_reader/cell_text.h"
+#include "mdb_reader/column_check.h"
 #include "mdb_reader/damaged.h"
 #include "mdb_reader/row.h"
 #include "mdb_reader/table_scan.h"
@@ -133,6 +135,9 @@ Table AccessFile::readTable(const std::string &name, std::uint32_t definitionPag
     for (guint i = 0; i < stored->columns->len; ++i)
         table.columns.push_back(
             readColumn(*static_cast<const MdbColumn *>(g_ptr_array_index(stored->columns, i)), m_jet3));
+    Pages definition = pages();
+    const std::uint8_t *counts = definition.at(definitionPage) + m_handle->fmt->tab_num_cols_offset;
+    checkColumns(table, {bytes::u16(counts - 4), bytes::u16(counts - 2)});
     return table;
 }
 
@@ -151,7 +156,11 @@ void AccessFile::readCatalog() {
             if ((number<std::uint32_t>(row, flags) & SystemFlags) != 0) return;
             const CellBytes cell = row.bit(name) ? row.cell(name) : CellBytes();
             texts.decode(cell.data, cell.size, text);
-            m_tables.push_back(readTable(utf8(text), number<std::uint32_t>(row, id) & PageBits));
+            const std::uint32_t definition = number<std::uint32_t>(row, id) & PageBits;
+            if (std::any_of(m_tables.begin(), m_tables.end(),
+                            [&](const Table &table) { return table.definitionPage == definition; }))
+                throw Damaged("two tables in one place");
+            m_tables.push_back(readTable(utf8(text), definition));
         });
     }
 }

@@ -77,6 +77,8 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
     }
     const Groups wanted = known ? key.group() : AllGroups;
 
+    const bool readsAll = groups.ofPage.empty();
+    m_rows = 0;
     for (std::size_t i = 0; i < m_scan.pages().size(); ++i) {
         const std::uint32_t page = m_scan.pages()[i];
         if (i >= groups.ofPage.size())
@@ -85,6 +87,8 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
             searchPage(page, conditions, reply);
         if (i % 64 == 0) reply.stillBusy();
     }
+    // A page that another use has taken, or that the map has lost, leaves no other trace than this.
+    if (readsAll && m_rows != m_table.rows) throw Damaged("rows that cannot be found");
     reply.endRows();
 }
 
@@ -103,6 +107,7 @@ TableSearch::Groups TableSearch::searchPage(std::uint32_t page, const std::vecto
                                             Reply &reply) {
     Groups groups = 0;
     m_scan.visit(page, [&](const Row &row) {
+        ++m_rows;
         const Match found = match(row, conditions);
         groups |= found.groups;
         if (found.found) m_writer.write(row, reply);

@@ -56,6 +56,7 @@ private:
     TableScan m_scan;
     RowWriter m_writer;
     std::vector<PageGroups> m_groups;
+    std::uint64_t m_rows = 0; // seen in this search
     std::vector<CellBytes> m_cells;
     std::vector<std::uint8_t> m_key; // the stored bytes of the cells that are compared
     std::vector<std::uint8_t> m_lastKey;

@@ -147,6 +147,8 @@ void actRepMain::chooseContent() {
             controls.Item<Image>("imgIcon2").Content = controls.Item<Image>("imgIcon6").Content;
             setText("ghMechProp", "lblMechProp", "Design Values");
         }
+        // it is all there is, and may begin below the header
+        Sections("ghMechProp").KeepTogether = false;
         hide("ghChemComp");
         hide("ghImpEnergy");
         hide("ghAddInfo");

@@ -43,6 +43,7 @@ Field &addField(Section &section, const QString &name, int left, int top, int wi
 Image &addImage(Section &section, const QString &name, const QString &picture, int left, int top, int width,
                 int height) {
     auto &image = add<Image>(section, name, left, top, width, height);
+    if (picture.isEmpty()) return image;
     QFile file(picture);
     if (file.open(QIODevice::ReadOnly)) image.Content = Picture::fromSvg(file.readAll());
     return image;
@@ -70,17 +71,17 @@ void addPageFooter(Section &section) {
     auto &rule = section.Controls.Add<Line>("linFooter");
     rule.Width = PageWidth;
     rule.Top = 90;
-    Field &page = addField(section, "txtPage", 8900, 135, 450, 200);
-    Field &total = addField(section, "txtPageTotal", 9700, 135, 500, 200);
-    TextControl *const texts[] = {&addLabel(section, "lblDocName", "Velmar 4.0", 0, 135, 7000, 200),
-                                  &addLabel(section, "lblPage", "Page", 8300, 135, 600, 200), &page,
-                                  &addLabel(section, "lblOf", "of", 9350, 135, 350, 200), &total};
-    for (TextControl *text : texts) {
-        text->Font.Size = FooterFontSize;
-        if (text != texts[0]) text->Alignment = 2;
-    }
+    Label &word = addLabel(section, "lblPage", "Page", 8600, 135, 640, 200);
+    Field &page = addField(section, "txtPage", 9240, 135, 360, 200);
+    Label &of = addLabel(section, "lblOf", "of", 9600, 135, 240, 200);
+    Field &total = addField(section, "txtPageTotal", 9840, 135, 360, 200);
     page.Summary = PageValue::PageNumber;
     total.Summary = PageValue::PageTotal;
+    word.Alignment = 1;
+    page.Alignment = of.Alignment = 2;
+    TextControl &name = addLabel(section, "lblDocName", "Velmar 4.0", 0, 135, 8400, 200);
+    for (TextControl *text : std::initializer_list<TextControl *>{&name, &word, &page, &of, &total})
+        text->Font.Size = FooterFontSize;
 }
 
 void asFootnote(TextControl &control) {

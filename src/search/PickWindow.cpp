@@ -12,7 +12,6 @@ constexpr int Margin = 120;
 constexpr int FrameHeight = 1125;
 constexpr int ChoiceHeight = 600;
 constexpr int MoveWidth = 2190;
-constexpr int FindWidth = 4380;
 
 const char *const Directions[] = {"First", "Previous", "Next", "Last"};
 
@@ -44,9 +43,9 @@ void PickWindow::makeFrames() {
     const int width = ScaleWidth();
     const int choiceTop = ScaleHeight() - Margin - ChoiceHeight;
     const int top = choiceTop - Margin / 2 - FrameHeight;
-    const int findLeft = width - Margin - FindWidth;
-    place(framSelect(0), findLeft - Margin / 2 - MoveWidth, top, MoveWidth, FrameHeight);
-    place(framSelect(1), findLeft, top, FindWidth, FrameHeight);
+    const int findLeft = Margin + MoveWidth + Margin;
+    place(framSelect(0), Margin, top, MoveWidth, FrameHeight);
+    place(framSelect(1), findLeft, top, width - Margin - findLeft, FrameHeight);
     place(framSelect(2), Margin, choiceTop, width - 2 * Margin, ChoiceHeight);
 
     const char *const pictures[] = {"first", "previous", "next", "last"};
@@ -55,7 +54,7 @@ void PickWindow::makeFrames() {
         QPushButton *button = cmdSelNav.add(i, new QPushButton(framSelect(0)), tip);
         button->setIcon(QIcon(QString(":/velmar/navigation/%1.svg").arg(pictures[i])));
         button->setToolTip(tip);
-        place(button, 120 + i * 495, 480, 465, 390);
+        place(button, Margin + i * 495, 480, 465, 390);
         connect(button, &QPushButton::clicked, this, [this, i] {
             modDBase::RecordNavigate(*dtaSelect->recordset(), i);
             moved();
@@ -68,12 +67,14 @@ void PickWindow::makeFrames() {
 void PickWindow::makeFindFrame(QGroupBox *frame) {
     txtSearch->setParent(frame);
     txtSearch->setToolTip("Type in Find criteria here");
-    place(txtSearch, 120, 285, 4140, 345);
+    const int inside = placeOf(frame).width() - 2 * Margin;
+    const int step = (inside + Margin) / 4;
+    place(txtSearch, Margin, 285, inside, 345);
     const char *const captions[] = {"&First", "&Prev", "&Next", "&Last"};
     for (int i = 0; i < 4; ++i) {
         QPushButton *button =
             cmdFind.add(i, new QPushButton(captions[i], frame), QString("Find ") + Directions[i]);
-        place(button, 120 + i * 1050, 690, 990, 360);
+        place(button, Margin + i * step, 690, step - Margin, 360);
         connect(button, &QPushButton::clicked, this, [this, i] { findByButton(i); });
     }
     setFindTips({});
@@ -93,6 +94,7 @@ void PickWindow::Form_Load() {
     for (const auto &[index, frame] : framSelect)
         m_framesAtLoad[index] = placeOf(frame).topLeft();
     setMinimumSize(size());
+    list()->setFocus();
     if (mdiVelmar::instance().bToolTips) return;
     for (const auto &[index, button] : cmdSelNav)
         button->setToolTip({});

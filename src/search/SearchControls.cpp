@@ -22,10 +22,10 @@ struct ColumnDefinition {
 /// Column 6 stands for the product form's place among the criteria and shows nothing.
 const ColumnDefinition MaterialColumns[] = {
     {"EN Standard", "standard", 1500}, {"EN Name", "name", 1800},
-    {"EN Number", "numbr", 1200},      {"Description", "description", 2400},
+    {"EN Number", "numbr", 1200},      {"Description", "description", 2850},
     {"EN Group", "groups", 1050},      {"Revision Date", "revision_date", 1350},
     {"Product Form", "", 1500},        {"ASME Standard", "asmestandard", 1500},
-    {"ASME Grade", "asmegrade", 1650}, {"SS", "ss", 1050},
+    {"ASME Grade", "asmegrade", 1650}, {"SS", "ss", 960},
 };
 
 const char *const SelectedCaptions[] = {"Standard",    "Name",  "Number",
@@ -60,9 +60,7 @@ SearchControls::SearchControls(QWidget &window) {
 void SearchControls::makeFrames(QWidget *window) {
     framStandDesc = named(new QFrame(window), "framStandDesc", "Select material(s)");
     const auto panel = [this](const QString &name, const QString &accessibleName) {
-        auto *frame = named(new QFrame(framStandDesc), name, accessibleName);
-        frame->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
-        return frame;
+        return named(new QFrame(framStandDesc), name, accessibleName);
     };
     framSide = panel("framSide", "Standards");
     framSearch = panel("framSearch", "Search Materials On...");
@@ -72,7 +70,7 @@ void SearchControls::makeFrames(QWidget *window) {
     QFrame *const behind[] = {framSide, framSearch};
     for (int i = 0; i < 6; ++i) {
         QWidget *frame = i < 2 ? static_cast<QWidget *>(behind[i]) : i < 4 ? framMatTable : framSelTable;
-        lblBack.add(i, new QLabel(frame))->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        lblBack.add(i, new QLabel(frame))->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     }
     framTabNav = named(new QGroupBox("Navigate", framMatTable), "framTabNav", "Navigate in Materials List");
     framSelTabNav =
@@ -202,10 +200,11 @@ void SearchControls::placeControls() {
     place(imgIcon, 1845, 825, 390, 390);
 
     place(framMatTable, 120, 1425, 14760, 5055);
-    place(lblListFrame, 180, 240, 1500, 225);
-    place(lblMaterialsCount, 12840, 240, 1260, 225);
-    place(lblMatCount, 14160, 240, 540, 225);
-    place(lblStdInfo, 1800, 270, 10800, 480);
+    // beside the frame's title
+    place(lblListFrame, 1800, 0, 1800, 225);
+    place(lblMaterialsCount, 12600, 0, 1410, 225);
+    place(lblMatCount, 14070, 0, 630, 225);
+    place(lblStdInfo, 180, 285, 14400, 465);
     place(lblBack(2), 60, 480, 14640, 3855);
     place(tdbMaterials, 165, 615, 14430, 3615);
     place(lblBack(3), 60, 4380, 14640, 615);
@@ -215,15 +214,16 @@ void SearchControls::placeControls() {
     place(imgFolder, 14070, 4425, 525, 525);
 
     place(framSelTable, 120, 6525, 14760, 3060);
-    place(lblSelectedFram, 180, 240, 1800, 225);
-    place(lblSelCount, 7800, 240, 2700, 225);
-    place(lblBack(4), 60, 480, 10560, 2520);
-    place(tdbSelected, 165, 585, 10350, 2310);
-    place(lblBack(5), 10680, 480, 4020, 2520);
-    place(cmdSelections(0), 10860, 600, 1800, 420);
-    place(cmdSelections(2), 10860, 1110, 1800, 420);
-    place(cmdSelections(1), 10860, 1620, 1800, 420);
-    place(imgBin, 13200, 960, 960, 960);
+    place(lblSelectedFram, 1800, 0, 1800, 225);
+    place(lblSelCount, 7905, 0, 2700, 225);
+    lblSelCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    place(lblBack(4), 60, 330, 10560, 2670);
+    place(tdbSelected, 165, 435, 10350, 2460);
+    place(lblBack(5), 10680, 330, 4020, 2670);
+    place(cmdSelections(0), 10860, 465, 1800, 420);
+    place(cmdSelections(2), 10860, 975, 1800, 420);
+    place(cmdSelections(1), 10860, 1485, 1800, 420);
+    place(imgBin, 13200, 705, 960, 960);
     placeNavigation();
 }
 
@@ -232,7 +232,7 @@ void SearchControls::placeCriteria() {
         int index;
         int width; // twips, with its list button
     };
-    const Box boxes[] = {{0, 1620}, {6, 1620}, {1, 1740}, {2, 1380}, {3, 1680}, {4, 1380}, {5, 1680}};
+    const Box boxes[] = {{0, 1560}, {6, 1560}, {1, 1710}, {2, 1305}, {3, 1710}, {4, 1305}, {5, 1785}};
     constexpr int Gap = 60;
     constexpr int ListButton = 330;
     place(lblBack(1), 60, 345, 12120, 915);
@@ -253,10 +253,10 @@ void SearchControls::placeCriteria() {
 void SearchControls::placeNavigation() {
     constexpr int Width = 510;
     place(framTabNav, 165, 4380, 2310, 600);
-    place(framSelTabNav, 10860, 2220, 2310, 690);
+    place(framSelTabNav, 10860, 2115, 2310, 735);
     for (int i = 0; i < 4; ++i) {
         place(cmdTabNav(i), 105 + i * (Width + 15), 270, Width, 300);
-        place(cmdTabNav(i + 4), 105 + i * (Width + 15), 285, Width, 345);
+        place(cmdTabNav(i + 4), 105 + i * (Width + 15), 300, Width, 360);
     }
 }
 

@@ -35,6 +35,9 @@ SelectedList::SelectedList(frmSearch &window)
     connect(m_search.tdbSelected, &TDBGrid::HeadClick, this,
             [this](int column) { refresh(m_search.mSearchFields[static_cast<std::size_t>(column)].field); });
 
+    for (const auto &[index, button] : m_search.cmdBatch)
+        connect(button, &QPushButton::clicked, this, &SelectedList::printAll);
+
     const auto adds = [this](const QString &source) {
         if (source == m_search.tdbMaterials->objectName()) add();
     };
@@ -161,6 +164,16 @@ void SelectedList::open() {
     main.UpdateMenusAndButtons("View", 0);
     m_search.Hide();
     main.setMousePointer(vbDefault);
+}
+
+void SelectedList::printAll() {
+    mdiVelmar &main = mdiVelmar::instance();
+    if (main.colMaterials.Count() == 0) return;
+    main.bBatchPrint = true;
+    open();
+    main.DoBatchPrint();
+    main.bBatchPrint = false;
+    main.SelectMaterials();
 }
 
 /// They stay invisible until they are in their places.

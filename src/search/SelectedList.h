@@ -23,6 +23,8 @@ public:
     void refresh(const QString &order);
     void show();
     void open();
+    /// In one document, by windows that stay invisible.
+    void printAll();
 
 private:
     bool batchOffered() const;

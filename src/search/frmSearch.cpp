@@ -35,6 +35,7 @@ frmSearch::frmSearch()
     , m_results(std::make_unique<ResultGrid>(*this, *m_criteria))
     , m_selected(std::make_unique<SelectedList>(*this)) {
     setCaption("Select Material(s)...");
+    setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     setSizable(false);
     setMinMaxButtons(true, false);
     connectControls();

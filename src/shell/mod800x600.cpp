@@ -30,7 +30,7 @@ void fitCriteria(SearchControls &c) {
     constexpr int BoxStep = 720;
     constexpr int CaptionHeight = 255;
     place(c.framSearch, 120, 1545, SideWidth, 5430);
-    place(c.lblShow, 120, 45, 1200, 180);
+    place(c.lblShow, 120, 15, 1200, 210);
     int top = FirstBox;
     for (int i : {0, 6, 1, 2, 3, 4, 5}) {
         QWidget *caption = i < 6 ? static_cast<QWidget *>(c.chkSearch(i)) : c.lblProdForm;
@@ -51,10 +51,12 @@ void fitNavigation(QGroupBox *frame, SearchControls &c, int firstButton, int hei
 
 void fitMaterials(SearchControls &c) {
     place(c.framMatTable, TablesLeft, 120, TablesWidth, 4095);
-    // beside the frame's title
     place(c.lblListFrame, 1800, 0, 1500, 225);
-    place(c.lblMaterialsCount, 6480, 0, 1305, 225);
-    place(c.lblMatCount, 7860, 0, 750, 225);
+    place(c.lblMaterialsCount, 6480, 0, 1425, 225);
+    place(c.lblMatCount, 7980, 0, 630, 225);
+    QFont small = c.lblStdInfo->font();
+    small.setPointSize(8);
+    c.lblStdInfo->setFont(small);
     place(c.lblStdInfo, 120, 255, TablesWidth - 240, 435);
     c.materialsPlace.gridTop = 405;
     c.materialsPlace.gridHeight = 3135;
@@ -87,6 +89,9 @@ void FitSearchWindow() {
     for (const auto &[index, panel] : c.lblBack)
         panel->hide();
     c.lblSearch->hide();
+    // in the place of the hidden panels
+    for (QFrame *frame : {c.framSide, c.framSearch})
+        frame->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     place(c.framStandDesc, 120, 0, 11700, 7470);
     fitSide(c);
     fitCriteria(c);

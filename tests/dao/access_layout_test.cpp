@@ -44,6 +44,7 @@ TEST(AccessLayout, DeletedRowsAreGoneAndMovedOnesAreReadWhereTheyAre) {
     expected[2] = expected[5];
     expected.remove(5);
     expected.remove(0);
+    mdbPages::setRowCount(file, mdbPages::definitionOf(file, page), expected.size());
 
     const QTemporaryDir folder;
     AccessSource source(writeFile(folder, "moved.mdb", file), helperPath());
@@ -55,6 +56,36 @@ TEST(AccessLayout, DeletedRowsAreGoneAndMovedOnesAreReadWhereTheyAre) {
                   static_cast<quint32>(page / mdbPages::Size << 8 | 2));
     AccessSource circle(writeFile(folder, "circle.mdb", file), helperPath());
     EXPECT_EQ(errorOf([&] { allRows(circle, "Units"); }), 3343);
+}
+
+TEST(AccessLayout, RowsThatAreLostOrWouldBeMisreadAreAnError) {
+    const QByteArray good = fileBytes(Main);
+    const qsizetype rows = mdbPages::pageWith(good, "[NoUnit]");
+    const qsizetype units = mdbPages::definitionOf(good, rows);
+    const auto column = [&](int number) { return mdbPages::columnEntry(good, units, number); };
+    ASSERT_EQ(good[column(0)], '\3'); // unitID, a number of two bytes
+    ASSERT_EQ(good[column(1)], '\n'); // a text
+    const struct {
+        const char *damage;
+        qsizetype at;
+        QByteArray bytes;
+    } cases[] = {
+        {"fewer rows than were counted", rows + 14, QByteArray("\0\xc0", 2)},
+        {"an unknown type", column(1), "\x77"},
+        {"a number of another size", column(0), "\4"},
+        {"two columns in one bit", column(1) + 5, QByteArray("\0\0", 2)},
+        {"a column beyond all", column(0) + 5, QByteArray("\x7f\0", 2)},
+        {"a text beyond all", column(1) + 7, QByteArray("\x7f\0", 2)},
+    };
+    const QTemporaryDir folder;
+    for (const auto &[damage, at, bytes] : cases) {
+        QByteArray bad = good;
+        bad.replace(at, bytes.size(), bytes);
+        const QString path = writeFile(folder, "bad.mdb", bad);
+        EXPECT_EQ(errorOf([&] { allRows(*std::make_unique<AccessSource>(path, helperPath()), "Units"); }),
+                  3343)
+            << damage;
+    }
 }
 
 TEST(AccessLayout, MemosOfAnyLengthAreWhole) {

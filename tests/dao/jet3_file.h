@@ -98,6 +98,7 @@ private:
         page[1] = 1;
         mdbPages::put(page, 12, quint32(rows));
         page[20] = 'N';
+        mdbPages::put(page, 21, quint16(columns.size()));
         mdbPages::put(page, 23, variable);
         mdbPages::put(page, 25, quint16(columns.size()));
         mdbPages::put(page, 35, quint32(MapPage << 8 | map));

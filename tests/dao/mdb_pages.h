@@ -55,6 +55,21 @@ inline void flagSlot(QByteArray &file, qsizetype page, qsizetype slot, quint16 f
     put(file, at, static_cast<quint16>(u16(file, at) | flags));
 }
 
+/// Where the definition begins of the table that the page of rows belongs to.
+inline qsizetype definitionOf(const QByteArray &file, qsizetype page) {
+    return qFromLittleEndian<quint32>(file.constData() + page + 4) * Size;
+}
+
+inline void setRowCount(QByteArray &file, qsizetype definition, qsizetype rows) {
+    put(file, definition + 16, static_cast<quint32>(rows));
+}
+
+/// Where a column's entry begins in a definition.
+inline qsizetype columnEntry(const QByteArray &file, qsizetype definition, qsizetype column) {
+    const auto indexes = qFromLittleEndian<quint32>(file.constData() + definition + 51);
+    return definition + 63 + 12 * qsizetype(indexes) + 25 * column;
+}
+
 inline qsizetype rowStart(const QByteArray &file, qsizetype page, qsizetype slot) {
     return page + (u16(file, page + 14 + 2 * slot) & 0x1fff);
 }

@@ -53,8 +53,7 @@ TestProgram::TestProgram(const Given &given)
 }
 
 TestProgram::~TestProgram() {
-    exit();
-    modDBase::reset();
+    end();
     Screen::setSizeForTest({});
     if (m_appDataBefore.isNull())
         qunsetenv("APPDATA");
@@ -66,9 +65,16 @@ QString TestProgram::userFolder() const {
     return modFileHandler::GetUserFolder();
 }
 
-void TestProgram::exit() {
+void TestProgram::end() {
     if (auto *window = LoadedInstance<mdiVelmar>()) window->Unload();
     deleteUnloaded();
+    modDBase::reset();
+}
+
+void TestProgram::restart() {
+    end();
+    modFileHandler::SetupFileEnvironment();
+    mdiVelmar::instance();
 }
 
 std::shared_ptr<Material> TestProgram::material(int matID) const {

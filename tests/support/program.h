@@ -48,10 +48,12 @@ public:
     std::shared_ptr<Material> material(int matID) const;
     /// A window that shows the grade, visible.
     frmMaterial2 &open(const std::shared_ptr<Material> &material) const;
-    /// Ends the run, as the Exit command does; the destructor does it otherwise.
-    void exit();
+    /// Ends the run, as the Exit command does, and starts it again with the same files.
+    void restart();
 
 private:
+    static void end();
+
     PinnedSettings m_settings;
     QTemporaryDir m_folder;
     QTemporaryDir m_appData;

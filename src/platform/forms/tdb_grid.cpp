@@ -166,6 +166,10 @@ void TDBGrid::setRecordSelectors(bool shown) {
     m_view->verticalHeader()->setVisible(shown);
 }
 
+void TDBGrid::setColumnHeaders(bool shown) {
+    m_header->setVisible(shown);
+}
+
 void TDBGrid::setColumnFooters(bool shown) {
     m_footer->setVisible(shown);
 }

@@ -83,6 +83,8 @@ public:
     /// The narrow cells left of the rows, with an arrow at the current one; a click selects the row. On at
     /// first.
     void setRecordSelectors(bool shown);
+    /// On at first.
+    void setColumnHeaders(bool shown);
     /// Off at first.
     void setColumnFooters(bool shown);
 
