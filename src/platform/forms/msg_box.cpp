@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/pointer_pause.h"
 #include "platform/runtime/app.h"
 
 namespace {
@@ -74,6 +75,7 @@ int MsgBox(const QString &text, int style, const QString &title) {
         box.addButton(button.button);
     const std::size_t preset = style & vbDefaultButton3 ? 2 : style & vbDefaultButton2 ? 1 : 0;
     if (preset < buttons.size()) box.setDefaultButton(buttons[preset].button);
+    const PointerPause pause;
     const int pressed = box.exec();
     for (const Button &button : buttons)
         if (button.button == pressed) return button.result;
