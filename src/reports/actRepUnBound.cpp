@@ -69,6 +69,7 @@ actRepUnBound::actRepUnBound() {
     addFirstColumnOfBlock(block);
     Section &other = AddSection(SectionType::GroupFooter, "gfOther");
     other.Visible = false;
+    other.KeepTogether = true;
     addOtherElements(other);
     addNotes(AddSection(SectionType::GroupFooter, "gfNotes"));
     AddSection(SectionType::PageFooter, "PageFooter");

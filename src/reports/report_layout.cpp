@@ -60,6 +60,7 @@ Label &addTitle(Section &section, const QString &text) {
 }
 
 void addNotes(Section &section) {
+    section.KeepTogether = true;
     Label &label = addLabel(section, "lblNotes", "Notes", 0, 90, PageWidth, 240);
     label.Font.Bold = true;
     label.Font.Size = TableFontSize;
@@ -72,9 +73,9 @@ void addPageFooter(Section &section) {
     rule.Width = PageWidth;
     rule.Top = 90;
     Label &word = addLabel(section, "lblPage", "Page", 8600, 135, 640, 200);
-    Field &page = addField(section, "txtPage", 9240, 135, 360, 200);
-    Label &of = addLabel(section, "lblOf", "of", 9600, 135, 240, 200);
-    Field &total = addField(section, "txtPageTotal", 9840, 135, 360, 200);
+    Field &page = addField(section, "txtPage", 9270, 135, 300, 200);
+    Label &of = addLabel(section, "lblOf", "of", 9570, 135, 230, 200);
+    Field &total = addField(section, "txtPageTotal", 9890, 135, 310, 200);
     page.Summary = PageValue::PageNumber;
     total.Summary = PageValue::PageTotal;
     word.Alignment = 1;

@@ -255,6 +255,8 @@ TEST_F(Dialect, Errors) {
         {"select id from part where label", "3464: Data type mismatch in criteria expression."},
         {"select id from part where label like '*[*'", "93: Invalid pattern string"},
         {"select id from part where " + QString("(").repeated(100000) + "id", "3360: Query is too complex."},
+        {"select id from part where id" + QString(" = id").repeated(30000), "3360: Query is too complex."},
+        {"select id from part where id" + QString(" is null").repeated(30000), "3360: Query is too complex."},
         {"select id from part where id = 1" + QString(" or id = 1").repeated(10000),
          "3360: Query is too complex."},
     };

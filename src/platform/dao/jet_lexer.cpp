@@ -74,8 +74,10 @@ private:
 
     void scanEnclosed(JetToken &token, QChar closing, Kind closed, Kind open) {
         const qsizetype begin = m_at + 1;
-        const qsizetype end = m_statement.indexOf(closing, begin);
+        // A text of opening brackets alone must not be searched once for each of them.
+        const qsizetype end = m_neverCloses == closing ? -1 : m_statement.indexOf(closing, begin);
         if (end < 0) {
+            m_neverCloses = closing;
             token.kind = open;
             token.text = m_statement.mid(m_at, 1);
             m_at = open == Kind::Symbol ? m_at + 1 : m_statement.size();
@@ -118,6 +120,7 @@ private:
 
     const QString &m_statement;
     qsizetype m_at = 0;
+    QChar m_neverCloses; // from here on
 };
 
 } // namespace

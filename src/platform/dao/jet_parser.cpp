@@ -203,7 +203,7 @@ JetExpression JetParser::negation() {
 
 JetExpression JetParser::comparison() {
     JetExpression left = value();
-    while (true) {
+    for (bool chained = false;; chained = true) {
         static constexpr std::array<const char *, 6> comparisons = {"=", "<>", "<", ">", "<=", ">="};
         const JetToken &token = peek();
         const auto is = [&](const char *symbol) { return token.isSymbol(symbol); };
@@ -223,6 +223,8 @@ JetExpression JetParser::comparison() {
         } else {
             return left;
         }
+        // Each further comparison stands above the one before it.
+        if (chained && ++m_chained > MaximumDepth) throw JetErrors::tooComplex();
     }
 }
 

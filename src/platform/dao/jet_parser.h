@@ -65,4 +65,5 @@ private:
     Piece m_piece;
     int m_selects = 0;
     int m_depth = 0;
+    int m_chained = 0; // comparisons whose left side is another one
 };
