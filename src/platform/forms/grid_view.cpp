@@ -193,9 +193,9 @@ int GridView::neededHeight(int row) const {
     initViewItemOption(&option);
     int height = verticalHeader()->defaultSectionSize();
     for (int column = 0; column < m_model.columnCount(); ++column) {
-        if (isColumnHidden(column)) continue;
-        option.rect = QRect(0, 0, columnWidth(column) - 1, height);
         const QModelIndex index = m_model.index(row, column);
+        if (isColumnHidden(column) || index.data().toString().isEmpty()) continue;
+        option.rect = QRect(0, 0, columnWidth(column) - 1, height);
         height =
             qMax(height, itemDelegateForIndex(index)->sizeHint(option, index).height() + 2 * CellPadding);
     }
