@@ -105,7 +105,8 @@ void addPages(std::vector<std::uint32_t> &owned, const std::uint8_t *bits, std::
 } // namespace
 
 AccessFile::AccessFile(const char *path)
-    : m_file(open(path, O_RDONLY | O_CLOEXEC)) {
+    : m_file(open(path, O_RDONLY | O_CLOEXEC))
+    , m_identity(FileIdentity::of(m_file)) {
     m_handle = m_file >= 0 ? mdb_open(path, MDB_NOFLAGS) : nullptr;
     if (!m_handle) throw Damaged("not an Access file");
     m_jet3 = IS_JET3(m_handle);
@@ -115,6 +116,10 @@ AccessFile::AccessFile(const char *path)
 AccessFile::~AccessFile() {
     if (m_handle) mdb_close(m_handle);
     if (m_file >= 0) close(m_file);
+}
+
+void AccessFile::checkUnchanged() const {
+    if (FileIdentity::of(m_file) != m_identity) throw Damaged("file that changes while it is read");
 }
 
 Table AccessFile::readTable(const std::string &name, std::uint32_t definitionPage) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "mdb_reader/pages.h"
+#include "platform/dao/file_identity.h"
 #include "platform/dao/mdb_protocol.h"
 
 struct Column {
@@ -48,6 +49,9 @@ public:
     MdbHandle *handle() const { return m_handle; }
     bool isJet3() const { return m_jet3; }
     const std::vector<Table> &tables() const { return m_tables; }
+    const FileIdentity &identity() const { return m_identity; }
+    /// Raises Damaged where the file was written to after it was opened.
+    void checkUnchanged() const;
 
     /// A reader of its own: what it has read ahead, no other one sees.
     Pages pages() const { return Pages(m_handle, m_file); }
@@ -60,6 +64,7 @@ private:
 
     MdbHandle *m_handle = nullptr;
     int m_file = -1;
+    FileIdentity m_identity;
     bool m_jet3 = false;
     std::vector<Table> m_tables;
 };

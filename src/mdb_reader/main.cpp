@@ -23,6 +23,8 @@ int takeStandardOutput() {
 }
 
 void sendCatalog(const AccessFile &file, Reply &reply) {
+    file.checkUnchanged();
+    reply.number(file.identity());
     reply.number(static_cast<std::uint16_t>(file.tables().size()));
     for (const Table &table : file.tables()) {
         reply.name(table.name);
@@ -45,6 +47,8 @@ void answerRequests(const AccessFile &file, Reply &reply) {
             std::unique_ptr<TableSearch> &search = searches[request->table];
             if (!search) search = std::make_unique<TableSearch>(file, file.tables()[request->table]);
             search->run(request->conditions, reply);
+            file.checkUnchanged();
+            reply.endRows();
         } catch (const Damaged &damage) {
             reply.fail(damage.what());
         }

@@ -89,7 +89,6 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
     }
     // A page that another use has taken, or that the map has lost, leaves no other trace than this.
     if (readsAll && m_rows != m_table.rows) throw Damaged("rows that cannot be found");
-    reply.endRows();
 }
 
 TableSearch::PageGroups &TableSearch::groupsBy(const std::vector<Condition> &conditions) {

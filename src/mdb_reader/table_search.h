@@ -31,7 +31,7 @@ class TableSearch {
 public:
     TableSearch(const AccessFile &file, const Table &table);
 
-    /// Sends every matching row, in the order of the file, and the end. Raises Damaged.
+    /// Sends every matching row, in the order of the file. Raises Damaged.
     void run(const std::vector<Condition> &conditions, Reply &reply);
 
 private:

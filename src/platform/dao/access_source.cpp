@@ -116,7 +116,7 @@ QByteArray rowsRequest(qsizetype table, const QVector<BoundCondition> &condition
 AccessSource::AccessSource(QString path, const QString &helper, int patience)
     : m_path(std::move(path))
     , m_helper(helper, {QFileInfo(m_path).absoluteFilePath()}, patience) {
-    m_tables = openHelper();
+    m_catalog = openHelper();
 }
 
 QString AccessSource::helperProgram() {
@@ -130,17 +130,17 @@ QString AccessSource::helperProgram() {
 
 QStringList AccessSource::tableNames() {
     QStringList names;
-    for (const Table &table : m_tables)
+    for (const Table &table : m_catalog.tables)
         names << table.name;
     return names;
 }
 
 FieldDefinitions AccessSource::fields(const QString &table) {
-    return m_tables[indexOf(table)].fields;
+    return m_catalog.tables[indexOf(table)].fields;
 }
 
 qint64 AccessSource::rowCount(const QString &table) {
-    return m_tables[indexOf(table)].rows;
+    return m_catalog.tables[indexOf(table)].rows;
 }
 
 void AccessSource::readAll(const QString &table, const RowSink &sink) {
@@ -150,7 +150,8 @@ void AccessSource::readAll(const QString &table, const RowSink &sink) {
 void AccessSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                                 const RowSink &sink) {
     const qsizetype index = indexOf(table);
-    const std::optional<QVector<BoundCondition>> bound = bindConditions(m_tables[index].fields, conditions);
+    const std::optional<QVector<BoundCondition>> bound =
+        bindConditions(m_catalog.tables[index].fields, conditions);
     if (!bound) return;
     read(index, *bound, [&](const QVector<QVariant> &row) {
         if (meetsTexts(row, *bound)) sink(row);
@@ -158,21 +159,21 @@ void AccessSource::readMatching(const QString &table, const QVector<ColumnCondit
 }
 
 qsizetype AccessSource::indexOf(const QString &table) const {
-    const auto found =
-        std::find_if(m_tables.begin(), m_tables.end(), [&](const Table &each) { return each.name == table; });
-    if (found == m_tables.end()) throw RuntimeError(3078);
-    return found - m_tables.begin();
+    const auto found = std::find_if(m_catalog.tables.begin(), m_catalog.tables.end(),
+                                    [&](const Table &each) { return each.name == table; });
+    if (found == m_catalog.tables.end()) throw RuntimeError(3078);
+    return found - m_catalog.tables.begin();
 }
 
 void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
-    if (!m_helper.isRunning() && openHelper() != m_tables) raiseDamaged();
+    if (!m_helper.isRunning() && openHelper() != m_catalog) raiseDamaged();
     try {
         if (!m_helper.send(rowsRequest(table, conditions))) raiseDamaged();
         while (true) {
             const Frame answer = receiveFrame();
             FrameReader frame(answer.content);
             if (answer.kind == Reply::Rows)
-                readRows(frame, m_tables[table].fields, sink);
+                readRows(frame, m_catalog.tables[table].fields, sink);
             else if (answer.kind == Reply::End)
                 return;
             else if (answer.kind != Reply::Busy)
@@ -188,15 +189,17 @@ void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditio
     }
 }
 
-QVector<AccessSource::Table> AccessSource::openHelper() {
+AccessSource::Catalog AccessSource::openHelper() {
     if (!m_helper.start())
         throw RuntimeError(53, RuntimeError::standardDescription(53) + ": '" + m_helper.program() + "'");
     try {
         const Frame answer = receiveFrame();
         if (answer.kind != Reply::Catalog) raiseDamaged();
         FrameReader frame(answer.content);
-        QVector<Table> tables(frame.number<quint16>());
-        for (Table &table : tables) {
+        Catalog catalog;
+        catalog.file = frame.number<FileIdentity>();
+        catalog.tables.resize(frame.number<quint16>());
+        for (Table &table : catalog.tables) {
             table.name = frame.name();
             table.rows = frame.number<quint32>();
             table.fields.resize(frame.number<quint16>());
@@ -206,7 +209,7 @@ QVector<AccessSource::Table> AccessSource::openHelper() {
                 field.size = frame.number<quint16>();
             }
         }
-        return tables;
+        return catalog;
     } catch (const MalformedFrame &) {
         m_helper.stop();
         raiseDamaged();

@@ -3,6 +3,7 @@
 
 #include "platform/dao/bound_condition.h"
 #include "platform/dao/child_process.h"
+#include "platform/dao/file_identity.h"
 #include "platform/dao/mdb_protocol.h"
 #include "platform/dao/table_source.h"
 
@@ -38,13 +39,19 @@ private:
 
         bool operator==(const Table &other) const = default;
     };
+    struct Catalog {
+        FileIdentity file;
+        QVector<Table> tables;
+
+        bool operator==(const Catalog &other) const = default;
+    };
     struct Frame {
         MdbProtocol::Reply kind = MdbProtocol::Reply::Failure;
         QByteArray content;
     };
 
     /// Starts the helper and takes the catalog from it.
-    QVector<Table> openHelper();
+    Catalog openHelper();
     qsizetype indexOf(const QString &table) const;
     void read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink);
     Frame receiveFrame();
@@ -52,5 +59,5 @@ private:
 
     QString m_path;
     ChildProcess m_helper;
-    QVector<Table> m_tables;
+    Catalog m_catalog;
 };

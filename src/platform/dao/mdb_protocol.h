@@ -17,7 +17,8 @@ enum class Request : std::uint8_t {
 };
 
 enum class Reply : std::uint8_t {
-    /// Sent once, unasked, as soon as the file is open. Number of tables (16 bits), and for each one its
+    /// Sent once, unasked, as soon as the file is open. The file's FileIdentity; number of tables (16 bits),
+    /// and for each one its
     /// name, its
     /// rows (32 bits), the number of its columns (16 bits), and for each of these its name, a CellType and
     /// its

@@ -118,8 +118,10 @@ void SqliteSource::Closer::operator()(sqlite3_stmt *statement) const {
 }
 
 SqliteSource::SqliteSource(QString path)
-    : m_path(std::move(path)) {
+    : m_path(std::move(path))
+    , m_file(m_path) {
     if (!isSqliteFile(m_path)) raiseDamaged(); // SQLite takes an empty file for an empty database
+    if (m_file.open(QIODevice::ReadOnly)) m_identity = FileIdentity::of(m_file.handle());
     const QByteArray address =
         QUrl::fromLocalFile(QFileInfo(m_path).absoluteFilePath()).toEncoded() + "?mode=ro&immutable=1";
     sqlite3 *database = nullptr;
@@ -244,6 +246,11 @@ void SqliteSource::read(const Table &table, const QVector<BoundCondition> &condi
             sqlite3_bind_int(statement.get(), i + 1, condition.integer);
     }
 
+    // The file is opened as one that nobody writes, and SQLite does not look again.
+    const auto checkUnchanged = [this] {
+        if (FileIdentity::of(m_file.handle()) != m_identity) raiseDamaged();
+    };
+    checkUnchanged();
     QVector<QVariant> row(table.fields.size());
     while (step(statement)) {
         for (int i = 0; i < row.size(); ++i) {
@@ -257,6 +264,7 @@ void SqliteSource::read(const Table &table, const QVector<BoundCondition> &condi
         }
         sink(row);
     }
+    checkUnchanged();
 }
 
 SqliteSource::Statement SqliteSource::prepare(const QString &sql) const {

@@ -3,16 +3,19 @@
 
 #include <memory>
 
+#include <QFile>
+
 #include "platform/dao/bound_condition.h"
+#include "platform/dao/file_identity.h"
 #include "platform/dao/table_source.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
 
 /// The file is never written and nothing is written beside it. The declared types give the columns' types,
-/// under any of their usual names: see declaredField(). A value that its declared type cannot hold is a damaged
-/// file, 3343: a text that is no number among numbers, a blob. A date is a text of the ISO form or a number
-/// of days since 1899-12-30.
+/// under any of their usual names: see declaredField(). A value that its declared type cannot hold is a
+/// damaged file, 3343: a text that is no number among numbers, a blob. A date is a text of the ISO form or a
+/// number of days since 1899-12-30.
 class SqliteSource : public TableSource {
 public:
     /// Raises 3343 for what is no SQLite file, or a damaged one.
@@ -50,6 +53,8 @@ private:
     [[noreturn]] void raiseDamaged() const;
 
     QString m_path;
+    QFile m_file;
+    FileIdentity m_identity;
     std::unique_ptr<sqlite3, Closer> m_database;
     QVector<Table> m_tables;
 };
