@@ -15,10 +15,14 @@ void press(Tour &tour, FormBase &form, const QString &button) {
     tour.click(tour.control<QAbstractButton>(form, button));
 }
 
-void selectGrade(Tour &tour, const QString &grade) {
-    for (FormBase &form : Forms())
-        if (form.Name() == QLatin1String("frmMaterial2") && form.Caption().contains(grade)) form.SetFocus();
-    tour.settle();
+FormBase &selectGrade(Tour &tour, const QString &grade) {
+    for (FormBase &form : Forms()) {
+        if (form.Name() != QLatin1String("frmMaterial2") || !form.Caption().contains(grade)) continue;
+        form.SetFocus();
+        tour.settle();
+        return form;
+    }
+    return tour.form("frmMaterial2");
 }
 
 /// The pages of a saved file, where the tool for it is installed.
@@ -38,6 +42,32 @@ QString save(Tour &tour, const QString &name, int format) {
     tour.boxes().answerMsgBox(vbOK);
     tour.menu("mnuFileElem(2)");
     return file;
+}
+
+/// More columns than fit across the page.
+void saveDesignValues(Tour &tour) {
+    FormBase &window = selectGrade(tour, "EN 10216-2");
+    const QString file = tour.folder() + "/design-values.pdf";
+    tour.boxes().driveForm([&](Form &form) {
+        tour.picture("save-design-values", form);
+        press(tour, form, "cmdSave(0)");
+    });
+    tour.boxes().chooseFile(file);
+    tour.boxes().answerMsgBox(vbOK);
+    press(tour, window, "cmdPrintSave(4)");
+    pagePictures(file);
+}
+
+void saveGraph(Tour &tour) {
+    FormBase &window = selectGrade(tour, "P265GH");
+    tour.menu("mnuViewMechElem(1)");
+    press(tour, window, "CommandShowGraph");
+    const QString file = tour.folder() + "/graph.pdf";
+    tour.boxes().chooseFile(file);
+    tour.boxes().answerMsgBox(vbOK);
+    press(tour, window, "cmdPrintSave(0)");
+    pagePictures(file);
+    press(tour, window, "CommandShowTable");
 }
 
 } // namespace
@@ -60,4 +90,6 @@ void printAndSave(Tour &tour) {
     save(tour, "P265GH.txt", 2);
     selectGrade(tour, "X2CrNiMo17-12-2");
     pagePictures(save(tour, "X2CrNiMo17-12-2.pdf", 0));
+    saveDesignValues(tour);
+    saveGraph(tour);
 }

@@ -5,6 +5,7 @@
 
 #include "platform/forms/form.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/tdb_grid.h"
 #include "tests/tour/tour.h"
 
 namespace {
@@ -36,6 +37,12 @@ void tables(Tour &tour, FormBase &window) {
         tour.menu(entry);
         tour.picture(name, *window.asWidget());
     }
+}
+
+/// What the first grade has no values for.
+void tablesOfStainlessSteel(Tour &tour, FormBase &window) {
+    tour.menu("mnuViewMechElem(0)");
+    tour.picture("table-of-twelve-columns", *window.asWidget());
     tour.menu("mnuViewMechElem(1)");
     for (int i : {1, 2}) {
         press(tour, window, QStringLiteral("optMechProp(%1)").arg(i));
@@ -44,7 +51,7 @@ void tables(Tour &tour, FormBase &window) {
 }
 
 void graphs(Tour &tour, FormBase &window) {
-    press(tour, window, "optMechProp(0)");
+    tour.menu("mnuViewMechElem(1)");
     press(tour, window, "CommandShowGraph");
     tour.picture("graph-bands", *window.asWidget());
     tour.boxes().driveForm([&](Form &form) {
@@ -63,6 +70,7 @@ void graphs(Tour &tour, FormBase &window) {
 } // namespace
 
 void showTablesAndGraphs(Tour &tour) {
+    tablesOfStainlessSteel(tour, windowOf(tour, "X2CrNiMo17-12-2"));
     FormBase &window = windowOf(tour, "P265GH");
     tables(tour, window);
     graphs(tour, window);
@@ -78,5 +86,9 @@ void designValues(Tour &tour) {
     tour.picture("design-values-of-two");
     tour.retype(box, "-10");
     tour.picture("design-values-below", *window.asWidget());
-    tour.retype(box, "120,5");
+    // no mean expansion is given at 20 °C, the lower neighbour
+    tour.retype(box, "60");
+    tour.control<TDBGrid>(window, "tdbDesign").setRow(16);
+    tour.picture("design-values-missing", *window.asWidget());
+    tour.retype(box, "480,5");
 }
