@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include <QAction>
 #include <QApplication>
@@ -72,9 +73,18 @@ int GridView::firstVisibleColumn() const {
 
 void GridView::columnsChanged() {
     m_rowsGrow = m_model.showsArray() || anyColumnWraps();
-    forgetRowHeights();
+    m_heightsStale = true;
+    scheduleDelayedItemsLayout();
+}
+
+void GridView::fitRows() {
+    if (m_rowsGrow && m_heightsStale) executeDelayedItemsLayout();
+}
+
+void GridView::doItemsLayout() {
+    if (std::exchange(m_heightsStale, false)) forgetRowHeights();
     fitVisibleRows();
-    viewport()->update();
+    QTableView::doItemsLayout();
 }
 
 QString GridView::selectedText() const {
@@ -141,7 +151,7 @@ void GridView::currentChanged(const QModelIndex &current, const QModelIndex &pre
 
 void GridView::resizeEvent(QResizeEvent *event) {
     QTableView::resizeEvent(event);
-    fitVisibleRows();
+    if (m_rowsGrow) scheduleDelayedItemsLayout();
 }
 
 void GridView::verticalScrollbarValueChanged(int value) {

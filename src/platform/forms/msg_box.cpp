@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "platform/forms/form_base.h"
+#include "platform/forms/forms.h"
 #include "platform/forms/modal_seam.h"
 #include "platform/forms/pointer_pause.h"
 #include "platform/runtime/app.h"
@@ -51,6 +53,13 @@ QMessageBox::Icon iconOf(int style) {
     }
 }
 
+/// What the box stands above: where the desktop has not made a window the active one yet, the form used last.
+QWidget *owner() {
+    if (QWidget *window = QApplication::activeWindow()) return window;
+    FormBase *form = Forms::active();
+    return form != nullptr ? form->asWidget()->window() : nullptr;
+}
+
 } // namespace
 
 int MsgBox(const QString &text, int style, const QString &title) {
@@ -63,7 +72,7 @@ int MsgBox(const QString &text, int style, const QString &title) {
         request.title = heading;
         return seam->takeMsgBoxAnswer(request);
     }
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(owner());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
