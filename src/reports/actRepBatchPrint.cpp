@@ -30,6 +30,7 @@ actRepBatchPrint &actRepBatchPrint::instance() {
 }
 
 actRepBatchPrint::actRepBatchPrint() {
+    ReportLayout::setPage(PageSetup);
     AddSection(SectionType::PageHeader, "PageHeader");
     AddSection(SectionType::Detail, "Detail");
     Section &footer = AddSection(SectionType::PageFooter, "PageFooter");

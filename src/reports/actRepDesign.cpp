@@ -46,10 +46,10 @@ actRepDesign::actRepDesign() {
     AddSection(SectionType::PageHeader, "PageHeader");
     Section &header = AddSection(SectionType::GroupHeader, "ghDesignTemp");
     header.RepeatOnNewPage = true;
-    header.Height = 720;
+    header.Height = 600;
     addLabel(header, "lblDesignTemp", "Temperature", 0, 0, LabelWidth, TitleHeight);
     addField(header, "txtDesignTemp", LabelWidth + 60, 0, 3000, TitleHeight).Font.Bold = true;
-    addLabel(header, "lblTable", "Table", 0, 390, LabelWidth, TitleHeight).Alignment = 2;
+    addLabel(header, "lblTable", "Table", 0, 300, LabelWidth, TitleHeight).Alignment = 2;
 
     AddSection(SectionType::GroupHeader, "ghExtended");
     Section &detail = AddSection(SectionType::Detail, "Detail");
@@ -69,7 +69,8 @@ actRepDesign::actRepDesign() {
     asHeading(continued, 2);
     continued.HeadingLevel = 0;
     Section &key = AddSection(SectionType::GroupFooter, "gfDesignValuesKey");
-    addField(key, "txtKey", 0, 120, PageWidth, TitleHeight).Font.Size = 9;
+    key.KeepTogether = true;
+    addField(key, "txtKey", 0, 60, PageWidth, TitleHeight).Font.Size = FontSize;
     AddSection(SectionType::PageFooter, "PageFooter");
 }
 

@@ -139,6 +139,7 @@ void addFooter(actRepMain &report) {
 
 void build(actRepMain &report) {
     report.DocumentName = "Velmar-PED";
+    setPage(report.PageSetup);
     addReportHeader(report);
     report.AddSection(SectionType::PageHeader, "PageHeader");
     addPlaces(report);

@@ -67,6 +67,11 @@ void addNotes(Section &section) {
     addField(section, "txtNotes", 0, 330, PageWidth, 240).Font.Size = TableFontSize;
 }
 
+/// Six design tables and their key, the most there are, fit on one page below the header.
+void setPage(PageSettings &page) {
+    page.BottomMargin = 700;
+}
+
 void addPageFooter(Section &section) {
     section.Height = 540;
     auto &rule = section.Controls.Add<Line>("linFooter");

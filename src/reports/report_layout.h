@@ -30,6 +30,8 @@ Printing::SubReport &addSubReport(Printing::Section &section, const QString &nam
 Printing::Label &addTitle(Printing::Section &section, const QString &text);
 /// lblNotes and txtNotes.
 void addNotes(Printing::Section &section);
+/// The margins of a report with pages of its own.
+void setPage(Printing::PageSettings &page);
 /// lblDocName, lblPage, txtPage, lblOf and txtPageTotal below a rule, above a second line that is free.
 void addPageFooter(Printing::Section &section);
 /// Puts the control into the second line of a page footer.
