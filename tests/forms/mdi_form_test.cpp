@@ -82,6 +82,16 @@ TEST_F(MdiFormTest, ControlTabWalksTheVisibleChildren) {
     EXPECT_EQ(walk, QStringList({"child0", "child2", "child0", "child2", "child0", "child1"}));
 }
 
+TEST_F(MdiFormTest, ControlF6WalksToAndControlF4ClosesTheChildInFront) {
+    QTest::keyClick(main->activeChild(), Qt::Key_F6, Qt::ControlModifier);
+    EXPECT_EQ(active(), "child0");
+    QTest::keyClick(main->activeChild(), Qt::Key_F6, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(active(), "child2");
+    QTest::keyClick(main->activeChild(), Qt::Key_F4, Qt::ControlModifier);
+    EXPECT_TRUE(child[2]->isUnloaded());
+    EXPECT_NE(active(), "child2");
+}
+
 TEST_F(MdiFormTest, AChildsCloseBoxAsksTheChild) {
     child[1]->refuses = [](UnloadMode mode) { return mode == vbFormControlMenu; };
     for (QWidget *frame : {child[0]->parentWidget(), child[1]->parentWidget()})

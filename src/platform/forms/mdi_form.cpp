@@ -195,15 +195,26 @@ bool MDIForm::eventFilter(QObject *watched, QEvent *event) {
         Q_EMIT DblClick();
         return true;
     }
-    // QMdiArea's own Ctrl+Tab goes back and forth between the two windows used last.
     if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
-        static_cast<QWidget *>(watched)->window() == this) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
-        if (tab && key->modifiers().testFlag(Qt::ControlModifier)) {
-            activateNextChild(key->key() == Qt::Key_Backtab || key->modifiers().testFlag(Qt::ShiftModifier));
-            return true;
-        }
-    }
+        static_cast<QWidget *>(watched)->window() == this && childKey(*static_cast<QKeyEvent *>(event)))
+        return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+/// Ctrl with Tab or F6 walks the children, with F4 closes the one in front. QMdiArea's own Ctrl+Tab would go
+/// back and forth between the two windows used last.
+bool MDIForm::childKey(const QKeyEvent &event) {
+    if (!event.modifiers().testFlag(Qt::ControlModifier)) return false;
+    switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_F6:
+        activateNextChild(event.key() == Qt::Key_Backtab || event.modifiers().testFlag(Qt::ShiftModifier));
+        return true;
+    case Qt::Key_F4:
+        if (Form *child = activeChild()) child->Unload(vbFormControlMenu);
+        return true;
+    default:
+        return false;
+    }
 }

@@ -71,6 +71,7 @@ private:
     void activateBehind(const ChildFrame *hidden);
     void frameActivated(QMdiSubWindow *frame);
     QList<Form *> forms() const;
+    bool childKey(const QKeyEvent &event);
 
     QMdiArea *m_area;
     int m_backColor;
