@@ -1,5 +1,6 @@
 #include "bench/process_info.h"
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -43,15 +44,19 @@ Memory memoryOf(qint64 process) {
 }
 
 double processorTimeOf(qint64 process) {
-    constexpr int UserTime = 11; // the fields behind the name, which may hold blanks
-    double ticks = 0;
-    for (const qint64 one : withChildren(process)) {
-        const QByteArray line = read(one, "stat");
-        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-        if (fields.size() > UserTime + 1)
-            ticks += fields[UserTime].toDouble() + fields[UserTime + 1].toDouble();
-    }
-    return ticks / static_cast<double>(sysconf(_SC_CLK_TCK));
+    double nanoseconds = 0;
+    for (const qint64 one : withChildren(process))
+        nanoseconds += read(one, "schedstat").split(' ').first().toDouble();
+    return nanoseconds * 1e-9;
+}
+
+double processorTime() {
+    const auto seconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    rusage ended{};
+    getrusage(RUSAGE_CHILDREN, &ended);
+    return processorTimeOf(getpid()) + seconds(ended.ru_utime) + seconds(ended.ru_stime);
 }
 
 } // namespace Bench

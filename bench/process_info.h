@@ -17,4 +17,7 @@ Memory memoryOf(qint64 process);
 /// Seconds of processor time so far, children that still run included.
 double processorTimeOf(qint64 process);
 
+/// Of this process and its children, those that have ended included.
+double processorTime();
+
 } // namespace Bench

@@ -29,11 +29,16 @@ void Samples::report(benchmark::State &state, const Goal &goal, const Samples &o
     report(state, goal);
     if (other.m_clock.empty()) return;
     // A machine that grows slower in the meantime slows both of a pair down.
-    std::vector<double> ratios;
-    for (std::size_t i = 0; i < std::min(m_clock.size(), other.m_clock.size()); ++i)
-        ratios.push_back(m_clock[i] / other.m_clock[i]);
+    const auto ratio = [](const std::vector<double> &ours, const std::vector<double> &others) {
+        std::vector<double> ratios;
+        for (std::size_t i = 0; i < std::min(ours.size(), others.size()); ++i)
+            if (others[i] > 0) ratios.push_back(ours[i] / others[i]);
+        return median(ratios);
+    };
     state.counters[Counter::Other] = median(other.m_clock) * 1000;
-    state.counters[Counter::Ratio] = median(ratios);
+    state.counters[Counter::OtherCpu] = median(other.m_cpu) * 1000;
+    state.counters[Counter::Ratio] = ratio(m_clock, other.m_clock);
+    state.counters[Counter::CpuRatio] = ratio(m_cpu, other.m_cpu);
     if (goal.ratio > 0) state.counters[Counter::RatioGoal] = goal.ratio;
 }
 

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <chrono>
-#include <ctime>
 #include <vector>
 
 #include <benchmark/benchmark.h>
+
+#include "bench/process_info.h"
 
 namespace Bench {
 
@@ -48,12 +49,6 @@ public:
     void report(benchmark::State &state, const Goal &goal, const Samples &other) const;
 
 private:
-    static double processorTime() {
-        timespec time{};
-        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-    }
-
     std::vector<double> m_clock;
     std::vector<double> m_cpu;
 };

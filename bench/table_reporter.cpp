@@ -1,6 +1,8 @@
 #include "bench/table_reporter.h"
 
+#include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
 #include <string>
 
@@ -10,11 +12,14 @@ namespace {
 
 using Run = benchmark::BenchmarkReporter::Run;
 
-void line(const std::string &what, const std::string &median, const std::string &slowest,
-          const std::string &cpu, const std::string &goal, const std::string &other, const std::string &ratio,
-          const std::string &verdict) {
-    std::printf("| %-58s | %10s | %10s | %9s | %14s | %9s | %6s | %-6s |\n", what.c_str(), median.c_str(),
-                slowest.c_str(), cpu.c_str(), goal.c_str(), other.c_str(), ratio.c_str(), verdict.c_str());
+constexpr std::size_t Columns = 10;
+/// A negative width stands to the left.
+constexpr std::array<int, Columns> Widths = {-58, 10, 9, 9, 15, 8, 8, 7, 9, -6};
+
+void line(const std::array<std::string, Columns> &cells) {
+    for (std::size_t i = 0; i < Columns; ++i)
+        std::printf("| %*s ", Widths[i], cells[i].c_str());
+    std::printf("|\n");
     std::fflush(stdout);
 }
 
@@ -55,8 +60,10 @@ void printRun(const Run &run) {
     std::string verdict;
     if (goal || (ratio && ratioGoal))
         verdict = misses(shown, goal) || misses(ratio, ratioGoal) ? "misses" : "meets";
-    line(what, text(shown, unit), text(counter(run, Counter::Slowest)), text(counter(run, Counter::Cpu)),
-         goals, text(counter(run, Counter::Other)), text(ratio, "x"), verdict);
+    const auto number = [&run](const char *name) { return text(counter(run, name)); };
+    line({what, text(shown, unit), number(Counter::Slowest), number(Counter::Cpu), goals,
+          number(Counter::Other), number(Counter::OtherCpu), text(ratio, "x"),
+          text(counter(run, Counter::CpuRatio), "x"), verdict});
 }
 
 } // namespace
@@ -67,9 +74,14 @@ bool TableReporter::ReportContext(const Context &context) {
     for (const double load : cpu.load_avg)
         std::printf(" %.2f", load);
     std::printf("; milliseconds, medians\n\n");
-    line("what the user waits for", "median", "slowest", "CPU", "goal", "mdbtools", "ratio", "");
-    line(std::string(58, '-'),
-         "---------:", "---------:", "--------:", "-------------:", "--------:", "-----:", "------");
+    line({"what the user waits for", "median", "slowest", "CPU", "goal", "mdbtools", "its CPU", "ratio",
+          "CPU ratio", ""});
+    std::array<std::string, Columns> rule;
+    for (std::size_t i = 0; i < Columns; ++i) {
+        rule[i] = std::string(static_cast<std::size_t>(std::abs(Widths[i])), '-');
+        if (Widths[i] > 0) rule[i].back() = ':';
+    }
+    line(rule);
     return true;
 }
 

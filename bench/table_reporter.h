@@ -12,7 +12,9 @@ inline constexpr const char *Slowest = "slowest";
 inline constexpr const char *Cpu = "cpu";
 inline constexpr const char *Goal = "goal";
 inline constexpr const char *Other = "other";
+inline constexpr const char *OtherCpu = "other cpu";
 inline constexpr const char *Ratio = "ratio";
+inline constexpr const char *CpuRatio = "cpu ratio";
 inline constexpr const char *RatioGoal = "ratio goal";
 inline constexpr const char *Megabytes = "megabytes";
 } // namespace Counter
