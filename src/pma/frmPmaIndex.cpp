@@ -31,21 +31,23 @@ struct IndexColumn {
     int width; // twips
 };
 
-const IndexColumn Columns[] = {{"Specification", "Specification", 2400}, {"Name", "Designationname", 1800},
-                               {"Number", "Designationnumber", 1500},    {"Product", "Product", 1800},
+const IndexColumn Columns[] = {{"Specification", "Specification", 2700}, {"Name", "Designationname", 2250},
+                               {"Number", "Designationnumber", 1800},    {"Product", "Product", 2100},
                                {"Date", "RevisionDate", 1500},           {"Revision", "Revision", 1050}};
 
-const QString InfoText = QStringLiteral("In guideline WGP 7/21 it is explained that two different processes "
-                                        "for materials are provided for in the "
-                                        "directive. One is to verify compliance of the material "
-                                        "specification to the ESRs of the directive. The other "
-                                        "is to evaluate the suitability of the material for a specific "
-                                        "application. A particular material appraisal "
-                                        "(PMA) is intended to achieve the first one, although the two "
-                                        "processes can be performed simultaneously. A PMA "
-                                        "drafted by Harmotek can be sent to a client but is only valid when "
-                                        "signed by Harmotek Sweden after design "
-                                        "review.");
+const QString InfoText = QStringLiteral(
+    "In guideline WGP 7/21 it is explained that two different processes for materials are provided for in "
+    "the directive. One is to verify compliance of the material specification to the ESRs of the "
+    "directive. The other is to evaluate the suitability of the material for a specific application. A "
+    "particular material appraisal (PMA) is intended to achieve the first one, although the two processes "
+    "can be performed simultaneously. A PMA drafted by Harmotek can be sent to a client but is only valid "
+    "when signed by Harmotek Sweden after design review.");
+
+/// Without a leading folder a path is meant from the program's folder. The index may have been written on a
+/// system that separates folders by a backslash.
+QString documentFile(QString path) {
+    return QDir(App::current().path).absoluteFilePath(path.replace('\\', '/'));
+}
 
 } // namespace
 
@@ -103,7 +105,7 @@ void frmPmaIndex::Form_Resize() {
     const int height = ScaleHeight();
     place(txtSearchString, 240, 240, 3600, 345);
     place(cmdSearch, 3960, 210, 1320, 405);
-    place(cmdInfo, width - 1800, 210, 1560, 405);
+    place(cmdInfo, 5400, 210, 1560, 405); // a screen may be narrower than the window
     constexpr int InfoHeight = 1800;
     place(tdbIndex, 240, 780, width - 480, height - 780 - InfoHeight - 360);
     place(fraInfo, 240, height - InfoHeight - 240, width - 480, InfoHeight);
@@ -137,8 +139,7 @@ void frmPmaIndex::openCurrentDocument() {
     mdiVelmar &main = mdiVelmar::instance();
     main.setMousePointer(vbHourglass);
     try {
-        const QString path = CStr(dtaPmaIndex->recordset()->Fields(DocumentField));
-        const QString file = QDir(App::current().path).absoluteFilePath(path);
+        const QString file = documentFile(CStr(dtaPmaIndex->recordset()->Fields(DocumentField)));
         if (modDocument::FileExists(file)) modDocument::OpenDocument(this, file);
     } catch (const RuntimeError &) {
         // a row without a document has nothing to open

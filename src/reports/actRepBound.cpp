@@ -24,8 +24,9 @@ constexpr int PhysicalColumnWidth = 1700;
 constexpr int CaptionHeight = 750;
 
 /// The headings of physical properties as formulas, in store for imgPhysA and imgPhysB.
-const char *const Formulas[] = {"modulus-of-elasticity", "expansion-mean",         "thermal-conductivity",
-                                "heat-capacity-mean",    "electrical-resistivity", "heat-capacity-differential"};
+const char *const Formulas[] = {"modulus-of-elasticity",  "expansion-mean",
+                                "thermal-conductivity",   "heat-capacity-mean",
+                                "electrical-resistivity", "heat-capacity-differential"};
 
 QString formulaFile(const QString &name) {
     return ":/velmar/formula/" + name + ".svg";
@@ -33,7 +34,9 @@ QString formulaFile(const QString &name) {
 
 void addColumn(Section &title, Section &detail, int column, int left, int width) {
     const QString number = QString::number(column);
-    asCaption(addLabel(title, "lblCol" + number, {}, left, CaptionTop, width, CaptionHeight));
+    Label &caption = addLabel(title, "lblCol" + number, {}, left, CaptionTop, width, CaptionHeight);
+    asCaption(caption);
+    caption.VerticalAlignment = 1;
     asCell(addField(detail, "txtField" + number, left, 0, width, RowHeight));
 }
 
@@ -56,8 +59,8 @@ actRepBound::actRepBound() {
         addImage(title, "imgPhys" + QString::number(i), formulaFile(Formulas[i]), 0, 0, 0, 0).Visible = false;
     addImage(title, "imgPhysA", {}, 0, 0, 0, 0).Visible = false;
     addImage(title, "imgPhysB", formulaFile("expansion-differential"), 0, 0, 0, 0).Visible = false;
-    addLabel(title, "lblCompatibleData", "Compatible Data Note", 0, CaptionTop, PageWidth, RowHeight).Visible =
-        false;
+    addLabel(title, "lblCompatibleData", "Compatible Data Note", 0, CaptionTop, PageWidth, RowHeight)
+        .Visible = false;
     addNotes(AddSection(SectionType::GroupFooter, "gfNotes"));
     AddSection(SectionType::PageFooter, "PageFooter");
 }
@@ -81,7 +84,8 @@ void actRepBound::bindRows() {
         SetThicknessColumns();
         return;
     }
-    DataSource = modDBase::dbMain()->OpenRecordset(Queries::sqlReportTemperatureRows(m_key, m_material->ID()));
+    DataSource =
+        modDBase::dbMain()->OpenRecordset(Queries::sqlReportTemperatureRows(m_key, m_material->ID()));
     if (m_key == QLatin1String("ImpEnergy"))
         SetImpactColumns();
     else

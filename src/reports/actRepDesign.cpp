@@ -14,7 +14,7 @@ using namespace ReportLayout;
 
 namespace {
 
-constexpr int LabelWidth = 1250;
+constexpr int LabelWidth = 1310;
 constexpr int SmallestColumn = 1155;
 constexpr int CaptionHeight = 851;
 constexpr int ValueHeight = 283;
@@ -87,7 +87,8 @@ void actRepDesign::DataInitialize() {
     if (!window) throw RuntimeError(91);
     xDesign = window->xDesignDB;
     iLastCol = xDesign->UpperBound(2);
-    Sections("ghDesignTemp").Controls.Item<Field>("txtDesignTemp").Text = window->txtDesignTemp->text() + " °C";
+    Sections("ghDesignTemp").Controls.Item<Field>("txtDesignTemp").Text =
+        window->txtDesignTemp->text() + " °C";
     bCreep = material.TableHasData("CreepProp");
     if (bCreep) {
         aColSize = material.MechCreepColSize("CreepProp");
@@ -103,11 +104,15 @@ void actRepDesign::DataInitialize() {
     }
     m_lastField = &templateField("txtField1");
     for (int column = 2; column <= iLastCol; ++column) {
-        if (column < iFirstExtCol || !bExtended)
-            addColumn(column);
-        else
+        if (isInBlock(column))
             addBlockColumn(column);
+        else
+            addColumn(column);
     }
+    bindTemplateFields();
+}
+
+void actRepDesign::bindTemplateFields() {
     for (const char *number : {"0", "1"}) {
         const QString name = QLatin1String("Field") + QLatin1String(number);
         Fields.Add(name);
@@ -129,6 +134,8 @@ bool actRepDesign::testWidth() {
                        : width + SmallestColumn;
         if (width > PageWidth) {
             iFirstExtCol = column;
+            // empty creep columns have no column in the design table
+            m_firstBlockColumn = column - static_cast<int>(bEmptyCol.mid(0, column).count(true));
             return true;
         }
     }
@@ -138,10 +145,9 @@ bool actRepDesign::testWidth() {
 /// The tables that have columns past the break.
 void actRepDesign::markExtendedRows() {
     bExtRow.fill(false, lastRow() + 1);
-    // empty creep columns count in the width test's numbers and not in the table's
-    if (iFirstExtCol > iLastCol) return;
+    if (m_firstBlockColumn > iLastCol) return;
     for (int row = 1; row <= lastRow(); row += 3) {
-        const QString cell = xDesign->Get(row, iFirstExtCol).toString();
+        const QString cell = xDesign->Get(row, m_firstBlockColumn).toString();
         if (cell.isEmpty() || cell == QLatin1String(" ")) continue;
         for (int i = row; i < row + 3; ++i)
             bExtRow[i] = true;
@@ -151,8 +157,8 @@ void actRepDesign::markExtendedRows() {
 
 void actRepDesign::addColumn(int column) {
     const QString name = "Field" + QString::number(column);
-    Field &field = addField(Sections("Detail"), "txt" + name, rightEdge(*m_lastField), FieldTop, SmallestColumn,
-                            ValueHeight);
+    Field &field = addField(Sections("Detail"), "txt" + name, rightEdge(*m_lastField), FieldTop,
+                            SmallestColumn, ValueHeight);
     field.VerticalAlignment = 1;
     field.Alignment = 2;
     frameRight(field);
@@ -197,7 +203,7 @@ int actRepDesign::nextBlockWidth() {
 
 void actRepDesign::addBlockColumn(int column) {
     Section &block = Sections("gfExtended");
-    const int previousColumn = column == iFirstExtCol ? 0 : column - 1;
+    const int previousColumn = column == m_firstBlockColumn ? 0 : column - 1;
     const int width = nextBlockWidth();
     const Control *above = nullptr;
     for (int row = iFirstExtRow; row <= lastRow(); ++row) {
@@ -211,12 +217,13 @@ void actRepDesign::addBlockColumn(int column) {
         }
         const auto &previous = block.Controls.Item<Field>(blockCellName(row, previousColumn));
         placeBlockCell(cell, row, above, previous, width);
-        if (column == iFirstExtCol && kindOf(row) != RowKind::Spacer) cell.Border.LeftStyle = 1;
+        if (column == m_firstBlockColumn && kindOf(row) != RowKind::Spacer) cell.Border.LeftStyle = 1;
         above = &cell;
     }
 }
 
-void actRepDesign::placeBlockCell(Field &cell, int row, const Control *above, const Control &previous, int width) {
+void actRepDesign::placeBlockCell(Field &cell, int row, const Control *above, const Control &previous,
+                                  int width) {
     cell.Left = above ? above->Left : rightEdge(previous);
     cell.Top = above ? bottomEdge(*above) + BlockGap : previous.Top;
     cell.Width = width;
@@ -250,7 +257,7 @@ void actRepDesign::FetchData(bool &eof) {
     };
     for (int column = 0; column <= iLastCol; ++column) {
         const QVariant cell = xDesign->Get(iRow, column);
-        if (bExtended && column >= iFirstExtCol) {
+        if (isInBlock(column)) {
             putIntoBlock(column, cell);
             continue;
         }
@@ -264,10 +271,11 @@ void actRepDesign::FetchData(bool &eof) {
 void actRepDesign::Format(Section &section) {
     if (section.Name != QLatin1String("Detail")) return;
     const int row = iRow - 1;
+    section.KeepWithNext = kindOf(row) == RowKind::Caption;
     const double fontSize = templateField("txtField0").Font.Size;
     Control &dummy = section.Controls.Item("lblDummy");
     for (int column = 0; column <= iLastCol; ++column) {
-        if (bExtended && column >= iFirstExtCol) break;
+        if (isInBlock(column)) break;
         auto &field = section.Controls.Item<Field>("txtField" + QString::number(column));
         field.Font.Size = fontSize;
         if (row <= LastLaidOutRow) {

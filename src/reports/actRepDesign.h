@@ -21,12 +21,13 @@ protected:
     void Format(Printing::Section &section) override;
 
 private:
-    void readCreepColumns();
     bool testWidth();
     void markExtendedRows();
+    void bindTemplateFields();
     void addColumn(int column);
     void addFirstBlockColumn();
     void addBlockColumn(int column);
+    bool isInBlock(int column) const { return bExtended && column >= m_firstBlockColumn; }
     void placeBlockCell(Printing::Field &cell, int row, const Printing::Control *above,
                         const Printing::Control &previous, int width);
     int nextBlockWidth();
@@ -39,7 +40,10 @@ private:
     std::shared_ptr<XArrayDB> xDesign;
     int iRow = 1;
     int iLastCol = 0;
+    /// In the creep table's columns, where there is one.
     int iFirstExtCol = 0;
+    /// The same in the columns of xDesign.
+    int m_firstBlockColumn = 0;
     bool bExtended = false;
     QVector<bool> bExtRow;
     int iFirstExtRow = 0;

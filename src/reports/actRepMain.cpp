@@ -85,14 +85,19 @@ void actRepMain::chooseMaterial() {
 
 /// The icons beside the headings are seen in the preview and on paper only.
 void actRepMain::choosePictures() {
-    if (bSaveToFile && iSaveFormat != 0) {
+    if (bSaveToFile && iSaveFormat != ReportExport::Pdf) {
         Sections("ReportHeader").Controls.Item("imgVelmar").Visible = false;
         setText("ReportHeader", "lblVelmar", "Velmar-PED");
     }
     if (!bSaveToFile) return;
-    for (const auto &section : sections())
-        for (const auto &control : section->Controls)
+    for (const auto &section : sections()) {
+        for (const auto &control : section->Controls) {
+            auto *text = dynamic_cast<TextControl *>(control.get());
             if (control->Name.startsWith("imgIcon")) control->Visible = false;
+            // into the place that the icon leaves
+            if (text && text->HeadingLevel > 0) text->Left = 0;
+        }
+    }
 }
 
 void actRepMain::fillHeader() {
@@ -119,9 +124,12 @@ void actRepMain::fillHeader() {
     setText("PageFooter", "lblDocName", DocumentName);
 }
 
-/// In a long batch each section says whose it is.
+/// In a long batch each section says whose it is, and the outline has the material above its sections.
 void actRepMain::nameBatchSections() {
     if (!mdiVelmar::instance().bBatchPrint) return;
+    auto &title = Sections("ReportHeader").Controls.Item<Label>("lblVelmar");
+    title.HeadingLevel = 1;
+    title.OutlineText = mMaterial->Name() + ' ' + mMaterial->Number() + ' ' + mMaterial->Standard();
     const std::pair<const char *, const char *> headings[] = {
         {"ghChemComp", "lblChemComp"}, {"ghImpEnergy", "lblImpEnergy"}, {"ghAddInfo", "lblAddInfo"}};
     for (const auto &[section, label] : headings)
@@ -147,6 +155,8 @@ void actRepMain::chooseContent() {
             controls.Item<Image>("imgIcon2").Content = controls.Item<Image>("imgIcon6").Content;
             setText("ghMechProp", "lblMechProp", "Design Values");
         }
+        // it is all there is, and may begin below the header
+        Sections("ghMechProp").KeepTogether = false;
         hide("ghChemComp");
         hide("ghImpEnergy");
         hide("ghAddInfo");

@@ -10,28 +10,31 @@ using namespace ReportLayout;
 
 namespace {
 
-constexpr int HeadingTop = 240;
-constexpr int SubReportTop = 690;
-constexpr int RowHeight = 270;
+// The distance above a heading parts it from the place before.
+constexpr int HeadingTop = 360;
+constexpr int HeadingHeight = 345;
+constexpr int PlaceHeight = 840;
+constexpr int TableDistance = 300;
+constexpr int IconSize = 360;
+constexpr int LineHeight = 270;
 
 const QString IconFolder = QStringLiteral(":/velmar/toolbar/");
 
 /// A word of the header and the field beside it.
 void addPair(Section &section, const QString &label, const QString &word, const QString &field, int left,
              int top, int labelWidth, int fieldWidth) {
-    Label &name = addLabel(section, label, word, left, top, labelWidth, RowHeight);
+    Label &name = addLabel(section, label, word, left, top, labelWidth, LineHeight);
     name.ForeColor = QColor(0x55, 0x55, 0x55);
-    Field &value = addField(section, field, left + labelWidth, top, fieldWidth, RowHeight);
-    value.Font.Bold = true;
-    value.CanGrow = true;
+    addField(section, field, left + labelWidth, top, fieldWidth, LineHeight).Font.Bold = true;
 }
 
 void addBlockTitle(Section &section, const QString &name, const QString &text, int top) {
     Label &label = addLabel(section, name, text, 0, top, PageWidth, 300);
     label.Font.Bold = true;
     label.Font.Size = 11;
-    label.VerticalAlignment = 1;
-    label.Border.BottomStyle = 1;
+    auto &rule = section.Controls.Add<Line>("lin" + text);
+    rule.Top = top + 300;
+    rule.Width = PageWidth;
 }
 
 void addReportHeader(actRepMain &report) {
@@ -43,23 +46,34 @@ void addReportHeader(actRepMain &report) {
     Label &title = addLabel(section, "lblVelmar", "     elmar-PED", 0, 120, 6000, 540);
     title.Font.Size = 20;
     title.Font.Bold = true;
-    Field &dateTime = addField(section, "txtDateTime", 6600, 330, 3600, RowHeight);
+    Field &dateTime = addField(section, "txtDateTime", 6000, 330, 3060, LineHeight);
     dateTime.Alignment = 1;
     dateTime.Font.Size = 9;
+    addImage(section, "Image1", ":/velmar/app/logo.svg", 9240, 0, 960, 720);
 
-    constexpr int WordWidth = 1350;
+    constexpr int WordWidth = 1650;
+    constexpr int Right = 6000;
+    constexpr int RightWordWidth = 1050;
+    const auto addWide = [&section](const char *label, const char *word, const char *field, int top) {
+        addPair(section, label, word, field, 0, top, WordWidth, PageWidth - WordWidth);
+    };
+    const auto addLeft = [&section](const char *label, const char *word, const char *field, int top) {
+        addPair(section, label, word, field, 0, top, WordWidth, Right - 120 - WordWidth);
+    };
+    const auto addRight = [&section](const char *label, const char *word, const char *field, int top) {
+        addPair(section, label, word, field, Right, top, RightWordWidth, PageWidth - Right - RightWordWidth);
+    };
     addBlockTitle(section, "lblMaterial", "Material", 870);
-    addPair(section, "lblMatName", "Name", "txtMatName", 0, 1230, WordWidth, 3900);
-    addPair(section, "lblNumber", "Number", "txtMatNumber", 5400, 1230, WordWidth, 3450);
-    addPair(section, "lblMatGroup", "Group", "txtMatGroup", 0, 1530, WordWidth, 3900);
-    addPair(section, "lblRevDate", "Rev. Date", "txtRevDate", 5400, 1530, WordWidth, 3450);
-    addPair(section, "lblMatDesc", "Description", "txtMatDesc", 0, 1830, WordWidth, PageWidth - WordWidth);
-
-    addBlockTitle(section, "lblStandard", "Standard", 2220);
-    addPair(section, "lblSName", "Name", "txtStandName", 0, 2580, WordWidth, 3900);
-    addPair(section, "lblSRevDate", "Rev. Date", "txtSRevDate", 5400, 2580, WordWidth, 3450);
-    addPair(section, "lblSDesc", "Description", "txtStandDesc", 0, 2880, WordWidth, PageWidth - WordWidth);
-    addPair(section, "lblProdForm", "Product Form(s)", "txtProdForm", 0, 3450, 1650, PageWidth - 1650);
+    addLeft("lblMatName", "Name", "txtMatName", 1230);
+    addRight("lblNumber", "Number", "txtMatNumber", 1230);
+    addLeft("lblMatGroup", "Group", "txtMatGroup", 1530);
+    addRight("lblRevDate", "Rev. Date", "txtRevDate", 1530);
+    addWide("lblMatDesc", "Description", "txtMatDesc", 1830);
+    addBlockTitle(section, "lblStandard", "Standard", 2280);
+    addLeft("lblSName", "Name", "txtStandName", 2640);
+    addRight("lblSRevDate", "Rev. Date", "txtSRevDate", 2640);
+    addWide("lblSDesc", "Description", "txtStandDesc", 2940);
+    addWide("lblProdForm", "Product Form(s)", "txtProdForm", 3510);
 }
 
 /// A place for one table, under a heading of its own or of its group.
@@ -67,47 +81,52 @@ Section &addPlace(actRepMain &report, const QString &name, const QString &headin
                   const QString &icon, const QString &picture) {
     Section &section = report.AddSection(SectionType::GroupHeader, name);
     section.KeepWithNext = false;
-    section.Height = 930;
-    addImage(section, icon, IconFolder + picture, 0, HeadingTop - 15, 360, 360);
-    Label &label = addLabel(section, heading, headingText, 450, HeadingTop, PageWidth - 450, 345);
+    section.KeepTogether = true;
+    section.Height = PlaceHeight;
+    addImage(section, icon, IconFolder + picture, 0, HeadingTop - 15, IconSize, IconSize);
+    Label &label = addLabel(section, heading, headingText, IconSize + 90, HeadingTop,
+                            PageWidth - IconSize - 90, HeadingHeight);
     asHeading(label, 1);
     return section;
 }
 
-void addTablePlace(actRepMain &report, const QString &name, const QString &subReport, bool shown) {
+void addFurtherPlace(actRepMain &report, const QString &name, const QString &subReport) {
     Section &section = report.AddSection(SectionType::GroupHeader, name);
     section.KeepWithNext = false;
-    section.Visible = shown;
-    addSubReport(section, subReport, 120);
+    section.KeepTogether = true;
+    section.Visible = false;
+    addSubReport(section, subReport, TableDistance);
 }
 
 void addPlaces(actRepMain &report) {
+    // the composition's report begins with the empty place of the title that it does not show
     addSubReport(addPlace(report, "ghChemComp", "lblChemComp", "Chemical Composition", "imgIcon1",
                           "chemical-composition.svg"),
-                 "subRepChemComp", SubReportTop);
+                 "subRepChemComp", HeadingTop + HeadingHeight);
     Section &mech = addPlace(report, "ghMechProp", "lblMechProp", "Mechanical Properties", "imgIcon2",
                              "mechanical-properties.svg");
     // not shown itself: the design values take its picture
-    addImage(mech, "imgIcon6", IconFolder + "design-values.svg", 0, HeadingTop - 15, 360, 360).Visible =
-        false;
-    addSubReport(mech, "subRepMechProp", SubReportTop);
-    for (int i = 1; i <= 3; ++i)
-        addTablePlace(report, QStringLiteral("ghElevated%1").arg(i),
-                      QStringLiteral("subRepElevated%1").arg(i), false);
-    addTablePlace(report, "ghCreepProp", "subRepCreepProp", false);
+    addImage(mech, "imgIcon6", IconFolder + "design-values.svg", 0, HeadingTop - 15, IconSize, IconSize)
+        .Visible = false;
+    addSubReport(mech, "subRepMechProp", PlaceHeight);
+    for (const char *number : {"1", "2", "3"})
+        addFurtherPlace(report, QLatin1String("ghElevated") + QLatin1String(number),
+                        QLatin1String("subRepElevated") + QLatin1String(number));
+    addFurtherPlace(report, "ghCreepProp", "subRepCreepProp");
     addSubReport(
         addPlace(report, "ghImpEnergy", "lblImpEnergy", "Impact Energy", "imgIcon3", "impact-energy.svg"),
-        "subRepImpEnergy", SubReportTop);
+        "subRepImpEnergy", PlaceHeight);
     Section &phys = addPlace(report, "ghPhysProp1", "lblPhysProp", "Physical Properties", "imgIcon4",
                              "physical-properties.svg");
     phys.Visible = false;
-    addSubReport(phys, "subRepPhysProp1", SubReportTop);
-    for (int i = 2; i <= 5; ++i)
-        addTablePlace(report, QStringLiteral("ghPhysProp%1").arg(i),
-                      QStringLiteral("subRepPhysProp%1").arg(i), false);
+    addSubReport(phys, "subRepPhysProp1", PlaceHeight);
+    for (const char *number : {"2", "3", "4", "5"})
+        addFurtherPlace(report, QLatin1String("ghPhysProp") + QLatin1String(number),
+                        QLatin1String("subRepPhysProp") + QLatin1String(number));
     Section &info = addPlace(report, "ghAddInfo", "lblAddInfo", "Additional Information...", "imgIcon5",
                              "additional-information.svg");
-    addField(info, "txtAddInfo", 0, SubReportTop, PageWidth, RowHeight).CanGrow = true;
+    info.KeepTogether = false;
+    addField(info, "txtAddInfo", 0, PlaceHeight, PageWidth, LineHeight);
 }
 
 void addFooter(actRepMain &report) {

@@ -21,7 +21,7 @@ constexpr double CompositionFontSize = 8;
 constexpr int CompositionBreak = 12;
 
 // In the block below the table.
-constexpr int BlockTitleTop = 150;
+constexpr int BlockTitleTop = 180;
 constexpr int BlockCaptionTop = BlockTitleTop + CaptionTop;
 
 void addFirstColumnOfBlock(Section &block) {
@@ -69,6 +69,7 @@ actRepUnBound::actRepUnBound() {
     addFirstColumnOfBlock(block);
     Section &other = AddSection(SectionType::GroupFooter, "gfOther");
     other.Visible = false;
+    other.KeepTogether = true;
     addOtherElements(other);
     addNotes(AddSection(SectionType::GroupFooter, "gfNotes"));
     AddSection(SectionType::PageFooter, "PageFooter");
@@ -221,7 +222,7 @@ void actRepUnBound::addColumnField(int column) {
     Section &detail = section("Detail");
     const int width = isComposition() ? m_lastField->Width : widthOf(column);
     Field &field = addField(detail, "Field" + QString::number(column), rightEdge(*m_lastField),
-                                          m_lastField->Top, width, m_lastField->Height);
+                            m_lastField->Top, width, m_lastField->Height);
     asCell(field);
     field.Border.LeftStyle = 0;
     field.Font.Size = detail.Controls.Item<Field>("Field0").Font.Size;
@@ -233,9 +234,9 @@ void actRepUnBound::addColumnField(int column) {
 void actRepUnBound::addBlockElement(int column) {
     Section &block = section("gfExtended");
     const QString number = QString::number(column);
-    Label &caption =
-        addLabel(block, "lblCaption" + number, mMaterial->ColCaption(strKey, column),
-                 rightEdge(*m_lastBlockCaption), m_lastBlockCaption->Top, widthOf(column), m_lastBlockCaption->Height);
+    Label &caption = addLabel(block, "lblCaption" + number, mMaterial->ColCaption(strKey, column),
+                              rightEdge(*m_lastBlockCaption), m_lastBlockCaption->Top, widthOf(column),
+                              m_lastBlockCaption->Height);
     asCaption(caption);
     m_lastBlockCaption = &caption;
     const int left = rightEdge(*m_lastBlockMaximum);
@@ -248,16 +249,16 @@ void actRepUnBound::addBlockElement(int column) {
 /// A column that does not fit: its caption, and all its rows one below the other.
 void actRepUnBound::addBlockColumn(int column) {
     Section &block = section("gfExtended");
-    Label &caption =
-        addLabel(block, "lblX_" + QString::number(column), mMaterial->ColCaption(strKey, column),
-                 rightEdge(*m_lastBlockCaption), m_lastBlockCaption->Top, widthOf(column), m_lastBlockCaption->Height);
+    Label &caption = addLabel(block, "lblX_" + QString::number(column), mMaterial->ColCaption(strKey, column),
+                              rightEdge(*m_lastBlockCaption), m_lastBlockCaption->Top, widthOf(column),
+                              m_lastBlockCaption->Height);
     asCaption(caption);
     m_lastBlockCaption = &caption;
     const int left = rightEdge(*m_lastBlockField);
     Control *above = nullptr;
     for (int row = aTable.LowerBound(1); row <= aTable.UpperBound(1); ++row) {
-        Field &cell = addBlockCell(QStringLiteral("FieldX%1_%2").arg(row).arg(column), *m_lastBlockField, left,
-                                   caption.Width);
+        Field &cell = addBlockCell(QStringLiteral("FieldX%1_%2").arg(row).arg(column), *m_lastBlockField,
+                                   left, caption.Width);
         if (above)
             cell.Top = bottomEdge(*above);
         else
@@ -268,8 +269,7 @@ void actRepUnBound::addBlockColumn(int column) {
 }
 
 Field &actRepUnBound::addBlockCell(const QString &name, const Control &beside, int left, int width) {
-    Field &cell =
-        addField(section("gfExtended"), name, left, beside.Top, width, beside.Height);
+    Field &cell = addField(section("gfExtended"), name, left, beside.Top, width, beside.Height);
     asCell(cell);
     cell.Border.LeftStyle = 0;
     cell.DataField = name;

@@ -49,7 +49,7 @@ frmSelData::frmSelData()
     place(lblSelData, 240, 180, 4860, 300);
     for (int i = 0; i < static_cast<int>(std::size(Captions)); ++i)
         chkData.add(i, new QCheckBox(Captions[i], this), Captions[i])->setChecked(true);
-    moveTo(framSave, RightPart, 480);
+    moveTo(framSave, RightPart, 180);
     place(cmdSavePrint, RightPart, 4230, 3000, 420);
     place(cmdCancel, RightPart, 4770, 3000, 420);
     setDefaultButton(cmdSavePrint);

@@ -43,6 +43,7 @@ Field &addField(Section &section, const QString &name, int left, int top, int wi
 Image &addImage(Section &section, const QString &name, const QString &picture, int left, int top, int width,
                 int height) {
     auto &image = add<Image>(section, name, left, top, width, height);
+    if (picture.isEmpty()) return image;
     QFile file(picture);
     if (file.open(QIODevice::ReadOnly)) image.Content = Picture::fromSvg(file.readAll());
     return image;
@@ -59,6 +60,7 @@ Label &addTitle(Section &section, const QString &text) {
 }
 
 void addNotes(Section &section) {
+    section.KeepTogether = true;
     Label &label = addLabel(section, "lblNotes", "Notes", 0, 90, PageWidth, 240);
     label.Font.Bold = true;
     label.Font.Size = TableFontSize;
@@ -70,17 +72,17 @@ void addPageFooter(Section &section) {
     auto &rule = section.Controls.Add<Line>("linFooter");
     rule.Width = PageWidth;
     rule.Top = 90;
-    Field &page = addField(section, "txtPage", 8900, 135, 450, 200);
-    Field &total = addField(section, "txtPageTotal", 9700, 135, 500, 200);
-    TextControl *const texts[] = {&addLabel(section, "lblDocName", "Velmar 4.0", 0, 135, 7000, 200),
-                                  &addLabel(section, "lblPage", "Page", 8300, 135, 600, 200), &page,
-                                  &addLabel(section, "lblOf", "of", 9350, 135, 350, 200), &total};
-    for (TextControl *text : texts) {
-        text->Font.Size = FooterFontSize;
-        if (text != texts[0]) text->Alignment = 2;
-    }
+    Label &word = addLabel(section, "lblPage", "Page", 8600, 135, 640, 200);
+    Field &page = addField(section, "txtPage", 9270, 135, 300, 200);
+    Label &of = addLabel(section, "lblOf", "of", 9570, 135, 230, 200);
+    Field &total = addField(section, "txtPageTotal", 9890, 135, 310, 200);
     page.Summary = PageValue::PageNumber;
     total.Summary = PageValue::PageTotal;
+    word.Alignment = 1;
+    page.Alignment = of.Alignment = 2;
+    TextControl &name = addLabel(section, "lblDocName", "Velmar 4.0", 0, 135, 8400, 200);
+    for (TextControl *text : std::initializer_list<TextControl *>{&name, &word, &page, &of, &total})
+        text->Font.Size = FooterFontSize;
 }
 
 void asFootnote(TextControl &control) {

@@ -1,14 +1,31 @@
 #include "reports/report_window.h"
 
+#include <QPointer>
+
+#include "platform/forms/msg_box.h"
+#include "platform/forms/screen.h"
 #include "platform/printing/report.h"
 #include "platform/printing/viewer.h"
+#include "platform/runtime/runtime_error.h"
 #include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
 
+namespace {
+
+// A page can be read as a whole in its width.
+constexpr int WishedWidth = 15000;
+constexpr int WishedHeight = 13800;
+/// What a desktop keeps for itself, frame included.
+constexpr int DesktopShare = 1200;
+
+constexpr int CancelSelected = 32755;
+
+} // namespace
+
 void ReportWindow::showModal(Printing::Report &report, const QString &name, QWidget *owner) {
-    auto *window = new ReportWindow(report, name);
+    const QPointer<ReportWindow> window = new ReportWindow(report, name);
     window->ShowModal(owner);
-    window->Unload();
+    if (window) window->Unload();
 }
 
 ReportWindow::ReportWindow(Printing::Report &report, const QString &name)
@@ -16,7 +33,9 @@ ReportWindow::ReportWindow(Printing::Report &report, const QString &name)
     , m_report(report)
     , m_viewer(new Printing::Viewer(report.document(), this)) {
     setCaption(report.Caption);
-    setScaleSize(15000, 13500);
+    setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
+    setScaleSize(std::min(WishedWidth, Screen::Width() - DesktopShare),
+                 std::min(WishedHeight, Screen::Height() - DesktopShare));
     m_viewer->setWindowFlags(Qt::Widget);
     m_viewer->setSaveHandler([this] { save(); });
     connect(m_viewer, &QDialog::finished, this, [this] { Unload(); });
@@ -30,7 +49,12 @@ void ReportWindow::Form_Resize() {
     m_viewer->setGeometry(rect());
 }
 
+/// What is seen, as a PDF.
 void ReportWindow::save() {
-    constexpr int Pdf = 0;
-    ReportExport::saveAsking(m_report.document(), Pdf, m_report.DocumentName, mdiVelmar::instance().comDlg);
+    try {
+        ReportExport::saveAsking(m_report.document(), ReportExport::Pdf, m_report.DocumentName,
+                                 mdiVelmar::instance().comDlg);
+    } catch (const RuntimeError &error) {
+        if (error.number() != CancelSelected) MsgBox(error.description(), vbExclamation, Caption());
+    }
 }

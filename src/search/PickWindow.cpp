@@ -94,6 +94,7 @@ void PickWindow::Form_Load() {
     for (const auto &[index, frame] : framSelect)
         m_framesAtLoad[index] = placeOf(frame).topLeft();
     setMinimumSize(size());
+    list()->setFocus();
     if (mdiVelmar::instance().bToolTips) return;
     for (const auto &[index, button] : cmdSelNav)
         button->setToolTip({});

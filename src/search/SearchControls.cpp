@@ -25,7 +25,7 @@ const ColumnDefinition MaterialColumns[] = {
     {"EN Number", "numbr", 1200},      {"Description", "description", 2850},
     {"EN Group", "groups", 1050},      {"Revision Date", "revision_date", 1350},
     {"Product Form", "", 1500},        {"ASME Standard", "asmestandard", 1500},
-    {"ASME Grade", "asmegrade", 1650}, {"SS", "ss", 1050},
+    {"ASME Grade", "asmegrade", 1650}, {"SS", "ss", 960},
 };
 
 const char *const SelectedCaptions[] = {"Standard",    "Name",  "Number",
@@ -67,8 +67,6 @@ void SearchControls::makeFrames(QWidget *window) {
     framMatTable = named(new QGroupBox("Materials Table", framStandDesc), "framMatTable", "Materials Table");
     framSelTable =
         named(new QGroupBox("Selected Materials", framStandDesc), "framSelTable", "Selected Materials");
-    for (QGroupBox *frame : {framMatTable, framSelTable})
-        frame->setFlat(true); // the panels in it draw the lines
     QFrame *const behind[] = {framSide, framSearch};
     for (int i = 0; i < 6; ++i) {
         QWidget *frame = i < 2 ? static_cast<QWidget *>(behind[i]) : i < 4 ? framMatTable : framSelTable;
@@ -202,10 +200,11 @@ void SearchControls::placeControls() {
     place(imgIcon, 1845, 825, 390, 390);
 
     place(framMatTable, 120, 1425, 14760, 5055);
-    place(lblListFrame, 180, 255, 1500, 210);
-    place(lblMaterialsCount, 12600, 255, 1410, 210);
-    place(lblMatCount, 14070, 255, 630, 210);
-    place(lblStdInfo, 1800, 270, 10800, 480);
+    // beside the frame's title
+    place(lblListFrame, 1800, 0, 1800, 225);
+    place(lblMaterialsCount, 12600, 0, 1410, 225);
+    place(lblMatCount, 14070, 0, 630, 225);
+    place(lblStdInfo, 180, 285, 14400, 465);
     place(lblBack(2), 60, 480, 14640, 3855);
     place(tdbMaterials, 165, 615, 14430, 3615);
     place(lblBack(3), 60, 4380, 14640, 615);
@@ -215,16 +214,16 @@ void SearchControls::placeControls() {
     place(imgFolder, 14070, 4425, 525, 525);
 
     place(framSelTable, 120, 6525, 14760, 3060);
-    place(lblSelectedFram, 180, 255, 1800, 210);
-    place(lblSelCount, 7800, 255, 2700, 210);
+    place(lblSelectedFram, 1800, 0, 1800, 225);
+    place(lblSelCount, 7905, 0, 2700, 225);
     lblSelCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    place(lblBack(4), 60, 480, 10560, 2520);
-    place(tdbSelected, 165, 585, 10350, 2310);
-    place(lblBack(5), 10680, 480, 4020, 2520);
-    place(cmdSelections(0), 10860, 600, 1800, 420);
-    place(cmdSelections(2), 10860, 1110, 1800, 420);
-    place(cmdSelections(1), 10860, 1620, 1800, 420);
-    place(imgBin, 13200, 960, 960, 960);
+    place(lblBack(4), 60, 330, 10560, 2670);
+    place(tdbSelected, 165, 435, 10350, 2460);
+    place(lblBack(5), 10680, 330, 4020, 2670);
+    place(cmdSelections(0), 10860, 465, 1800, 420);
+    place(cmdSelections(2), 10860, 975, 1800, 420);
+    place(cmdSelections(1), 10860, 1485, 1800, 420);
+    place(imgBin, 13200, 705, 960, 960);
     placeNavigation();
 }
 
@@ -254,10 +253,10 @@ void SearchControls::placeCriteria() {
 void SearchControls::placeNavigation() {
     constexpr int Width = 510;
     place(framTabNav, 165, 4380, 2310, 600);
-    place(framSelTabNav, 10860, 2220, 2310, 690);
+    place(framSelTabNav, 10860, 2115, 2310, 735);
     for (int i = 0; i < 4; ++i) {
         place(cmdTabNav(i), 105 + i * (Width + 15), 270, Width, 300);
-        place(cmdTabNav(i + 4), 105 + i * (Width + 15), 285, Width, 345);
+        place(cmdTabNav(i + 4), 105 + i * (Width + 15), 300, Width, 360);
     }
 }
 

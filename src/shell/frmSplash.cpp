@@ -8,6 +8,7 @@
 #include "platform/forms/default_instance.h"
 #include "platform/forms/image_box.h"
 #include "platform/forms/placement.h"
+#include "platform/forms/screen.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/runtime_error.h"
 #include "shell/mdiVelmar.h"
@@ -86,6 +87,8 @@ void frmSplash::Form_Load() {
     Timer1->start();
     lblVersion->setText(versionText());
     lblCopyright->setText(copyrightText());
+    setLeft((Screen::Width() - Width()) / 2);
+    setTop((Screen::Height() - Height()) / 2);
     Show();
 }
 

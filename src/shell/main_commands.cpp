@@ -67,6 +67,9 @@ void MainCommands::file(int index) {
     case 3:
         selectData(false);
         break;
+    case 5:
+        HTMLHelp::ShowHelpTopic(1, "General_Information.htm");
+        break;
     case 7:
         leaveProgram();
         break;

@@ -39,9 +39,6 @@ void applyMenus(mdiVelmar &window, const Settings &settings) {
         window.stbStatus->setVisible(false);
         menu.mnuSettingsElem(1).setChecked(false);
     }
-    // starting over would meet a colour that is no number again and again: the error goes up instead, and
-    // what is written at the end mends the file
-    if (const auto colour = settings.backColor()) window.setBackColor(*colour);
     if (settings.coloursOff) {
         window.bColoursOff = true;
         menu.mnuSettingsElem(2).setChecked(false);
@@ -61,6 +58,9 @@ void read(mdiVelmar &window) {
     }
     for (int i = 0; i < 8; ++i)
         window.setSavedSearch(i, settings.savedSearch[static_cast<std::size_t>(i)]);
+    // Starting over would meet a colour that is no number again and again: the error goes up instead. All
+    // else is there by then, so that what is written at the end mends the file and loses nothing.
+    if (const auto colour = settings.backColor()) window.setBackColor(*colour);
 }
 
 void write(const mdiVelmar &window) {

@@ -51,11 +51,9 @@ QString smallScreenMessage() {
            "Change the 'Desktop Area' to 800 x 600 (Pixels) or greater." + LineEnd;
 }
 
-/// Room for the search window and for two rows of material windows, where the screen has it. In pixels.
-QSize firstSize() {
-    return QSize(1240, 840).boundedTo(QSize(Screen::Width() / Screen::TwipsPerPixelX(),
-                                            Screen::Height() / Screen::TwipsPerPixelY()));
-}
+// Room for the search window and for two rows of material windows. In twips.
+constexpr int RoomyWidth = 18690;
+constexpr int RoomyHeight = 12975;
 
 template <class Array>
 auto &element(Array &array, int index) {
@@ -81,7 +79,8 @@ mdiVelmar::~mdiVelmar() = default;
 
 void mdiVelmar::buildControls() {
     setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
-    setGeometry(QRect(QPoint(), firstSize()));
+    setWidth(qMin(RoomyWidth, Screen::Width()));
+    setHeight(qMin(RoomyHeight, Screen::Height()));
     Toolbar1 = new Toolbar("Toolbar1", this);
     addToolBar(Toolbar1);
     MainToolbar::addButtons(*Toolbar1);

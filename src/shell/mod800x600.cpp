@@ -51,7 +51,6 @@ void fitNavigation(QGroupBox *frame, SearchControls &c, int firstButton, int hei
 
 void fitMaterials(SearchControls &c) {
     place(c.framMatTable, TablesLeft, 120, TablesWidth, 4095);
-    // beside the frame's title
     place(c.lblListFrame, 1800, 0, 1500, 225);
     place(c.lblMaterialsCount, 6480, 0, 1425, 225);
     place(c.lblMatCount, 7980, 0, 630, 225);
@@ -93,8 +92,6 @@ void FitSearchWindow() {
     // in the place of the hidden panels
     for (QFrame *frame : {c.framSide, c.framSearch})
         frame->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    for (QGroupBox *frame : {c.framMatTable, c.framSelTable})
-        frame->setFlat(false);
     place(c.framStandDesc, 120, 0, 11700, 7470);
     fitSide(c);
     fitCriteria(c);

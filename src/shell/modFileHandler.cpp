@@ -21,7 +21,8 @@ QString programFolder() {
     return App::current().path + QLatin1Char('/');
 }
 
-/// Without "APPDATA" the program's folder serves; where that is not the user's, the desktop has a place for it.
+/// Without "APPDATA" the program's folder serves; where that is not the user's, the desktop has a place for
+/// it.
 QString folderWithoutAppData() {
     if (CanWriteBesideProgram()) return programFolder();
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + FolderOfTheUser;
@@ -67,7 +68,8 @@ void MakeFolderPath(const QString &path) {
     for (const QString &part : parts) {
         folder += part + QLatin1Char('/');
         const bool isDrive = part.endsWith(QLatin1Char(':'));
-        if (!isDrive && !QFileInfo(folder).isDir() && !QDir().mkdir(folder)) throw RuntimeError(75);
+        if (!isDrive && !QFileInfo(folder).isDir() && !QDir().mkdir(folder))
+            throw RuntimeError(75, RuntimeError::standardDescription(75) + ": '" + folder + '\'');
     }
 }
 

@@ -36,17 +36,20 @@ void cascade(int mainWidth, const std::function<void(Form &)> &placed) {
 void tileHorizontal(int mainWidth, int materials, const std::function<void(Form &)> &placed) {
     const int even = materials - materials % 2;
     const int left = CInt((mainWidth - TileWidth) / 2.0);
-    FormBase *first = nullptr;
+    Form *first = nullptr;
     int i = 1;
     for (FormBase &form : Forms()) {
         if (!takesPart(form, {"mdiVelmar", "frmSearch"})) continue;
-        if (first == nullptr) first = &form;
-        form.setTop(&form == first || i <= even / 2 ? 0 : SecondRow);
+        const bool isFirst = first == nullptr;
+        if (isFirst) first = form.as<Form>();
+        form.setTop(isFirst || i <= even / 2 ? 0 : SecondRow);
         form.setLeft(left);
         ++i;
         placed(*form.as<Form>());
     }
-    if (first != nullptr) first->SetFocus();
+    if (first == nullptr) return;
+    first->SetFocus();
+    placed(*first); // where it was in front before, the focus tells nobody
 }
 
 } // namespace WindowArrangement

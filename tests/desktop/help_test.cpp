@@ -14,6 +14,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 
 #include "platform/desktop/help.h"
@@ -30,10 +31,13 @@ protected:
                           "<toc><section title='Start' ref='Start.htm'>"
                           "<section title='Contact' ref='How_To.htm'/></section></toc>"
                           "<keywords><keyword name='telephone' ref='How_To.htm'/></keywords>"
-                          "<files><file>Start.htm</file><file>How_To.htm</file></files>"
+                          "<files><file>Start.htm</file><file>How_To.htm</file><file>help.css</file></files>"
                           "</filterSection></QtHelpProject>");
-        write("Start.htm", "<html><head><title>Start</title></head><body>Welcome. "
-                           "<a href='How_To.htm'>Contact</a></body></html>");
+        write("help.css", "p { color: #123456; }");
+        write("Start.htm",
+              "<html><head><title>Start</title><link rel='stylesheet' type='text/css' href='help.css'></head>"
+              "<body><p>Welcome. "
+              "<a href='How_To.htm'>Contact</a></body></html>");
         write("How_To.htm", "<html><head><title>Contact</title></head><body>Call us about "
                             "crankshafts.</body></html>");
         QProcess generator;
@@ -78,6 +82,18 @@ TEST_F(HelpTest, ATopicIsFoundByItsFileName) {
     EXPECT_TRUE(shownText().contains("Welcome"));
     viewer()->findChild<QTextBrowser *>("HelpText")->anchorClicked(QUrl("How_To.htm"));
     EXPECT_TRUE(shownText().contains("Call us"));
+}
+
+TEST_F(HelpTest, TheFirstPageHasItsStyleAsAnyOther) {
+    const auto colour = [] {
+        const auto *browser = viewer()->findChild<QTextBrowser *>("HelpText");
+        return browser->document()->begin().begin().fragment().charFormat().foreground().color().name();
+    };
+    show(HelpTopic, "Start.htm");
+    EXPECT_EQ(colour().toStdString(), "#123456");
+    show(HelpTopic, "How_To.htm");
+    show(HelpTopic, "Start.htm");
+    EXPECT_EQ(colour().toStdString(), "#123456");
 }
 
 TEST_F(HelpTest, ContentsIndexAndSearchLeadToTheTopic) {

@@ -78,6 +78,20 @@ TEST(ModalForm, KeepsThePlaceItWasGivenOrStandsOverItsOwner) {
     other->ShowModal(owner);
 }
 
+TEST(ModalForm, TheHourglassIsGoneWhileItWaitsForAPerson) {
+    auto *working = NewForm<RecordingForm>();
+    working->setMousePointer(vbHourglass);
+    modal().driveForm([](Form &form) {
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        form.setMousePointer(vbHourglass);
+        form.Unload();
+    });
+    (new RecordingForm("frmDialog"))->ShowModal();
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    working->setMousePointer(vbDefault);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST(MsgBoxes, AnswerIsTakenFromTheQueueAndTheQuestionKept) {
     App::current().title = "Program";
     modal().answerMsgBox(vbYes);

@@ -129,6 +129,31 @@ TEST_F(Outputs, RtfHoldsTheTablesAsTables) {
     EXPECT_TRUE(rtf.pageText.contains(QStringLiteral("Weather office – yearbook")));
 }
 
+TEST(Rtf, ATableThatAPageCanHoldStaysOnOne) {
+    for (const auto &[rows, kept] : {std::pair(3, 2), std::pair(200, 0)}) {
+        TestReport report;
+        report.countRows(rows);
+        Section &detail = report.AddSection(SectionType::Detail, "Detail");
+        place<Field>(detail, "cell", {0, 0, 1155, 283}).Border = BorderStyles::all();
+        const QByteArray rtf = rtfText(report.Run());
+        EXPECT_EQ(rtf.count("\\row\n"), rows);
+        EXPECT_EQ(rtf.count("\\intbl\\keepn"), kept); // every row but the last
+    }
+}
+
+TEST(Rtf, APictureLeavesTheFrameOfItsCellFree) {
+    TestReport report;
+    Section &detail = report.AddSection(SectionType::Detail, "Detail");
+    auto &cell = place<Label>(detail, "cell", {0, 0, 1000, 600});
+    cell.Border = BorderStyles::all();
+    auto &image = detail.Controls.Add<Image>("image");
+    image.Width = 1000;
+    image.Height = 600;
+    image.Content = Picture::fromImage(blankImage({40, 24}));
+    const QByteArray rtf = rtfText(report.Run());
+    EXPECT_TRUE(rtf.contains("\\picwgoal880\\pichgoal540")) << rtf.left(2000).constData();
+}
+
 TEST_F(Outputs, TextHoldsTheTableInColumns) {
     saveText(document, path("a.txt"));
     const QStringList lines = QString::fromUtf8(contentOf(path("a.txt"))).split('\n');

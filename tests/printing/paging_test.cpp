@@ -111,6 +111,21 @@ TEST(Paging, AHeadingNeverStandsAloneAtThePageFoot) {
     }
 }
 
+TEST(Paging, AHeadingWithNothingOfItsOwnGoesWithTheNextSection) {
+    for (const bool fits : {false, true}) {
+        TestReport report;
+        addTextSection(report, SectionType::ReportHeader, "above",
+                       16838 - 2 * 850 - 500 - 300 - 400 - (fits ? RowHeight : RowHeight - 1));
+        Section &group = addTextSection(report, SectionType::GroupHeader, "Group", 500);
+        addSubReport(group, "none", {0, 500, 5000, 0}, nullptr);
+        Section &next = report.AddSection(SectionType::GroupHeader, "next");
+        addSubReport(next, "sub", {0, 300, 5000, 0}, table("Table", 3));
+        const Document &document = report.Run();
+        EXPECT_EQ(locate(document, "Group").page, fits ? 0 : 1);
+        EXPECT_EQ(locate(document, "Table").page, fits ? 0 : 1);
+    }
+}
+
 TEST(Paging, SubReportsRunInTheOrderOfTheirControlsAndGoOverPages) {
     TestReport report;
     Section &detail = report.AddSection(SectionType::Detail, "Detail");
@@ -205,6 +220,31 @@ TEST(Paging, AKeptSectionMovesAsAWholeAndAHeadingGoesWithItsText) {
         EXPECT_EQ(locate(document, "line").page, c.page) << c.keepTogether << c.room;
         EXPECT_EQ(document.headings[0].page, c.page);
     }
+}
+
+TEST(Paging, ATableKeptTogetherBelowADistanceMovesAsAWhole) {
+    for (const bool keepTogether : {false, true}) {
+        TestReport report;
+        addTextSection(report, SectionType::ReportHeader, "above",
+                       16838 - 2 * 850 - 300 - 400 - 2 * RowHeight);
+        Section &place = report.AddSection(SectionType::GroupHeader, "place");
+        place.KeepTogether = keepTogether;
+        addSubReport(place, "sub", {0, 300, 5000, 0}, table("Table", 3));
+        const Document &document = report.Run();
+        EXPECT_EQ(locate(document, "1").page, keepTogether ? 1 : 0);
+        EXPECT_EQ(locate(document, "3").page, 1);
+    }
+}
+
+TEST(Paging, TheOutlineMayCallAHeadingByAnotherName) {
+    TestReport report;
+    Section &section = addTextSection(report, SectionType::ReportHeader, "Title", 300);
+    auto &title = section.Controls.Item<Label>("lblTitle");
+    title.HeadingLevel = 1;
+    title.OutlineText = "Name";
+    const Document &document = report.Run();
+    EXPECT_EQ(document.headings[0].text, "Name");
+    EXPECT_EQ(locate(document, "Title").page, 0);
 }
 
 TEST(Paging, ARowHigherThanAPageIsBrokenRatherThanLost) {

@@ -1,10 +1,15 @@
 // Menu, tool bar and status line of the main window, and the arrangement of material windows.
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include <QTest>
+
 #include "data/Material.h"
 #include "material/frmMaterial2.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/msg_box.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/tdb_grid.h"
 #include "platform/forms/toolbar.h"
@@ -171,4 +176,138 @@ TEST_F(Commands, ColoursOffAndOnAgainReachEveryWindow) {
     EXPECT_TRUE(grid.AlternatingRowStyle());
     EXPECT_EQ(window(0).txtNotes->palette().color(QPalette::Base), toQColor(vbInfoBackground));
     EXPECT_EQ(main().BackColor(), main().cBlue);
+}
+
+TEST_F(Commands, TheFirstWindowIsCurrentAfterTilingThoughItWasInFrontBefore) {
+    show({2, 3, 4});
+    window(0).SetFocus();
+    main().DoTileHorizontal();
+    EXPECT_EQ(main().activeChild(), &window(0));
+    EXPECT_EQ(main().mCurrent->ID(), 2);
+}
+
+TEST_F(Commands, AMaximisedWindowKeepsItsPlaceAndIsNotCounted) {
+    show({2, 3, 4});
+    window(1).setWindowState(vbMaximized);
+    main().menu.mnuWindowElem(1).trigger();
+    EXPECT_EQ(window(1).WindowState(), vbMaximized);
+    EXPECT_EQ(window(0).Top(), 0);
+    EXPECT_EQ(window(2).Top(), 5055); // the second of those that were laid out
+    main().menu.mnuWindowElem(0).trigger();
+    EXPECT_EQ(window(1).WindowState(), vbMaximized);
+    EXPECT_EQ(window(2).Top(), 300);
+    EXPECT_EQ(main().mCurrent->ID(), 4);
+}
+
+TEST_F(Commands, NextWalksTheWindowsAndTheirOwnCloseBoxKeepsTheSelection) {
+    show({2, 3});
+    main().Toolbar1->Buttons("Next").widget()->click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(main().mCurrent->ID(), 2);
+    window(1).setWindowState(vbMinimized);
+    window(0).parentWidget()->close();
+    deleteUnloaded();
+    EXPECT_EQ(main().mCurrent->ID(), 3); // else nothing would be there to print
+    EXPECT_EQ(main().colMaterials.Count(), 2);
+    EXPECT_TRUE(main().menu.mnuFileElem(3).Enabled());
+    window(0).parentWidget()->close();
+    EXPECT_FALSE(main().menu.mnuFileElem(3).Enabled());
+    EXPECT_FALSE(main().menu.mnuSettingsElem(0).Enabled());
+    EXPECT_EQ(main().colMaterials.Count(), 2);
+}
+
+TEST_F(Commands, AToolBarThatTheUserHasHiddenStaysHiddenAtTheNextShow) {
+    EXPECT_FALSE(main().menu.mnuSettingsElem(0).Enabled());
+    show({2});
+    EXPECT_TRUE(main().Toolbar1->Visible());
+    main().menu.mnuSettingsToolElem(1).trigger();
+    EXPECT_FALSE(main().Toolbar1->Visible());
+    main().menu.mnuFileElem(0).trigger();
+    main().menu.mnuFileElem(0).trigger();
+    EXPECT_FALSE(main().Toolbar1->Visible());
+    main().menu.mnuSettingsToolElem(0).trigger();
+    EXPECT_TRUE(main().Toolbar1->Visible());
+    main().menu.mnuFileElem(0).trigger();
+    EXPECT_FALSE(main().Toolbar1->Visible());
+    main().menu.mnuFileElem(0).trigger();
+    EXPECT_TRUE(main().Toolbar1->Visible());
+}
+
+TEST_F(Commands, DoubleClicksHideTheStatusLineAndStepTheBackColour) {
+    const int colour = main().BackColor();
+    Q_EMIT main().DblClick();
+    EXPECT_NE(main().BackColor(), colour);
+    QTest::mouseDClick(main().stbStatus->findChild<QWidget *>("stbStatus(2)"), Qt::LeftButton);
+    EXPECT_FALSE(main().stbStatus->Visible());
+    EXPECT_FALSE(main().menu.mnuSettingsElem(1).Checked());
+    main().menu.mnuSettingsElem(1).trigger();
+    EXPECT_TRUE(main().stbStatus->Visible());
+}
+
+TEST_F(Commands, WithToolTipsOffTheButtonsKeepTheirText) {
+    show({2, 3});
+    const ToolbarButton &print = main().Toolbar1->Buttons("Print");
+    EXPECT_EQ(print.ToolTipText(), "Print (Preview) " + main().mCurrent->Name() + " Report...");
+    main().bToolTips = false;
+    const QString before = print.ToolTipText();
+    window(0).SetFocus();
+    EXPECT_EQ(main().mCurrent->ID(), 2);
+    EXPECT_EQ(print.ToolTipText(), before);
+}
+
+TEST_F(Commands, EveryBoxOfAMaterialWindowFollowsTheColours) {
+    const QStringList boxes = {"txtDesignTemp",  "txtNotes",       "framChart",      "txtNoData",
+                               "txtMainData(0)", "txtMainData(1)", "txtMainData(2)", "txtMainData(3)",
+                               "txtMainData(4)", "txtMainData(5)", "txtMainData(6)", "txtMainData(7)",
+                               "txtMainData(8)"};
+    const auto expectColours = [&](const QColor &colour, bool alternating) {
+        for (const QString &name : boxes) {
+            const auto *box = window(0).findChild<QWidget *>(name);
+            ASSERT_NE(box, nullptr) << name.toStdString();
+            EXPECT_EQ(box->palette().color(QPalette::Base), colour) << name.toStdString();
+        }
+        for (const TDBGrid *grid : {window(0).tdbBoundTable, window(0).tdbTable, window(0).tdbDesign})
+            EXPECT_EQ(grid->AlternatingRowStyle(), alternating) << grid->objectName().toStdString();
+    };
+    main().menu.mnuSettingsElem(2).trigger();
+    show({2}); // a window that opens with the colours off
+    expectColours(Qt::white, false);
+    main().menu.mnuSettingsElem(2).trigger();
+    expectColours(toQColor(vbInfoBackground), true);
+}
+
+TEST_F(Commands, HelpAndGeneralInformationAskForTheSameFile) {
+    const auto asksForHelp = [&](const std::function<void()> &command) {
+        modal().answerMsgBox(vbOK);
+        command();
+        EXPECT_EQ(modal().lastAsked().text,
+                  "Cannot find the help file '" + program.folder() + "/Velmar_PED_HELP.chm'.");
+    };
+    asksForHelp([&] { main().menu.mnuFileElem(5).trigger(); });
+    asksForHelp([&] { main().Toolbar1->Buttons("GenInfo").widget()->click(); });
+    for (int i : {0, 1, 2})
+        asksForHelp([&] { main().menu.mnuHelpElem(i).trigger(); });
+    modal().clear();
+}
+
+TEST_F(Commands, AClosedDialogIsNoWindowThatShowsTables) {
+    modal().driveForm([](Form &form) { form.Unload(); });
+    main().ShowAbout();
+    show({2});
+    main().menu.mnuViewElem(3).trigger();
+    EXPECT_EQ(window(0).strCurrentTable, "ImpEnergy");
+    modal().clear();
+}
+
+TEST(NumberFormat, IsTriedOutAtTheStart) {
+    struct Case {
+        char16_t decimalSign, groupSign;
+        bool point, commaGroup;
+    };
+    for (const Case &country :
+         {Case{u'.', u',', true, true}, Case{u',', u' ', false, false}, Case{u',', u'.', false, false}}) {
+        const TestProgram program(TestProgram::putSample, country.decimalSign, country.groupSign);
+        EXPECT_EQ(mdiVelmar::instance().bDecimalPoint, country.point);
+        EXPECT_EQ(mdiVelmar::instance().bCommaGroup, country.commaGroup);
+    }
 }

@@ -1,15 +1,22 @@
 // From the start window to the search window, and every way in which the database can be missing.
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "data/modDBase.h"
 #include "platform/dao/database.h"
 #include "platform/dao/file_lock.h"
+#include "platform/forms/application.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/msg_box.h"
@@ -61,11 +68,43 @@ protected:
         modFileHandler::SetupFileEnvironment();
         mdiVelmar::instance();
     }
+    static void leave() {
+        mdiVelmar::instance().Unload();
+        deleteUnloaded();
+        modDBase::reset();
+    }
     static bool isRunning() { return LoadedInstance<mdiVelmar>() != nullptr; }
 
     PinnedSettings m_settings;
     QTemporaryDir m_program;
     QTemporaryDir m_user;
+};
+
+/// Another user while it lives, who may read the program's folder and owns the other one. For root no folder
+/// is read-only.
+class OtherUser {
+public:
+    OtherUser(const QString &programFolder, const QString &ownFolder)
+        : m_programFolder(QFile::encodeName(programFolder))
+        , m_isRoot(geteuid() == 0) {
+        EXPECT_EQ(chmod(m_programFolder.constData(), 0555), 0);
+        if (!m_isRoot) return;
+        EXPECT_EQ(chown(QFile::encodeName(ownFolder).constData(), Nobody, Nobody), 0);
+        EXPECT_EQ(setresuid(Nobody, Nobody, 0), 0);
+    }
+    ~OtherUser() {
+        if (m_isRoot) {
+            EXPECT_EQ(setresuid(0, 0, 0), 0);
+        }
+        EXPECT_EQ(chmod(m_programFolder.constData(), 0755), 0);
+    }
+    OtherUser(const OtherUser &) = delete;
+    OtherUser &operator=(const OtherUser &) = delete;
+
+private:
+    static constexpr uid_t Nobody = 65534;
+    QByteArray m_programFolder;
+    bool m_isRoot;
 };
 
 QStringList settingsOf(const QString &file) {
@@ -91,12 +130,72 @@ TEST_F(Start, AKeyOnTheStartWindowLeadsToTheSearch) {
     EXPECT_EQ(settingsOf(user("PathSet.vlp")), QStringList());
 }
 
+TEST_F(Start, TheTimerAndEveryClickLeadToTheSearchToo) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    const char *const clickable[] = {
+        "", "Frame1", "imgLogo", "imgVelmar", "lblProductName", "lblPlatform", "lblVersion", "lblCopyright"};
+    for (const QString name : clickable) {
+        auto &splash = DefaultInstance<frmSplash>();
+        if (name.isEmpty()) {
+            splash.Timer1->setInterval(1);
+            EXPECT_TRUE(QTest::qWaitFor(isRunning));
+        } else {
+            QTest::mouseClick(splash.findChild<QWidget *>(name), Qt::LeftButton);
+        }
+        EXPECT_TRUE(splash.isUnloaded()) << name.toStdString();
+        ASSERT_TRUE(isRunning()) << name.toStdString();
+        leave();
+    }
+}
+
 TEST_F(Start, FilesBesideTheProgramAreTheFirstContentOfTheUsersFolder) {
     copyDatabase(program("Velmar_PED.mdb"));
     TextFile::writeLines(program("Settings.vlp"), {"Tile_Horizontal"});
     start();
     EXPECT_EQ(mdiVelmar::instance().iArrangement, 1);
     EXPECT_TRUE(QFile::exists(user("Settings.vlp")));
+}
+
+TEST_F(Start, WithoutAppDataTheFilesLieBesideTheProgram) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    qunsetenv("APPDATA");
+    start();
+    EXPECT_EQ(modFileHandler::GetUserFolder(), m_program.path() + '/');
+    leave();
+    EXPECT_EQ(settingsOf(program("Settings.vlp")).size(), 27);
+    EXPECT_TRUE(QFile::exists(program("PathSet.vlp")));
+}
+
+TEST_F(Start, AFolderThatCannotBeMadeIsToldAndTheProgramsOwnServes) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    qputenv("APPDATA", program("Velmar_PED.mdb").toUtf8()); // a file
+    modal().answerMsgBox(vbOK);
+    start();
+    EXPECT_TRUE(isRunning());
+    EXPECT_EQ(modal().lastAsked().title, "Error");
+    EXPECT_EQ(modal().lastAsked().style, vbCritical);
+    EXPECT_EQ(modal().lastAsked().text,
+              "75: Error in SetupFileEnvironment(). Error Description: Path/File access error: '" +
+                  program("Velmar_PED.mdb/") + "'");
+    EXPECT_EQ(modFileHandler::GetUserFolder(), m_program.path() + '/');
+    modal().clear();
+}
+
+TEST_F(Start, WhereTheProgramsFolderIsReadOnlyTheUsersOwnTakesSettingsAndLog) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    TextFile::writeLines(program("Settings.vlp"), {"Tile_Horizontal"});
+    qunsetenv("APPDATA");
+    qputenv("XDG_CONFIG_HOME", m_user.path().toUtf8());
+    const FileLock other(program("Velmar_PED.mdb"), FileLock::Kind::Exclusive);
+    const OtherUser readsTheProgramOnly(m_program.path(), m_user.path());
+    modal().answerMsgBox(vbOK);
+    start();
+    EXPECT_FALSE(isRunning());
+    EXPECT_FALSE(QFile::exists(program("ErrorLog.txt")));
+    EXPECT_EQ(settingsOf(user("ErrorLog.txt")).value(1), "Error No. - 3356");
+    EXPECT_EQ(settingsOf(user("Settings.vlp")).value(0), "Tile_Horizontal");
+    qunsetenv("XDG_CONFIG_HOME");
+    modal().clear();
 }
 
 TEST_F(Start, ADatabaseThatHasGoneIsLookedForAndItsPlaceRemembered) {
@@ -141,8 +240,22 @@ TEST_F(Start, WhatIsNoDatabaseIsToldWithItsPath) {
     EXPECT_EQ(modal().lastAsked().text,
               "You attempted to open a non-database file.\r\n\r\n" + program("Velmar_PED.mdb") +
                   "\r\n\r\nVelmar_PED.mdbis the necessary file\r\n\r\nDo you wish to try again?");
-    // the settings of a failed start are written too
-    EXPECT_EQ(settingsOf(user("Settings.vlp")).size(), 27);
+    modal().clear();
+}
+
+TEST_F(Start, ARunWithoutADatabaseEndsCleanlyAndKeepsTheSettings) {
+    const QStringList kept = {"Tile_Horizontal", "Tool_HIDE",  "Tool_BOTTOM", "Status_SHOW",
+                              "11074466",        "Colours_ON", "ToolTips_OFF"};
+    writeUser("Settings.vlp", kept);
+    auto &splash = DefaultInstance<frmSplash>();
+    modal().answerMsgBox([&](const ModalSeam::Request &) {
+        EXPECT_TRUE(splash.Visible()); // it stands behind the box
+        return vbNo;
+    });
+    QTimer::singleShot(0, &splash, [&] { QTest::keyClick(&splash, Qt::Key_Space); });
+    EXPECT_EQ(Application::instance()->run(), 0);
+    EXPECT_EQ(Forms::Count(), 0);
+    EXPECT_EQ(settingsOf(user("Settings.vlp")).first(7), kept);
     modal().clear();
 }
 
@@ -186,9 +299,7 @@ TEST_F(Start, ScreensDecideTheSizeOfTheSearchWindow) {
         EXPECT_EQ(mdiVelmar::instance().bLowRes, screen.lowRes) << screen.width;
         EXPECT_EQ(modal().asked().size(), screen.boxes) << screen.width;
         modal().clear();
-        mdiVelmar::instance().Unload();
-        deleteUnloaded();
-        modDBase::reset();
+        leave();
     }
 }
 
@@ -203,9 +314,7 @@ TEST_F(Start, SettingsComeBackAtTheNextStart) {
         main.menu.mnuSettingsElem(2).trigger();
         main.menu.mnuSettingsElem(3).trigger();
         main.menu.mnuWindowElem(1).trigger();
-        main.Unload();
-        deleteUnloaded();
-        modDBase::reset();
+        leave();
     }
     EXPECT_EQ(settingsOf(user("Settings.vlp")).mid(0, 7),
               QStringList({"Tile_Horizontal", "Tool_HIDE", "Tool_BOTTOM", "Status_HIDE", "16777215",
@@ -224,24 +333,63 @@ TEST_F(Start, SettingsComeBackAtTheNextStart) {
 
 TEST_F(Start, ABackColourThatIsNoNumberIsReportedAndMended) {
     copyDatabase(program("Velmar_PED.mdb"));
-    writeUser("Settings.vlp", {"", "", "", "", "blue"});
+    QStringList lines = {"Cascade",
+                         "Tool_SHOW",
+                         "Tool_TOP",
+                         "Status_SHOW",
+                         "blue",
+                         "Colours_ON",
+                         "ToolTips_OFF",
+                         "1234",
+                         "0",
+                         "0",
+                         "0",
+                         "0",
+                         "0",
+                         "True",
+                         "False",
+                         "True",
+                         "True",
+                         "True",
+                         "True",
+                         "EN 10028-2",
+                         "",
+                         "",
+                         "",
+                         "",
+                         "",
+                         "",
+                         "1"};
+    writeUser("Settings.vlp", lines);
     start();
     const QList<RuntimeError> faults = takeFaults();
     ASSERT_EQ(faults.size(), 1);
     EXPECT_EQ(faults.first().number(), 13);
     mdiVelmar::instance().WriteSettings();
-    EXPECT_EQ(settingsOf(user("Settings.vlp"))[4], "16697253");
+    lines[4] = "16697253";
+    EXPECT_EQ(settingsOf(user("Settings.vlp")), lines);
     mdiVelmar::instance().Unload();
     EXPECT_EQ(takeFaults().size(), 1); // no database to close: the real program is gone by then
 }
 
 TEST_F(Start, LeavingUnloadsEverythingAndLetsGoOfTheDatabase) {
     copyDatabase(program("Velmar_PED.mdb"));
-    start();
-    mdiVelmar::instance().menu.mnuFileElem(7).trigger();
-    EXPECT_FALSE(isRunning());
-    EXPECT_EQ(Forms::Count(), 0);
-    deleteUnloaded();
-    EXPECT_NO_THROW(FileLock(program("Velmar_PED.mdb"), FileLock::Kind::Exclusive));
-    EXPECT_EQ(settingsOf(user("Settings.vlp")).size(), 27);
+    const auto byCommand = [](mdiVelmar &main) { main.menu.mnuFileElem(7).trigger(); };
+    const auto byButton = [](mdiVelmar &main) { main.Toolbar1->Buttons("Exit").widget()->click(); };
+    const auto byCloseBox = [](mdiVelmar &main) { main.close(); };
+    for (const std::function<void(mdiVelmar &)> &way :
+         {std::function<void(mdiVelmar &)>(byCommand), {byButton}, {byCloseBox}}) {
+        start();
+        auto &search = DefaultInstance<frmSearch>();
+        search.txtSearch(1)->setText("P265");
+        QTimer::singleShot(0, qApp, [&] { way(mdiVelmar::instance()); });
+        EXPECT_EQ(Application::instance()->run(), 0);
+        EXPECT_EQ(Forms::Count(), 0);
+        deleteUnloaded();
+        modDBase::reset();
+        EXPECT_NO_THROW(FileLock(program("Velmar_PED.mdb"), FileLock::Kind::Exclusive));
+        // the search window has told its boxes before the settings are written
+        EXPECT_EQ(settingsOf(user("Settings.vlp")).value(20), "P265");
+        QFile::remove(user("Settings.vlp"));
+    }
 }

@@ -27,22 +27,25 @@ void run(sqlite3 *database, const QString &statement) {
 
 } // namespace
 
+void makeDatabase(const QString &path, const QStringList &statements) {
+    sqlite3 *database = nullptr;
+    if (sqlite3_open(path.toUtf8().constData(), &database) != SQLITE_OK)
+        throw std::runtime_error("no database");
+    run(database, "begin");
+    for (const QString &statement : statements)
+        run(database, statement);
+    run(database, "commit");
+    sqlite3_close(database);
+}
+
 std::function<void(const QString &)> smallDatabase(const QStringList &inserts) {
-    return [inserts](const QString &path) {
-        sqlite3 *database = nullptr;
-        if (sqlite3_open(path.toUtf8().constData(), &database) != SQLITE_OK)
-            throw std::runtime_error("no database");
-        run(database, "begin");
-        for (const QString &definition : tableDefinitions())
-            run(database, definition);
-        run(database, "insert into standard values (1, 'S', 'd', '2020-01-01', 0)");
-        for (int matID = 1; matID <= 10; ++matID)
-            run(database, QStringLiteral("insert into materials values (%1, 'Grade %1', '1.%1', null, null, "
-                                         "'2020-01-01', 'S', null, null, null)")
-                              .arg(matID));
-        for (const QString &insert : inserts)
-            run(database, "insert into " + insert);
-        run(database, "commit");
-        sqlite3_close(database);
-    };
+    QStringList statements = tableDefinitions();
+    statements << "insert into standard values (1, 'S', 'd', '2020-01-01', 0)";
+    for (int matID = 1; matID <= 10; ++matID)
+        statements << QStringLiteral("insert into materials values (%1, 'Grade %1', '1.%1', null, null, "
+                                     "'2020-01-01', 'S', null, null, null)")
+                          .arg(matID);
+    for (const QString &insert : inserts)
+        statements << "insert into " + insert;
+    return [statements](const QString &path) { makeDatabase(path, statements); };
 }

@@ -29,6 +29,13 @@ int main(int argc, char **argv) {
     Tour tour(QString::fromLocal8Bit(argv[1]));
     startProgram(tour);
     searchAndSelect(tour);
+    showPmaIndex(tour);
     readMaterials(tour);
+    showTablesAndGraphs(tour);
+    designValues(tour);
+    printAndSave(tour);
+    showAbout(tour);
+    readHelp(tour);
+    useSmallScreens(tour);
     return 0;
 }

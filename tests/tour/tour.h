@@ -53,4 +53,11 @@ private:
 // The stations, in the order in which a person meets them.
 void startProgram(Tour &tour);
 void searchAndSelect(Tour &tour);
+void showPmaIndex(Tour &tour);
 void readMaterials(Tour &tour);
+void showTablesAndGraphs(Tour &tour);
+void designValues(Tour &tour);
+void printAndSave(Tour &tour);
+void showAbout(Tour &tour);
+void readHelp(Tour &tour);
+void useSmallScreens(Tour &tour);

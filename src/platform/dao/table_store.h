@@ -29,7 +29,7 @@ struct TableAccess {
 class TableStore {
 public:
     /// A table of more rows than this is read by key where a statement gives one.
-    static constexpr qint64 WholeTableLimit = 20000;
+    static constexpr qint64 WholeTableLimit = 2000;
 
     /// `lock` is held as long as the file is open.
     explicit TableStore(std::unique_ptr<TableSource> source, std::unique_ptr<FileLock> lock = nullptr,

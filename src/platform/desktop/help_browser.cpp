@@ -4,10 +4,18 @@
 
 HelpBrowser::HelpBrowser(const QHelpEngineCore &engine, QWidget *parent)
     : QTextBrowser(parent)
-    , m_engine(engine) {}
+    , m_engine(engine) {
+    // The pages are drawn for white paper, whatever the desktop's colours.
+    QPalette paper = palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    paper.setColor(QPalette::Link, QColor(0x0b57a4));
+    setPalette(paper);
+}
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name) {
-    const QUrl url = name.isRelative() ? source().resolved(name) : name;
+    const QUrl url = name.isRelative() ? m_page.resolved(name) : name;
+    if (type == QTextDocument::HtmlResource) m_page = url;
     if (url.scheme() == QLatin1String("qthelp")) return m_engine.fileData(url);
     return QTextBrowser::loadResource(type, url);
 }

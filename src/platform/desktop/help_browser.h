@@ -16,4 +16,6 @@ protected:
 
 private:
     const QHelpEngineCore &m_engine;
+    /// While a page is read, source() is still the one before it.
+    QUrl m_page;
 };

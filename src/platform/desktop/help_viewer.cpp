@@ -62,7 +62,7 @@ void HelpViewer::build() {
     splitter->addWidget(m_pages);
     splitter->addWidget(m_browser);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({300, 600});
+    splitter->setSizes({290, 710});
     setCentralWidget(splitter);
 
     QToolBar *bar = addToolBar(QStringLiteral("Navigation"));
@@ -85,7 +85,7 @@ void HelpViewer::build() {
     close->setShortcut(Qt::Key_Escape);
     addAction(close);
     connect(close, &QAction::triggered, this, &QWidget::close);
-    resize(900, 600);
+    resize(1000, 680);
 }
 
 QWidget *HelpViewer::buildIndexPage() {

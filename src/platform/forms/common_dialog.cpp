@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/pointer_pause.h"
 #include "platform/runtime/runtime_error.h"
 
 QString CommonDialog::localPath(const QString &path) {
@@ -70,5 +71,6 @@ QString CommonDialog::ask(bool save) const {
     const QString name = localPath(FileName);
     const bool inFolder = !folder.isEmpty() && name.startsWith(folder + QLatin1Char('/'));
     if (!name.isEmpty()) dialog.selectFile(inFolder ? name.mid(folder.size() + 1) : name);
+    const PointerPause pause;
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -15,6 +15,7 @@
 #include "platform/forms/mdi_form.h"
 #include "platform/forms/modal_seam.h"
 #include "platform/forms/platform_style.h"
+#include "platform/forms/pointer_pause.h"
 #include "platform/runtime/runtime_error.h"
 
 Form::Form(const QString &name, Kind kind)
@@ -131,6 +132,7 @@ void Form::ShowModal(QWidget *owner) {
     }
 
     standAbove(owner != nullptr ? owner : QApplication::activeWindow());
+    const PointerPause pause;
     QEventLoop loop;
     QPointer<Form> self(this);
     m_modalLoop = &loop;

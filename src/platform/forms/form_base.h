@@ -58,7 +58,7 @@ public:
     /// Shown, though it may lie behind others or be minimised.
     bool Visible() const;
 
-    /// The hourglass shows over all windows until the form that set it takes it back.
+    /// The hourglass shows over all windows but a modal one until the form that set it takes it back.
     int MousePointer() const { return m_mousePointer; }
     void setMousePointer(int shape);
 

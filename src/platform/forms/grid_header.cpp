@@ -1,5 +1,6 @@
 #include "platform/forms/grid_header.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOptionHeader>
 #include <QSvgRenderer>
@@ -26,7 +27,7 @@ QSize GridHeader::sizeHint() const {
     int height = fontMetrics().height();
     for (int i = 0; i < m_model.columnCount(); ++i)
         if (!isSectionHidden(i)) height = qMax(height, headingSize(i, sectionSize(i) - 2 * Margin).height());
-    return {QHeaderView::sizeHint().width(), height + 2 * Margin};
+    return {length(), height + 2 * Margin};
 }
 
 void GridHeader::headingsChanged() {
@@ -92,8 +93,21 @@ QSize GridHeader::headingSize(int index, int width) const {
                    ? natural
                    : natural.scaled(qMax(width, 1), natural.height(), Qt::KeepAspectRatio);
     }
-    const QRect bounds(0, 0, qMax(width, 1), QWIDGETSIZE_MAX);
-    return fontMetrics().boundingRect(bounds, int(Qt::AlignLeft) | Qt::TextWordWrap, text(index)).size();
+    if (static_cast<int>(m_measured.size()) != m_model.columnCount())
+        m_measured.resize(static_cast<std::size_t>(m_model.columnCount()));
+    Measured &measured = m_measured[static_cast<std::size_t>(index)];
+    if (const QString heading = text(index); measured.width != width || measured.text != heading) {
+        const QRect bounds(0, 0, qMax(width, 1), QWIDGETSIZE_MAX);
+        const QRect place =
+            fontMetrics().boundingRect(bounds, int(Qt::AlignLeft) | Qt::TextWordWrap, heading);
+        measured = {heading, width, place.size()};
+    }
+    return measured.size;
+}
+
+void GridHeader::changeEvent(QEvent *event) {
+    QHeaderView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) m_measured.clear();
 }
 
 QString GridHeader::text(int index) const {

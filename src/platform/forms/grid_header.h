@@ -1,6 +1,8 @@
 // The headings of a grid: texts of several lines, or a picture.
 #pragma once
 
+#include <vector>
+
 #include <QHeaderView>
 
 class GridModel;
@@ -19,11 +21,21 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void paintSection(QPainter *painter, const QRect &rect, int index) const override;
     QSize sectionSizeFromContents(int index) const override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    /// A text as it was last measured.
+    struct Measured {
+        QString text;
+        int width = -1;
+        QSize size;
+    };
+
     void paintPicture(QPainter *painter, const QRect &rect, int index, const QColor &colour) const;
     QSize headingSize(int index, int width) const;
     QString text(int index) const;
 
     const GridModel &m_model;
+    // By column. The header is asked for its size at every change of every column, and the texts stay.
+    mutable std::vector<Measured> m_measured;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include <QAction>
 #include <QApplication>
@@ -72,9 +73,18 @@ int GridView::firstVisibleColumn() const {
 
 void GridView::columnsChanged() {
     m_rowsGrow = m_model.showsArray() || anyColumnWraps();
-    forgetRowHeights();
+    m_heightsStale = true;
+    scheduleDelayedItemsLayout();
+}
+
+void GridView::fitRows() {
+    if (m_rowsGrow && m_heightsStale) executeDelayedItemsLayout();
+}
+
+void GridView::doItemsLayout() {
+    if (std::exchange(m_heightsStale, false)) forgetRowHeights();
     fitVisibleRows();
-    viewport()->update();
+    QTableView::doItemsLayout();
 }
 
 QString GridView::selectedText() const {
@@ -141,7 +151,7 @@ void GridView::currentChanged(const QModelIndex &current, const QModelIndex &pre
 
 void GridView::resizeEvent(QResizeEvent *event) {
     QTableView::resizeEvent(event);
-    fitVisibleRows();
+    if (m_rowsGrow) scheduleDelayedItemsLayout();
 }
 
 void GridView::verticalScrollbarValueChanged(int value) {
@@ -183,9 +193,9 @@ int GridView::neededHeight(int row) const {
     initViewItemOption(&option);
     int height = verticalHeader()->defaultSectionSize();
     for (int column = 0; column < m_model.columnCount(); ++column) {
-        if (isColumnHidden(column)) continue;
-        option.rect = QRect(0, 0, columnWidth(column) - 1, height);
         const QModelIndex index = m_model.index(row, column);
+        if (isColumnHidden(column) || index.data().toString().isEmpty()) continue;
+        option.rect = QRect(0, 0, columnWidth(column) - 1, height);
         height =
             qMax(height, itemDelegateForIndex(index)->sizeHint(option, index).height() + 2 * CellPadding);
     }

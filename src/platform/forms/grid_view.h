@@ -22,8 +22,11 @@ public:
     /// 0 where all are hidden.
     int firstVisibleColumn() const;
 
-    /// Widths, headings or the way columns wrap are other ones now.
+    /// Widths, headings or the way columns wrap are other ones now. Rows take their heights before the next
+    /// painting, once for all changes up to then, or in fitRows().
     void columnsChanged();
+    void fitRows();
+    void doItemsLayout() override;
     /// The selected cells as lines of tab-separated texts; a text with a tab or a line end is quoted.
     QString selectedText() const;
     void copySelection() const;
@@ -58,4 +61,5 @@ private:
     QPoint m_pressedAt;
     std::vector<bool> m_fitted;
     bool m_rowsGrow = false;
+    bool m_heightsStale = false;
 };

@@ -5,7 +5,10 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "platform/forms/form_base.h"
+#include "platform/forms/forms.h"
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/pointer_pause.h"
 #include "platform/runtime/app.h"
 
 namespace {
@@ -50,6 +53,13 @@ QMessageBox::Icon iconOf(int style) {
     }
 }
 
+/// What the box stands above: where the desktop has not made a window the active one yet, the form used last.
+QWidget *owner() {
+    if (QWidget *window = QApplication::activeWindow()) return window;
+    FormBase *form = Forms::active();
+    return form != nullptr ? form->asWidget()->window() : nullptr;
+}
+
 } // namespace
 
 int MsgBox(const QString &text, int style, const QString &title) {
@@ -62,7 +72,7 @@ int MsgBox(const QString &text, int style, const QString &title) {
         request.title = heading;
         return seam->takeMsgBoxAnswer(request);
     }
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(owner());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
@@ -74,6 +84,7 @@ int MsgBox(const QString &text, int style, const QString &title) {
         box.addButton(button.button);
     const std::size_t preset = style & vbDefaultButton3 ? 2 : style & vbDefaultButton2 ? 1 : 0;
     if (preset < buttons.size()) box.setDefaultButton(buttons[preset].button);
+    const PointerPause pause;
     const int pressed = box.exec();
     for (const Button &button : buttons)
         if (button.button == pressed) return button.result;

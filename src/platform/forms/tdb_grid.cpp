@@ -272,6 +272,7 @@ void TDBGrid::showArray() {
     applyColumns(0, ColumnCount() - 1);
     if (RowCount() > 0) selectRow(row);
     m_view->horizontalScrollBar()->setValue(left);
+    if (top > 0) m_view->fitRows();
     m_view->verticalScrollBar()->setValue(top);
 }
 
@@ -288,6 +289,7 @@ void TDBGrid::moveRecordset(const QModelIndex &current) {
 }
 
 void TDBGrid::selectRow(int row) {
+    if (row > 0) m_view->fitRows(); // where it comes to lie depends on the rows above it
     int column = m_view->currentIndex().column();
     if (column < 0 || m_view->isColumnHidden(column)) column = m_view->firstVisibleColumn();
     const int left = m_view->horizontalScrollBar()->value();

@@ -107,12 +107,23 @@ void Composer::addSection(Section &section) {
     const SectionLayout layout = layOutSection(section, heights);
     addBands(section, layout, subReports);
     if (m_bands.size() == first) return;
-    if (section.KeepTogether) m_bands[first]->keepHeight = layout.height;
+    if (section.KeepTogether) keepTogether(first, layout.height);
     if (section.Type == SectionType::GroupHeader && section.RepeatOnNewPage) {
         for (std::size_t i = first; i < m_bands.size(); ++i) {
             m_bands[i]->isRepeatedHeading = true;
             m_headings.push_back(m_bands[i]);
         }
+    }
+}
+
+// From the first band that shows something: a distance above it may be lost.
+void Composer::keepTogether(std::size_t first, int height) {
+    for (std::size_t i = first; i < m_bands.size(); ++i) {
+        if (!m_bands[i]->elements.empty()) {
+            m_bands[i]->keepHeight = height;
+            return;
+        }
+        height -= m_bands[i]->height;
     }
 }
 

@@ -27,6 +27,7 @@ private:
     void addSection(Section &section);
     void addBands(const Section &section, const SectionLayout &layout,
                   const QHash<const Control *, Bands> &subReports);
+    void keepTogether(std::size_t first, int height);
     void append(const std::shared_ptr<Band> &band);
 
     Report &m_report;

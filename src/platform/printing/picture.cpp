@@ -73,9 +73,10 @@ void Picture::paint(QPainter &painter, const QRectF &target) const {
     painter.restore();
 }
 
-QImage Picture::toImage(const QSize &size, int dotsPerInch) const {
+QImage Picture::toImage(const QSize &size, int dotsPerInch, const QColor &ground) const {
     const double dotsPerTwip = double(dotsPerInch) / TwipsPerInch;
     QImage image = blankImage((QSizeF(size) * dotsPerTwip).toSize().expandedTo(QSize(1, 1)));
+    image.fill(ground);
     QPainter painter(&image);
     painter.scale(dotsPerTwip, dotsPerTwip);
     paint(painter, QRectF(QPointF(), size));

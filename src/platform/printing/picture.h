@@ -4,6 +4,7 @@
 #include <functional>
 
 #include <QByteArray>
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QPicture>
@@ -28,8 +29,8 @@ public:
     /// Draws into the middle of `target` (in twips, as the painter's coordinates), as large as the picture's
     /// proportions allow.
     void paint(QPainter &painter, const QRectF &target) const;
-    /// On white ground, `size` in twips, for readers that know no vectors.
-    QImage toImage(const QSize &size, int dotsPerInch) const;
+    /// On `ground`, `size` in twips, for readers that know no vectors.
+    QImage toImage(const QSize &size, int dotsPerInch, const QColor &ground = Qt::white) const;
 
 private:
     Picture(Painting painting, const QSizeF &size);

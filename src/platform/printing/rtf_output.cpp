@@ -36,10 +36,14 @@ QByteArray escaped(const QString &text) {
     return result;
 }
 
-QByteArray pictureGroup(const Picture &picture, const QSize &size) {
+// In a framed cell the picture leaves the frame free and stands on the cell's ground.
+QByteArray pictureGroup(const Element &element) {
+    QSize size = element.pictureSize;
+    if (element.Border.any()) size = size.boundedTo(element.box.size() - QSize(2 * CellPadding, CellPadding));
     QByteArray png;
     QBuffer buffer(&png);
-    const QImage image = picture.toImage(size, PictureDotsPerInch);
+    const QColor ground = element.BackStyle == 0 ? QColor(Qt::white) : element.BackColor;
+    const QImage image = element.picture.toImage(size, PictureDotsPerInch, ground);
     image.save(&buffer, "PNG");
     return "{\\pict\\pngblip\\picw" + number(image.width()) + "\\pich" + number(image.height()) +
            "\\picwgoal" + number(size.width()) + "\\pichgoal" + number(size.height()) + '\n' + png.toHex() +
@@ -56,8 +60,9 @@ public:
 private:
     void writeBlock(const Block &block);
     void writeTable(const Block &block);
-    void writeRow(const Row &row, int left, int height);
+    void writeRow(const Row &row, int left, int height, bool keepWithNext);
     void writeParagraph(const Element &element, int spaceBefore);
+    int pageHeight() const;
     void writePageRows(const char *destination, const std::vector<Row> &rows);
     QByteArray content(const Element &element);
     QByteArray characterFormat(const Element &element);
@@ -129,7 +134,7 @@ QByteArray RtfWriter::characterFormat(const Element &element) {
 
 QByteArray RtfWriter::content(const Element &element) {
     QByteArray result = characterFormat(element);
-    if (!element.picture.isNull()) result += pictureGroup(element.picture, element.pictureSize);
+    if (!element.picture.isNull()) result += pictureGroup(element);
     if (!element.picture.isNull() && !element.text.isEmpty()) result += ' ';
     if (element.pageValue == PageValue::None)
         result += escaped(element.text);
@@ -182,13 +187,23 @@ void RtfWriter::writeTable(const Block &block) {
     int left = block.rows.front().left();
     for (const Row &row : block.rows)
         left = std::min(left, row.left());
+    const bool fitsOnPage = block.rows.back().bottom() - block.rows.front().top() <= pageHeight();
     for (std::size_t i = 0; i < block.rows.size(); ++i) {
         const Row &row = block.rows[i];
+        const bool isLast = i + 1 == block.rows.size();
         // Without a frame, the distance to the next row may be the row's.
-        const bool takesGap = block.kind == Block::Kind::Aligned && i + 1 < block.rows.size();
-        writeRow(row, left, (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top());
+        const bool takesGap = block.kind == Block::Kind::Aligned && !isLast;
+        const int height = (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top();
+        writeRow(row, left, height, fitsOnPage && !isLast);
     }
     m_afterTable = true;
+}
+
+// What a page leaves for the content.
+int RtfWriter::pageHeight() const {
+    const PageSettings &page = m_document.pageSettings;
+    return page.PaperHeight - page.TopMargin - page.BottomMargin - m_document.pageHeaderHeight -
+           m_document.pageFooterHeight;
 }
 
 QByteArray RtfWriter::cellDefinition(const Element &cell) {
@@ -209,7 +224,7 @@ QByteArray RtfWriter::filler(int right) const {
 }
 
 // All rows of a table begin at its left edge; a gap before an element becomes an empty cell.
-void RtfWriter::writeRow(const Row &row, int left, int height) {
+void RtfWriter::writeRow(const Row &row, int left, int height, bool keepWithNext) {
     // The distance to the frame is the paragraphs' own: readers disagree on where a padded cell begins.
     m_body += "\\trowd\\trgaph0\\trleft" + number(left) + "\\trkeep";
     if (row.isHeading) m_body += "\\trhdr";
@@ -222,7 +237,7 @@ void RtfWriter::writeRow(const Row &row, int left, int height) {
             contents += "\\pard\\plain\\intbl\\cell\n";
         }
         m_body += cellDefinition(cell);
-        contents += QByteArray("\\pard\\plain\\intbl") + alignment(cell);
+        contents += QByteArray("\\pard\\plain\\intbl") + (keepWithNext ? "\\keepn" : "") + alignment(cell);
         if (cell.Border.any()) contents += "\\li" + number(CellPadding) + "\\ri" + number(CellPadding);
         if (cell.HeadingLevel > 0)
             contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";

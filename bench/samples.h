@@ -1,0 +1,72 @@
+// What was measured of one thing that a user waits for, and what was aimed at.
+#pragma once
+
+#include <chrono>
+#include <ctime>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace Bench {
+
+/// Of a sorted copy; 0 of nothing.
+double median(std::vector<double> values);
+
+/// 0 where there is none.
+struct Goal {
+    double milliseconds = 0;
+    /// Times as long as the other program takes.
+    double ratio = 0;
+    double megabytes = 0;
+};
+
+/// Times in seconds. Medians are told, since the machine is never ours alone, and beside the time on the
+/// clock the processor's time of this process.
+class Samples {
+public:
+    template <class Action>
+    double take(Action &&action) {
+        const double cpuBefore = processorTime();
+        const auto before = std::chrono::steady_clock::now();
+        action();
+        const std::chrono::duration<double> clock = std::chrono::steady_clock::now() - before;
+        m_clock.push_back(clock.count());
+        m_cpu.push_back(processorTime() - cpuBefore);
+        return clock.count();
+    }
+    void add(double clock, double cpu) {
+        m_clock.push_back(clock);
+        m_cpu.push_back(cpu);
+    }
+    void append(const Samples &other);
+
+    const std::vector<double> &clock() const { return m_clock; }
+    const std::vector<double> &cpu() const { return m_cpu; }
+
+    void report(benchmark::State &state, const Goal &goal) const;
+    /// With the other program's times, taken in turn with these.
+    void report(benchmark::State &state, const Goal &goal, const Samples &other) const;
+
+private:
+    static double processorTime() {
+        timespec time{};
+        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+    }
+
+    std::vector<double> m_clock;
+    std::vector<double> m_cpu;
+};
+
+/// One run of `action` for each iteration of the benchmark.
+template <class Action>
+void measure(benchmark::State &state, const Goal &goal, Action &&action) {
+    Samples samples;
+    for ([[maybe_unused]] auto _ : state)
+        state.SetIterationTime(samples.take(action));
+    samples.report(state, goal);
+}
+
+void reportMegabytes(benchmark::State &state, const Goal &goal, double megabytes);
+
+} // namespace Bench

@@ -1,0 +1,91 @@
+// Tool tips of all windows together, and the search window on small screens.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScrollBar>
+#include <QTest>
+
+#include "data/Material.h"
+#include "material/frmMaterial2.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/msg_box.h"
+#include "platform/forms/toolbar.h"
+#include "search/frmSearch.h"
+#include "shell/mdiVelmar.h"
+#include "tests/support/gui.h"
+#include "tests/support/program.h"
+
+namespace {
+
+/// Every tip of a window, as "control=tip".
+QStringList tipsOf(QWidget &window) {
+    QStringList tips;
+    for (const QWidget *control : window.findChildren<QWidget *>())
+        if (!control->toolTip().isEmpty()) tips << control->objectName() + '=' + control->toolTip();
+    return tips;
+}
+
+void switchToolTips() {
+    mdiVelmar::instance().menu.mnuSettingsElem(3).trigger();
+}
+
+} // namespace
+
+TEST(ToolTips, ReachTheWindowsThatAreOpenAndThoseThatOpenLater) {
+    const TestProgram program;
+    const auto buttonTip = [](const char *key) {
+        return mdiVelmar::instance().Toolbar1->Buttons(key).ToolTipText();
+    };
+    frmMaterial2 &first = program.open(program.material(2));
+    first.ShowTable("ChemComp");
+    const QStringList before = tipsOf(first);
+    EXPECT_TRUE(before.contains("cmdPrintSave(4)=Save Design Values Table To File (*.pdf,*.rtf,*.txt)..."));
+    EXPECT_TRUE(before.contains("txtMainData(6)=Date Velmar-PED last updated for this Material"));
+    EXPECT_TRUE(before.contains("cmdShowNotes=Show Table Notes"));
+    EXPECT_EQ(buttonTip("Print"), "Print (Preview) P265GH Report...");
+
+    switchToolTips();
+    EXPECT_EQ(tipsOf(first), QStringList());
+    first.cmdShowNotes->click();
+    frmMaterial2 &second = program.open(program.material(3));
+    EXPECT_EQ(tipsOf(first), QStringList()) << "opened notes bring none back";
+    EXPECT_EQ(tipsOf(second), QStringList());
+    EXPECT_EQ(buttonTip("Print"), "");
+    QStringList inDialog;
+    modal().driveForm([&](Form &form) {
+        inDialog = tipsOf(form);
+        form.Unload();
+    });
+    DefaultInstance<frmSearch>().cmdSelect(1)->click();
+    EXPECT_EQ(inDialog, QStringList());
+
+    switchToolTips();
+    EXPECT_TRUE(tipsOf(first).contains("cmdShowNotes=Hide Table Notes"));
+    first.cmdShowNotes->click();
+    EXPECT_EQ(tipsOf(first), before);
+    EXPECT_EQ(tipsOf(second), before);
+    EXPECT_EQ(buttonTip("Print"), "Print 'P295GH'");
+    EXPECT_EQ(buttonTip("Exit"), "Exit");
+}
+
+TEST(SmallScreens, EveryPartOfTheSearchWindowCanBeReached) {
+    for (const QSize &screen : {QSize(1024, 768), QSize(800, 600), QSize(640, 480)}) {
+        if (screen.width() < 800) modal().answerMsgBox(vbOK);
+        TestProgram::Given given;
+        given.screen = screen;
+        const TestProgram program(given);
+        QCoreApplication::processEvents();
+        const mdiVelmar &main = mdiVelmar::instance();
+        EXPECT_LE(main.width(), screen.width());
+        EXPECT_LE(main.height(), screen.height());
+        const auto *area = main.findChild<QMdiArea *>();
+        const QRect frame = area->subWindowList().value(0)->geometry();
+        EXPECT_GE(area->viewport()->width() + area->horizontalScrollBar()->maximum(), frame.right());
+        EXPECT_GE(area->viewport()->height() + area->verticalScrollBar()->maximum(), frame.bottom());
+        const bool fits =
+            !area->horizontalScrollBar()->isVisible() && !area->verticalScrollBar()->isVisible();
+        EXPECT_EQ(fits, screen.width() >= 800) << screen.width();
+    }
+}

@@ -1,0 +1,167 @@
+// The help file of the program, the ways that lead to it, and the about window.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QHelpContentModel>
+#include <QHelpEngine>
+#include <QHelpIndexModel>
+#include <QHelpLink>
+#include <QHelpSearchEngine>
+#include <QHelpSearchQueryWidget>
+#include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTextEdit>
+#include <QToolButton>
+
+#include "platform/desktop/help_viewer.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/msg_box.h"
+#include "platform/forms/status_bar.h"
+#include "platform/forms/toolbar.h"
+#include "platform/runtime/app.h"
+#include "search/frmSearch.h"
+#include "shell/frmAbout.h"
+#include "shell/HTMLHelp.h"
+#include "shell/mdiVelmar.h"
+#include "tests/support/gui.h"
+#include "tests/support/program.h"
+
+namespace {
+
+HelpViewer *viewer() {
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *found = qobject_cast<HelpViewer *>(widget)) return found;
+    return nullptr;
+}
+
+class HelpFile : public ::testing::Test {
+protected:
+    HelpFile() {
+        QFile::copy(BINARY_FOLDER "/Velmar_PED_HELP.qch", program.folder() + "/Velmar_PED_HELP.qch");
+    }
+    ~HelpFile() override { delete viewer(); }
+
+    static QString page() {
+        const auto *pages = viewer()->findChild<QTabWidget *>("HelpPages");
+        return pages->tabText(pages->currentIndex()).remove('&');
+    }
+    static QString topic() { return viewer()->findChild<QTextBrowser *>("HelpText")->source().fileName(); }
+    static QHelpEngine &engine() { return *viewer()->findChild<QHelpEngine *>(); }
+
+    mdiVelmar &main() const { return mdiVelmar::instance(); }
+    TestProgram program;
+};
+
+TEST_F(HelpFile, EveryWayLeadsToItsPage) {
+    main().menu.mnuHelpElem(1).trigger();
+    ASSERT_NE(viewer(), nullptr);
+    EXPECT_EQ(page(), "Index");
+    main().menu.mnuHelpElem(2).trigger();
+    EXPECT_EQ(page(), "Search");
+    main().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main()));
+    QTest::keyClick(&main(), Qt::Key_F1);
+    EXPECT_EQ(page(), "Contents");
+    ASSERT_TRUE(QTest::qWaitFor([] { return !topic().isEmpty(); }));
+
+    QTest::mouseClick(DefaultInstance<frmSearch>().imgIcon, Qt::LeftButton);
+    EXPECT_EQ(topic(), "How_To_Contact_Us.htm");
+    main().menu.mnuFileElem(5).trigger();
+    EXPECT_EQ(topic(), "General_Information.htm");
+    HTMLHelp::ShowHelpTopic(1, "How_To_Contact_Us.htm");
+    main().Toolbar1->Buttons("GenInfo").widget()->click();
+    EXPECT_EQ(topic(), "General_Information.htm");
+}
+
+/// Every topic stands in the contents, and nothing points to what is not there.
+TEST_F(HelpFile, ContentsIndexAndTopicsHoldTogether) {
+    main().menu.mnuHelpElem(0).trigger();
+    const QList<QUrl> files = engine().files(engine().registeredDocumentations().first(), QString());
+    const auto fileOf = [&](const QUrl &url) {
+        return engine().findFile(url.adjusted(QUrl::RemoveFragment));
+    };
+
+    QStringList sections;
+    QStringList shown;
+    const auto walk = [&](const auto &self, const QModelIndex &parent, const QString &above) -> void {
+        const QHelpContentModel &contents = *engine().contentModel();
+        for (int row = 0; row < contents.rowCount(parent); ++row) {
+            const QModelIndex index = contents.index(row, 0, parent);
+            const QHelpContentItem &item = *contents.contentItemAt(index);
+            sections << above + item.title();
+            shown << item.url().fileName();
+            EXPECT_TRUE(fileOf(item.url()).isValid()) << qPrintable(item.title());
+            self(self, index, item.title() + '/');
+        }
+    };
+    ASSERT_TRUE(QTest::qWaitFor([] { return engine().contentModel()->rowCount() > 0; }));
+    walk(walk, {}, {});
+    EXPECT_TRUE(sections.contains("How To Use Velmar-PED/Can't Start Velmar-PED?"));
+
+    ASSERT_TRUE(QTest::qWaitFor([] { return engine().indexModel()->rowCount() > 0; }));
+    for (int row = 0; row < engine().indexModel()->rowCount(); ++row) {
+        const QString keyword = engine().indexModel()->index(row).data().toString();
+        for (const QHelpLink &link : engine().documentsForKeyword(keyword))
+            EXPECT_TRUE(fileOf(link.url).isValid()) << qPrintable(keyword);
+    }
+
+    static const QRegularExpression pointers("(?:href|src)=\"([^\"]+)\"");
+    for (const QUrl &file : files) {
+        if (!file.fileName().endsWith(".htm")) continue;
+        EXPECT_TRUE(shown.contains(file.fileName())) << qPrintable(file.fileName());
+        const QString text = QString::fromUtf8(engine().fileData(file));
+        for (auto match = pointers.globalMatch(text); match.hasNext();) {
+            const QString target = match.next().captured(1);
+            EXPECT_TRUE(fileOf(file.resolved(target)).isValid())
+                << qPrintable(file.fileName()) << ": " << qPrintable(target);
+        }
+    }
+}
+
+TEST_F(HelpFile, AWordIsFoundInTheTopicsThatHoldIt) {
+    main().menu.mnuHelpElem(2).trigger();
+    auto *query = viewer()->findChild<QHelpSearchQueryWidget *>();
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        query->setSearchInput("interpolation OR straight");
+        Q_EMIT query->search();
+        QTest::qWait(100);
+        return engine().searchEngine()->searchResultCount() > 0;
+    }));
+    EXPECT_EQ(engine().searchEngine()->searchResults(0, 1).value(0).title(), "Design values");
+}
+
+TEST_F(HelpFile, AMissingFileIsToldWithItsNameAndNothingElseHappens) {
+    QFile::remove(program.folder() + "/Velmar_PED_HELP.qch");
+    modal().answerMsgBox(vbOK);
+    main().menu.mnuHelpElem(0).trigger();
+    EXPECT_TRUE(modal().lastAsked().text.contains(program.folder() + "/Velmar_PED_HELP.chm"));
+    EXPECT_EQ(viewer(), nullptr);
+    EXPECT_EQ(HTMLHelp::HelpFilePath(2), "");
+}
+
+TEST_F(HelpFile, TheAboutWindowTellsVersionAndLastUpdate) {
+    const QString standing = main().stbStatus->PanelText(1);
+    modal().driveForm([&](Form &form) {
+        EXPECT_EQ(main().stbStatus->PanelText(1), "About Velmar-PED");
+        auto &about = *form.as<frmAbout>();
+        const App &app = App::current();
+        EXPECT_EQ(about.Caption(), "About Velmar-PED");
+        EXPECT_EQ(about.lblTitle->text(), "Velmar-PED");
+        EXPECT_EQ(about.lblVersion->text(),
+                  QString("Version %1.%2.%3").arg(app.major).arg(app.minor).arg(app.revision));
+        EXPECT_EQ(about.lblCopyright->text(), QChar(0xA9) + (' ' + app.legalCopyright));
+        EXPECT_EQ(about.lblLastUpdated->text(), "Last Updated - 2021-11-08");
+        EXPECT_TRUE(about.txtContact->isReadOnly());
+        QTest::mouseClick(about.cmdOK, Qt::LeftButton);
+        EXPECT_TRUE(about.isUnloaded());
+    });
+    main().menu.mnuHelpElem(4).trigger();
+    EXPECT_EQ(main().stbStatus->PanelText(1), standing);
+}
+
+} // namespace

@@ -1,0 +1,96 @@
+// What the help shows of tables, graphs and design values; the PMA index, the help itself, the about window,
+// and the search on small screens.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QHelpSearchEngine>
+#include <QHelpSearchQueryWidget>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextBrowser>
+
+#include "platform/desktop/help_viewer.h"
+#include "platform/desktop/shell_execute.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/form.h"
+#include "platform/forms/msg_box.h"
+#include "platform/forms/screen.h"
+#include "shell/frmSplash.h"
+#include "shell/HTMLHelp.h"
+#include "tests/tour/tour.h"
+
+namespace {
+
+HelpViewer *helpWindow() {
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *viewer = qobject_cast<HelpViewer *>(widget)) return viewer;
+    return nullptr;
+}
+
+void leave(Tour &tour) {
+    tour.menu("mnuFileElem(7)");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+void showPmaIndex(Tour &tour) {
+    const ShellSeam nothingIsStarted;
+    tour.boxes().driveForm([&](Form &form) {
+        tour.picture("pma-index", form);
+        auto &box = tour.control<QLineEdit>(form, "txtSearchString");
+        tour.type(box, "plate");
+        tour.press(box, Qt::Key_Return);
+        tour.picture("pma-search", form);
+        form.Unload();
+    });
+    tour.click(tour.control<QAbstractButton>(tour.form("frmSearch"), "cmdShowPmaIndex"));
+}
+
+void showAbout(Tour &tour) {
+    tour.boxes().driveForm([&](Form &form) {
+        tour.picture("about", form);
+        form.Unload();
+    });
+    tour.menu("mnuHelpElem(4)");
+}
+
+void readHelp(Tour &tour) {
+    tour.menu("mnuHelpElem(0)");
+    HelpViewer &help = *helpWindow();
+    auto *text = help.findChild<QTextBrowser *>("HelpText");
+    (void)QTest::qWaitFor([text] { return !text->source().isEmpty(); });
+    tour.picture("help-contents", help);
+    HTMLHelp::ShowHelpTopic(1, "Design_Values.htm");
+    tour.menu("mnuHelpElem(1)");
+    tour.type(*help.findChild<QLineEdit *>("HelpIndexFilter"), "de");
+    tour.picture("help-index", help);
+
+    tour.menu("mnuHelpElem(2)");
+    auto *words = help.findChild<QHelpSearchQueryWidget *>()->findChild<QLineEdit *>();
+    const auto *engine = help.findChild<QHelpSearchEngine *>();
+    // the pages are read in the background at first
+    (void)QTest::qWaitFor([&] {
+        tour.retype(*words, "thickness");
+        tour.press(*words, Qt::Key_Return);
+        return engine->searchResultCount() > 0;
+    });
+    tour.picture("help-search", help);
+    help.close();
+}
+
+void useSmallScreens(Tour &tour) {
+    for (const QSize &screen : {QSize(800, 600), QSize(640, 480)}) {
+        leave(tour);
+        Screen::setSizeForTest(screen);
+        const bool tooSmall = screen.width() < 800;
+        if (tooSmall) tour.boxes().answerMsgBox(vbOK);
+        tour.press(DefaultInstance<frmSplash>(), Qt::Key_Space);
+        const QString name = QStringLiteral("search-%1x%2").arg(screen.width()).arg(screen.height());
+        tour.picture(name);
+        tour.control<QComboBox>(tour.form("frmSearch"), "cmbChooseStd").setCurrentIndex(2);
+        tour.picture(name + "-asme");
+    }
+    Screen::setSizeForTest({});
+}

@@ -1,0 +1,94 @@
+// Every table of a rich grade, graphs, and design values.
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "platform/forms/form.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/tdb_grid.h"
+#include "tests/tour/tour.h"
+
+namespace {
+
+FormBase &windowOf(Tour &tour, const QString &grade) {
+    for (FormBase &form : Forms())
+        if (form.Name() == QLatin1String("frmMaterial2") && form.Caption().contains(grade)) {
+            form.SetFocus();
+            return form;
+        }
+    return tour.form("frmMaterial2");
+}
+
+void press(Tour &tour, FormBase &form, const QString &button) {
+    tour.click(tour.control<QAbstractButton>(form, button));
+}
+
+void tables(Tour &tour, FormBase &window) {
+    const std::pair<const char *, const char *> pages[] = {{"mnuViewMechElem(0)", "table-room-temperature"},
+                                                           {"mnuViewMechElem(1)", "table-Rp02"},
+                                                           {"mnuViewMechElem(3)", "table-creep"},
+                                                           {"mnuViewElem(3)", "table-impact"},
+                                                           {"mnuViewPhysElem(0)", "table-modulus"},
+                                                           {"mnuViewPhysElem(1)", "table-expansion"},
+                                                           {"mnuViewPhysElem(2)", "table-conductivity"},
+                                                           {"mnuViewPhysElem(3)", "table-heat-capacity"},
+                                                           {"mnuViewPhysElem(4)", "table-resistivity"}};
+    for (const auto &[entry, name] : pages) {
+        tour.menu(entry);
+        tour.picture(name, *window.asWidget());
+    }
+}
+
+/// What the first grade has no values for.
+void tablesOfStainlessSteel(Tour &tour, FormBase &window) {
+    tour.menu("mnuViewMechElem(0)");
+    tour.picture("table-of-twelve-columns", *window.asWidget());
+    tour.menu("mnuViewMechElem(1)");
+    for (int i : {1, 2}) {
+        press(tour, window, QStringLiteral("optMechProp(%1)").arg(i));
+        tour.picture(i == 1 ? "table-Rp10" : "table-Rm", *window.asWidget());
+    }
+}
+
+void graphs(Tour &tour, FormBase &window) {
+    tour.menu("mnuViewMechElem(1)");
+    press(tour, window, "CommandShowGraph");
+    tour.picture("graph-bands", *window.asWidget());
+    tour.boxes().driveForm([&](Form &form) {
+        tour.picture("graph-enlarged", form);
+        form.Unload();
+    });
+    press(tour, window, "cmdPrintSave(2)");
+    press(tour, window, "CommandShowTable");
+
+    tour.menu("mnuViewMechElem(3)");
+    press(tour, window, "cmdUnBoundGraph");
+    tour.picture("graph-creep", *window.asWidget());
+    press(tour, window, "cmdUnBoundTable");
+}
+
+} // namespace
+
+void showTablesAndGraphs(Tour &tour) {
+    tablesOfStainlessSteel(tour, windowOf(tour, "X2CrNiMo17-12-2"));
+    FormBase &window = windowOf(tour, "P265GH");
+    tables(tour, window);
+    graphs(tour, window);
+}
+
+void designValues(Tour &tour) {
+    tour.menu("mnuViewElem(6)");
+    FormBase &window = windowOf(tour, "P265GH");
+    auto &box = tour.control<QLineEdit>(window, "txtDesignTemp");
+    tour.type(box, "425");
+    tour.picture("design-values", *window.asWidget());
+    tour.menu("mnuWindowElem(1)");
+    tour.picture("design-values-of-two");
+    tour.retype(box, "-10");
+    tour.picture("design-values-below", *window.asWidget());
+    // no mean expansion is given at 20 °C, the lower neighbour
+    tour.retype(box, "60");
+    tour.control<TDBGrid>(window, "tdbDesign").setRow(16);
+    tour.picture("design-values-missing", *window.asWidget());
+    tour.retype(box, "480,5");
+}
