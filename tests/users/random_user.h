@@ -1,0 +1,69 @@
+// Somebody who knows nothing of the program and uses all of it.
+#pragma once
+
+#include <functional>
+#include <random>
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+#include "tests/support/session.h"
+
+class QWidget;
+
+/// Keys, typed and pasted texts, clicks, menu choices, temperatures, windows moved about, and answers to
+/// boxes, all by a seed. Every action is noted in the session before it is done, as "do: ...".
+class RandomUser : public QObject {
+public:
+    /// Files are saved in `folder`.
+    RandomUser(Session &session, unsigned seed, const QString &folder);
+
+    /// So many actions, or until the program has gone.
+    void work(int actions);
+
+private:
+    using Random = std::mt19937;
+
+    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
+    template <typename Item>
+    const Item &oneOf(const QList<Item> &items) {
+        return items[below(static_cast<int>(items.size()))];
+    }
+
+    bool isRunning() const;
+    /// What a person could reach now: an open menu, a modal window, or the program's main window.
+    QWidget *scope() const;
+    void act();
+    void note(const QString &action);
+
+    void click();
+    void pressKey();
+    void pressShortcut();
+    void type();
+    void typeTemperature();
+    void paste();
+    void useGrid();
+    void dragGrade();
+    void chooseFromMenu();
+    void useWindowFrame();
+    void turnWheel();
+    void selectAndShow();
+
+    QString anyText();
+    QWidget *anyWidget(const std::function<bool(QWidget &)> &fits);
+    template <class Widget>
+    Widget *any();
+
+    int answer(const ModalSeam::Request &request);
+    QString file();
+    void use(Form &window);
+    /// Looks after what waits for a person in an event loop of its own: menus, drags, the system's dialogs.
+    void keepWatch();
+
+    Session &m_session;
+    Random m_random;
+    QString m_folder;
+    int m_depth = 0; // modal windows above one another
+};

@@ -1,0 +1,138 @@
+// random_users [ACTIONS] [SEED]: sets random users to the program until they have done so much, in runs of
+// their own, and tells of each run-time error that ended one, with what led to it. The only errors that may
+// are those of a statement that a typed or pasted quotation mark or bracket has spoilt.
+#include <cstdio>
+#include <map>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/forms/screen.h"
+#include "platform/runtime/text_file.h"
+#include "tests/support/session.h"
+#include "tests/users/random_user.h"
+
+namespace {
+
+constexpr int ActionsOfARun = 400;
+constexpr int ActionsTold = 12;
+constexpr unsigned LongestRun = 600; // seconds
+
+void copyFolder(const QString &from, const QString &to) {
+    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        const QString target = to + path.mid(from.size());
+        QDir().mkpath(QFileInfo(target).path());
+        QFile::copy(path, target);
+    }
+}
+
+/// Errors of the engine for a text that is no SQL, or that asks for what is not there.
+bool isStatementError(int error) {
+    return error == 93 || error == 3061 || error == 3070 || error == 3075 || error == 3077 || error == 3078 ||
+           error == 3085 || error == 3131 || error == 3141 || error == 3142 || error == 3464;
+}
+
+bool hasSpoiltText(const QStringList &actions) {
+    for (const QString &action : actions) {
+        if (!action.startsWith("type ") && !action.startsWith("paste ") && !action.startsWith("key "))
+            continue;
+        const QString text = action.section('"', 1, -2);
+        if (text.contains('\'') || text.contains('[') || text.contains('"') || action.startsWith("key '"))
+            return true;
+    }
+    return false;
+}
+
+class Users {
+public:
+    explicit Users(unsigned seed)
+        : m_seed(seed)
+        , m_folders{m_folder.filePath("program"), m_folder.filePath("user")} {
+        copyFolder(SOURCE_FOLDER "/sample/PMA", m_folders.program + "/PMA");
+        for (const char *file : {"Velmar_PED.mdb", "PMA_Index.mdb", "morepmainfo.pdf"})
+            QFile::copy(QString(SOURCE_FOLDER "/sample/") + file, m_folders.program + "/" + file);
+        QDir().mkpath(m_folders.user);
+    }
+
+    int actions() const { return m_actions; }
+
+    void next(int actions) {
+        const unsigned seed = m_seed + static_cast<unsigned>(m_runs++);
+        const Ending ending = ProgramRun::whole(
+            m_folders,
+            [&](Session &session) {
+                chooseSurroundings(seed);
+                RandomUser user(session, seed, m_folders.user);
+                session.start();
+                user.work(actions);
+                session.leave();
+            },
+            LongestRun);
+        judge(ending, seed);
+    }
+
+    bool report() const {
+        std::printf("runs: %d; actions: %d; boxes: %d; windows: %d\n", m_runs, m_actions, m_boxes, m_windows);
+        for (const auto &[error, times] : m_errors)
+            std::printf("run-time error %d: %d times\n", error, times);
+        std::printf("most memory: %ld MB; faults: %d\n", m_memory / 1024, m_faults);
+        return m_faults == 0;
+    }
+
+private:
+    static void chooseSurroundings(unsigned seed) {
+        const RegionalSettings regions[] = {{'.', ',', "M/d/yyyy", "h:mm:ss AP"},
+                                            {',', '.', "dd.MM.yyyy", "HH:mm:ss"},
+                                            {',', QChar(0x202f), "dd/MM/yyyy", "HH:mm:ss"}};
+        RegionalSettings::setCurrent(regions[seed % 3]);
+        const QSize screens[] = {{1280, 1024}, {1024, 768}, {800, 600}, {640, 480}};
+        Screen::setSizeForTest(screens[seed / 3 % 4]);
+    }
+
+    void judge(const Ending &ending, unsigned seed) {
+        const QStringList done = ending.noted("do: ");
+        m_actions += static_cast<int>(done.size());
+        m_boxes += static_cast<int>(ending.noted("box: ").size());
+        m_windows += static_cast<int>(ending.noted("window: ").size());
+        m_memory = std::max(m_memory, ending.kilobytes);
+        const int error = ending.error();
+        if (error != 0) ++m_errors[error];
+        const bool allowed =
+            error != 0 && ending.status == 1 && isStatementError(error) && hasSpoiltText(done);
+        const bool keptSettings = TextFile::readLines(m_folders.userFile("Settings.vlp")).size() == 27;
+        if (!allowed && (ending.status != 0 || error != 0 || !keptSettings)) ++m_faults;
+        if (ending.status == 0 && keptSettings) return;
+        std::printf("%s seed %u, status %d%s; the last actions:\n", allowed ? "allowed:" : "FAULT:", seed,
+                    ending.status, keptSettings ? "" : ", settings lost");
+        for (const QString &action : done.mid(std::max<qsizetype>(0, done.size() - ActionsTold)))
+            std::printf("    %s\n", qPrintable(action));
+        const qsizetype last = ending.log.lastIndexOf("do: " + (done.isEmpty() ? QString() : done.last()));
+        for (const QString &line : ending.log.mid(last + 1).mid(0, allowed ? 3 : 80))
+            if (!line.isEmpty()) std::printf("    -> %s\n", qPrintable(line.left(400)));
+    }
+
+    unsigned m_seed;
+    QTemporaryDir m_folder;
+    Session::Folders m_folders;
+    int m_runs = 0;
+    int m_actions = 0;
+    int m_boxes = 0;
+    int m_windows = 0;
+    long m_memory = 0;
+    std::map<int, int> m_errors;
+    int m_faults = 0;
+};
+
+} // namespace
+
+int main(int argc, char **argv) {
+    const int actions = argc > 1 ? std::atoi(argv[1]) : 20'000;
+    Users users(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 20260131);
+    while (users.actions() < actions)
+        users.next(std::min(ActionsOfARun, actions - users.actions()));
+    return users.report() ? 0 : 1;
+}
