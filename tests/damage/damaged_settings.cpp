@@ -14,7 +14,7 @@
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/text_file.h"
 #include "shell/settings_file.h"
-#include "tests/support/session.h"
+#include "tests/support/test_run.h"
 
 namespace {
 
@@ -137,7 +137,7 @@ public:
         const bool colourIsBad = hasBadColour();
         const qsizetype answer = m_damager.below(3);
         const Ending ending =
-            ProgramRun::whole(m_folders, [&](Session &session) { useBriefly(session, answer); });
+            ProgramRun::whole(m_folders, [&](TestRun &testRun) { useBriefly(testRun, answer); });
         judge(ending, colourIsBad);
         ++m_count;
     }
@@ -177,17 +177,17 @@ private:
     }
 
     /// Answers to a missing database: No; another one; one that is none.
-    void useBriefly(Session &session, qsizetype answer) const {
+    void useBriefly(TestRun &testRun, qsizetype answer) const {
         int asked = 0;
-        session.answerBox = [&](const ModalSeam::Request &request) {
+        testRun.answerBox = [&](const ModalSeam::Request &request) {
             if ((request.style & 0xf) != vbYesNo) return int(vbOK);
             return answer > 0 && ++asked < 4 ? int(vbYes) : int(vbNo);
         };
-        session.chooseFile = [&](const ModalSeam::Request &) {
+        testRun.chooseFile = [&](const ModalSeam::Request &) {
             return answer == 1 ? m_folders.program + "/Velmar_PED.mdb" : user("Settings.vlp");
         };
-        session.start();
-        session.leave();
+        testRun.start();
+        testRun.leave();
     }
 
     void judge(const Ending &ending, bool colourIsBad) {
@@ -211,7 +211,7 @@ private:
 
     TextDamager m_damager;
     QTemporaryDir m_folder;
-    Session::Folders m_folders;
+    TestRun::Folders m_folders;
     QByteArray m_settings;
     QByteArray m_path;
     int m_count = 0;

@@ -49,13 +49,13 @@ void leaves(const QMenu &menu, QList<QAction *> &found) {
 
 } // namespace
 
-RandomUser::RandomUser(Session &session, unsigned seed, const QString &folder)
-    : m_session(session)
+RandomUser::RandomUser(TestRun &testRun, unsigned seed, const QString &folder)
+    : m_testRun(testRun)
     , m_random(seed)
     , m_folder(folder) {
-    session.answerBox = [this](const ModalSeam::Request &request) { return answer(request); };
-    session.chooseFile = [this](const ModalSeam::Request &) { return file(); };
-    session.useWindow = [this](Form &window) { use(window); };
+    testRun.answerBox = [this](const ModalSeam::Request &request) { return answer(request); };
+    testRun.chooseFile = [this](const ModalSeam::Request &) { return file(); };
+    testRun.useWindow = [this](Form &window) { use(window); };
     keepWatch();
 }
 
@@ -78,7 +78,7 @@ QWidget *RandomUser::scope() const {
 }
 
 void RandomUser::note(const QString &action) {
-    m_session.note("do: " + action);
+    m_testRun.note("do: " + action);
 }
 
 void RandomUser::act() {

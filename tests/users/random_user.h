@@ -9,16 +9,16 @@
 #include <QString>
 #include <QStringList>
 
-#include "tests/support/session.h"
+#include "tests/support/test_run.h"
 
 class QWidget;
 
 /// Keys, typed and pasted texts, clicks, menu choices, temperatures, windows moved about, and answers to
-/// boxes, all by a seed. Every action is noted in the session before it is done, as "do: ...".
+/// boxes, all by a seed. Every action is noted in the testRun before it is done, as "do: ...".
 class RandomUser : public QObject {
 public:
     /// Files are saved in `folder`.
-    RandomUser(Session &session, unsigned seed, const QString &folder);
+    RandomUser(TestRun &testRun, unsigned seed, const QString &folder);
 
     /// So many actions, or until the program has gone.
     void work(int actions);
@@ -62,7 +62,7 @@ private:
     /// Looks after what waits for a person in an event loop of its own: menus, drags, the system's dialogs.
     void keepWatch();
 
-    Session &m_session;
+    TestRun &m_testRun;
     Random m_random;
     QString m_folder;
     int m_depth = 0; // modal windows above one another

@@ -10,8 +10,9 @@
 #include <QTemporaryDir>
 
 #include "platform/forms/screen.h"
+#include "platform/runtime/regional_settings.h"
 #include "platform/runtime/text_file.h"
-#include "tests/support/session.h"
+#include "tests/support/test_run.h"
 #include "tests/users/random_user.h"
 
 namespace {
@@ -64,12 +65,12 @@ public:
         const unsigned seed = m_seed + static_cast<unsigned>(m_runs++);
         const Ending ending = ProgramRun::whole(
             m_folders,
-            [&](Session &session) {
+            [&](TestRun &testRun) {
                 chooseSurroundings(seed);
-                RandomUser user(session, seed, m_folders.user);
-                session.start();
+                RandomUser user(testRun, seed, m_folders.user);
+                testRun.start();
                 user.work(actions);
-                session.leave();
+                testRun.leave();
             },
             LongestRun);
         judge(ending, seed);
@@ -117,7 +118,7 @@ private:
 
     unsigned m_seed;
     QTemporaryDir m_folder;
-    Session::Folders m_folders;
+    TestRun::Folders m_folders;
     int m_runs = 0;
     int m_actions = 0;
     int m_boxes = 0;

@@ -37,6 +37,11 @@ DBEngine &DBEngine::instance() {
 std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclusive, bool,
                                                  const QString &connect) {
     const QFileInfo file(path);
+    const QString fullPath = file.absoluteFilePath();
+    m_open.removeIf([](const auto &entry) { return entry.value().expired(); });
+    // what is open goes on being read, whatever has become of the file of that name
+    if (const std::shared_ptr<TableStore> open = path.isEmpty() ? nullptr : m_open.value(fullPath).lock())
+        return std::make_shared<Database>(fullPath, open);
     if (!path.isEmpty() && !QFileInfo(file.absolutePath()).isDir())
         throw RuntimeError(3044, QString("'%1' is not a valid path.  Make sure that the path name is spelled "
                                          "correctly and that you are connected to the server on which the "
@@ -47,8 +52,6 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclu
     if (!file.isFile() || !file.isReadable())
         throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
 
-    const QString fullPath = file.absoluteFilePath();
-    m_open.removeIf([](const auto &entry) { return entry.value().expired(); });
     const QString identity = file.canonicalFilePath();
     std::shared_ptr<TableStore> store = m_open.value(identity).lock();
     if (!store) {
@@ -57,5 +60,6 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclu
         store = std::make_shared<TableStore>(openSource(fullPath, passwordOf(connect)), std::move(lock));
         m_open.insert(identity, store);
     }
+    m_open.insert(fullPath, store);
     return std::make_shared<Database>(fullPath, store);
 }

@@ -15,8 +15,8 @@
 #include "platform/runtime/text_file.h"
 #include "search/frmSearch.h"
 #include "shell/mdiVelmar.h"
-#include "tests/sessions/medium.h"
-#include "tests/support/session.h"
+#include "tests/runs/medium.h"
+#include "tests/support/test_run.h"
 
 namespace {
 
@@ -27,21 +27,21 @@ constexpr int DamagedDatabase = 3343;
 const QString Sample = QStringLiteral(SOURCE_FOLDER "/sample/Velmar_PED.mdb");
 
 /// Grades in the list, and cells in a table of the first one, as the windows show them.
-void lookAround(Session &session) {
+void lookAround(TestRun &testRun) {
     auto &search = DefaultInstance<frmSearch>();
-    session.note("grades " + search.lblMatCount->text());
-    QTest::keyClick(search.tdbMaterials, Qt::Key_Return);
+    testRun.note("grades " + search.lblMatCount->text());
+    search.cmdSelectMat->click();
     mdiVelmar &main = mdiVelmar::instance();
     main.menu.mnuFileElem(0).trigger();
     main.menu.mnuViewMechElem(1).trigger();
     const auto *grid = Forms::byName("frmMaterial2")->asWidget()->findChild<TDBGrid *>("tdbBoundTable");
-    session.note(QString("rows %1").arg(grid->model()->rowCount()));
+    testRun.note(QString("rows %1").arg(grid->RowCount()));
 }
 
-void startLookAndLeave(Session &session) {
-    session.start();
-    lookAround(session);
-    session.leave();
+void startLookAndLeave(TestRun &testRun) {
+    testRun.start();
+    lookAround(testRun);
+    testRun.leave();
 }
 
 bool hasSeenTheSample(const Ending &ending) {
@@ -84,7 +84,7 @@ protected:
     void tell(const QString &file) const { QFile(m_folders.user + "/" + file).open(QIODevice::WriteOnly); }
 
     QTemporaryDir m_folder;
-    Session::Folders m_folders{m_folder.filePath("program"), m_folder.filePath("user")};
+    TestRun::Folders m_folders{m_folder.filePath("program"), m_folder.filePath("user")};
 };
 
 } // namespace
@@ -92,15 +92,15 @@ protected:
 TEST_F(HardTimes, ASecondRunIsToldThatTheDatabaseIsHeld) {
     putDatabase();
     const QString end = m_folders.user + "/end";
-    ProgramRun first(m_folders, [&](Session &session) {
-        session.start();
-        session.note("up");
+    ProgramRun first(m_folders, [&](TestRun &testRun) {
+        testRun.start();
+        testRun.note("up");
         waitFor(end);
-        lookAround(session);
-        session.leave();
+        lookAround(testRun);
+        testRun.leave();
     });
     ASSERT_TRUE(first.waitUntilNoted("up"));
-    const Ending second = ProgramRun::whole(m_folders, [](Session &session) { session.start(); });
+    const Ending second = ProgramRun::whole(m_folders, [](TestRun &testRun) { testRun.start(); });
     EXPECT_EQ(second.status, 0) << qPrintable(second.log.join('\n'));
     EXPECT_EQ(second.log.filter("box: Error Occurred!!").filter("Error No. - 3356").size(), 1)
         << qPrintable(second.log.join('\n'));
@@ -114,10 +114,10 @@ TEST_F(HardTimes, ASecondRunIsToldThatTheDatabaseIsHeld) {
 TEST_F(HardTimes, ARunThatIsKilledLeavesNothingBehind) {
     putDatabase();
     {
-        ProgramRun run(m_folders, [](Session &session) {
-            session.start();
-            lookAround(session);
-            session.note("up");
+        ProgramRun run(m_folders, [](TestRun &testRun) {
+            testRun.start();
+            lookAround(testRun);
+            testRun.note("up");
             QTest::qWait(60'000);
         });
         ASSERT_TRUE(run.waitUntilNoted("up"));
@@ -149,11 +149,11 @@ TEST_F(HardTimes, SettingsThatCannotBeKeptAreTold) {
     putDatabase();
     EXPECT_EQ(runAgain().status, 0);
     const QStringList before = TextFile::readLines(settings());
-    const Ending ending = ProgramRun::whole(m_folders, [&](Session &session) {
-        session.start();
-        lookAround(session);
+    const Ending ending = ProgramRun::whole(m_folders, [&](TestRun &testRun) {
+        testRun.start();
+        lookAround(testRun);
         medium.makeReadOnly();
-        session.leave();
+        testRun.leave();
     });
     EXPECT_EQ(ending.status, 1);
     EXPECT_EQ(ending.error(), PermissionDenied) << qPrintable(ending.log.join('\n'));
@@ -168,15 +168,15 @@ TEST_F(HardTimes, AFullDiskAtExitKeepsTheOldSettings) {
     EXPECT_EQ(runAgain().status, 0);
     const QStringList before = TextFile::readLines(settings());
     const QString filler = m_folders.user + "/filler";
-    const Ending ending = ProgramRun::whole(m_folders, [&](Session &session) {
-        session.start();
-        lookAround(session);
+    const Ending ending = ProgramRun::whole(m_folders, [&](TestRun &testRun) {
+        testRun.start();
+        lookAround(testRun);
         QFile file(filler);
         if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
             while (file.write(QByteArray(1024, 'x')) > 0) {
             }
         mdiVelmar::instance().menu.mnuSettingsElem(1).trigger();
-        session.leave();
+        testRun.leave();
     });
     EXPECT_EQ(ending.status, 1);
     EXPECT_EQ(ending.error(), DiskFull) << qPrintable(ending.log.join('\n'));
@@ -202,15 +202,15 @@ TEST_F(HardTimes, AFullDiskAtTheFirstStartIsNoHindrance) {
 
 TEST_F(HardTimes, ADatabaseThatIsReplacedOrGoneIsReadOn) {
     putDatabase();
-    const Ending ending = ProgramRun::whole(m_folders, [&](Session &session) {
-        session.start();
+    const Ending ending = ProgramRun::whole(m_folders, [&](TestRun &testRun) {
+        testRun.start();
         QFile::copy(Sample, database() + ".new");
         if (::rename(qPrintable(database() + ".new"), qPrintable(database())) != 0)
-            session.note("cannot replace");
-        lookAround(session);
+            testRun.note("cannot replace");
+        lookAround(testRun);
         QFile::remove(database());
         mdiVelmar::instance().menu.mnuViewPhysElem(0).trigger();
-        session.leave();
+        testRun.leave();
     });
     EXPECT_EQ(ending.status, 0) << qPrintable(ending.log.join('\n'));
     EXPECT_TRUE(hasSeenTheSample(ending));
@@ -218,11 +218,11 @@ TEST_F(HardTimes, ADatabaseThatIsReplacedOrGoneIsReadOn) {
 
 TEST_F(HardTimes, ADatabaseThatIsWrittenOverShowsNoMoreValues) {
     putDatabase();
-    const Ending ending = ProgramRun::whole(m_folders, [&](Session &session) {
-        session.start();
+    const Ending ending = ProgramRun::whole(m_folders, [&](TestRun &testRun) {
+        testRun.start();
         writeOver(database());
-        lookAround(session);
-        session.leave();
+        lookAround(testRun);
+        testRun.leave();
     });
     EXPECT_EQ(ending.status, 1);
     EXPECT_EQ(ending.error(), DamagedDatabase) << qPrintable(ending.log.join('\n'));

@@ -31,9 +31,9 @@ struct Ending {
 };
 
 /// Handed to whoever sits at the windows.
-class Session {
+class TestRun {
 public:
-    using User = std::function<void(Session &session)>;
+    using User = std::function<void(TestRun &testRun)>;
 
     struct Folders {
         /// Holds what comes with the program, the database among it.
@@ -60,7 +60,7 @@ public:
 private:
     friend class ProgramRun;
 
-    explicit Session(int log)
+    explicit TestRun(int log)
         : m_log(log) {}
     int live(const Folders &folders, const User &user);
     void queueAnswers();
@@ -77,7 +77,7 @@ public:
     /// Starts the program, and lets `user` work once its start window shows. A run that has not ended after
     /// so many seconds is ended by a signal. The calling process must not have an application object, nor
     /// threads.
-    ProgramRun(const Session::Folders &folders, const Session::User &user, unsigned seconds = 60);
+    ProgramRun(const TestRun::Folders &folders, const TestRun::User &user, unsigned seconds = 60);
     ~ProgramRun();
     ProgramRun(const ProgramRun &) = delete;
     ProgramRun &operator=(const ProgramRun &) = delete;
@@ -89,7 +89,7 @@ public:
     bool waitUntilNoted(const QString &line);
     Ending wait();
 
-    static Ending whole(const Session::Folders &folders, const Session::User &user, unsigned seconds = 60) {
+    static Ending whole(const TestRun::Folders &folders, const TestRun::User &user, unsigned seconds = 60) {
         return ProgramRun(folders, user, seconds).wait();
     }
 

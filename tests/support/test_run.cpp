@@ -1,4 +1,4 @@
-#include "tests/support/session.h"
+#include "tests/support/test_run.h"
 
 #include <csignal>
 #include <cstdio>
@@ -55,7 +55,7 @@ QStringList Ending::noted(const QString &beginning) const {
     return found;
 }
 
-ProgramRun::ProgramRun(const Session::Folders &folders, const Session::User &user, unsigned seconds) {
+ProgramRun::ProgramRun(const TestRun::Folders &folders, const TestRun::User &user, unsigned seconds) {
     if (!m_log.open()) qFatal("no log");
     std::fflush(nullptr); // or both processes would print it
     m_clock.start();
@@ -65,7 +65,7 @@ ProgramRun::ProgramRun(const Session::Folders &folders, const Session::User &use
     alarm(seconds);
     dup2(m_log.handle(), STDERR_FILENO);
     dup2(m_log.handle(), STDOUT_FILENO);
-    std::exit(Session(m_log.handle()).live(folders, user));
+    std::exit(TestRun(m_log.handle()).live(folders, user));
 }
 
 ProgramRun::~ProgramRun() {
@@ -107,7 +107,7 @@ Ending ProgramRun::wait() {
     return ending;
 }
 
-int Session::live(const Folders &folders, const User &user) {
+int TestRun::live(const Folders &folders, const User &user) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("APPDATA", folders.user.toUtf8());
     qputenv("HOME", folders.user.toUtf8()); // nothing is left in the folders of the person who runs the tests
@@ -127,20 +127,20 @@ int Session::live(const Folders &folders, const User &user) {
     return application.run();
 }
 
-void Session::start() {
+void TestRun::start() {
     QTest::keyClick(&DefaultInstance<frmSplash>(), Qt::Key_A);
 }
 
-void Session::leave() {
+void TestRun::leave() {
     if (auto *window = LoadedInstance<mdiVelmar>()) window->menu.mnuFileElem(7).trigger();
 }
 
-void Session::note(const QString &line) {
+void TestRun::note(const QString &line) {
     const QByteArray text = QString(line).replace('\n', ' ').remove('\r').toUtf8() + '\n';
     if (write(m_log, text.constData(), static_cast<std::size_t>(text.size())) < 0) std::abort();
 }
 
-void Session::queueAnswers() {
+void TestRun::queueAnswers() {
     queueBoxAnswer();
     queueFile();
     queueWindow();
@@ -148,7 +148,7 @@ void Session::queueAnswers() {
 
 // Each answer that is taken puts the next one in its place, so that a box within a box has one too.
 
-void Session::queueBoxAnswer() {
+void TestRun::queueBoxAnswer() {
     m_seam->answerMsgBox([this](const ModalSeam::Request &request) {
         queueBoxAnswer();
         note("box: " + request.title + ": " + request.text);
@@ -156,7 +156,7 @@ void Session::queueBoxAnswer() {
     });
 }
 
-void Session::queueFile() {
+void TestRun::queueFile() {
     m_seam->chooseFile([this](const ModalSeam::Request &request) {
         queueFile();
         note("file dialog: " + request.title);
@@ -164,7 +164,7 @@ void Session::queueFile() {
     });
 }
 
-void Session::queueWindow() {
+void TestRun::queueWindow() {
     m_seam->driveForm([this](Form &window) {
         queueWindow();
         note("window: " + window.Name());
