@@ -79,7 +79,8 @@ void Tour::press(QWidget &widget, Qt::Key key) {
 }
 
 void Tour::click(QWidget &widget) {
-    QTest::mouseClick(&widget, Qt::LeftButton);
+    // an option is chosen at its mark: beside its text a click does nothing
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, {8, widget.height() / 2});
     settle();
 }
 
