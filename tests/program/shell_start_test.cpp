@@ -259,6 +259,21 @@ TEST_F(Start, ARunWithoutADatabaseEndsCleanlyAndKeepsTheSettings) {
     modal().clear();
 }
 
+TEST_F(Start, APathThatCannotBeRememberedIsLoggedAlthoughTheDatabaseIsOpen) {
+    QDir(m_program.path()).mkdir("elsewhere");
+    copyDatabase(program("elsewhere/Velmar_PED.mdb"));
+    QDir().mkpath(user("PathSet.vlp")); // a folder, which no line can be written to
+    modal().answerMsgBox(vbYes);
+    modal().chooseFile(program("elsewhere/Velmar_PED.mdb"));
+    modal().answerMsgBox(vbOK);
+    start();
+    EXPECT_FALSE(isRunning());
+    EXPECT_TRUE(modDBase::bDatabaseFailed());
+    EXPECT_NE(modDBase::dbMain(), nullptr);
+    EXPECT_EQ(settingsOf(program("ErrorLog.txt")).value(1), "Error No. - 75");
+    modal().clear();
+}
+
 TEST_F(Start, CancelInTheFileDialogEndsLikeNo) {
     modal().answerMsgBox(vbYes);
     modal().chooseFile(QString());
@@ -326,6 +341,11 @@ TEST_F(Start, SettingsComeBackAtTheNextStart) {
     EXPECT_FALSE(main.menu.mnuSettingsToolElem(3).Enabled());
     EXPECT_FALSE(main.stbStatus->Visible());
     EXPECT_TRUE(main.bColoursOff);
+    const auto &search = DefaultInstance<frmSearch>(); // it was loaded with its colours
+    EXPECT_FALSE(search.tdbMaterials->AlternatingRowStyle());
+    EXPECT_FALSE(search.tdbSelected->AlternatingRowStyle());
+    for (const auto &[index, box] : search.txtSearch)
+        EXPECT_EQ(box->palette().color(QPalette::Base), QColor(Qt::white)) << index;
     EXPECT_FALSE(main.bToolTips);
     EXPECT_EQ(main.iArrangement, 1);
     EXPECT_EQ(main.strArrangement, "Cascade"); // until the next Show brings it in line
