@@ -8,6 +8,7 @@
 #include "bench/program.h"
 #include "bench/rows.h"
 #include "bench/samples.h"
+#include "platform/dao/recordset.h"
 #include "search/frmSearch.h"
 
 namespace Bench {
@@ -43,6 +44,14 @@ Stroke narrowingStroke(frmSearch &search) {
     return best;
 }
 
+/// List, count and current standard are all of the same search.
+bool agree(frmSearch &search) {
+    const auto found = search.dtaMaterials->recordset();
+    const int count = found->RecordCount();
+    if (search.tdbMaterials->RowCount() != count || search.lblMatCount->text().toInt() != count) return false;
+    return count == 0 || found->Fields("standard") == search.dtaStandard->recordset()->Fields("standard");
+}
+
 /// A key in an empty box leaves a tenth of the list; the key that takes it back leaves the whole list.
 void stroke(benchmark::State &state, const QString &database, const Goal &goal, bool narrows,
             Painted painted) {
@@ -65,6 +74,7 @@ void stroke(benchmark::State &state, const QString &database, const Goal &goal, 
         if (!narrows) type(true);
         paint();
         state.SetIterationTime(samples.take([&] { type(narrows); }));
+        if (!agree(search)) return state.SkipWithError("list, count and standard differ");
         paint();
         if (narrows) type(false);
     }
