@@ -7,12 +7,10 @@
 
 namespace {
 
-constexpr std::uint64_t AllGroups = ~std::uint64_t(0);
-
 class KeyHash {
 public:
     void add(std::uint64_t value) { m_hash = (m_hash ^ value) * 0x100000001b3u; }
-    std::uint64_t group() const { return std::uint64_t(1) << (m_hash * 0x9e3779b97f4a7c15u >> 58); }
+    int group() const { return static_cast<int>(m_hash * 0x9e3779b97f4a7c15u >> 56); } // of 256
 
 private:
     std::uint64_t m_hash = 0xcbf29ce484222325u;
@@ -75,7 +73,9 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
         else
             key.add(static_cast<std::uint32_t>(condition.integer));
     }
-    const Groups wanted = known ? key.group() : AllGroups;
+    const auto mayHold = [&](const Groups &held) {
+        return known ? held.test(static_cast<std::size_t>(key.group())) : held.any();
+    };
 
     const bool readsAll = groups.ofPage.empty();
     m_rows = 0;
@@ -83,7 +83,7 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
         const std::uint32_t page = m_scan.pages()[i];
         if (i >= groups.ofPage.size())
             groups.ofPage.push_back(searchPage(page, conditions, reply));
-        else if ((groups.ofPage[i] & wanted) != 0)
+        else if (mayHold(groups.ofPage[i]))
             searchPage(page, conditions, reply);
         if (i % 64 == 0) reply.stillBusy();
     }
@@ -104,24 +104,32 @@ TableSearch::PageGroups &TableSearch::groupsBy(const std::vector<Condition> &con
 
 TableSearch::Groups TableSearch::searchPage(std::uint32_t page, const std::vector<Condition> &conditions,
                                             Reply &reply) {
-    Groups groups = 0;
+    Groups groups;
+    int last = NoGroup;
     m_scan.visit(page, [&](const Row &row) {
         ++m_rows;
         const Match found = match(row, conditions);
-        groups |= found.groups;
+        if (found.group != last) add(groups, last = found.group);
         if (found.found) m_writer.write(row, reply);
     });
     return groups;
 }
 
+void TableSearch::add(Groups &groups, int group) {
+    if (group == AnyGroup)
+        groups.set();
+    else if (group != NoGroup)
+        groups.set(static_cast<std::size_t>(group));
+}
+
 TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
-    if (conditions.empty()) return {true, AllGroups};
+    if (conditions.empty()) return {true, AnyGroup};
     m_cells.clear();
     m_key.clear();
     for (const Condition &condition : conditions) {
         const Column &column = m_table.columns[condition.column];
         const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
-        if (!cell.data) return {false, 0}; // Null
+        if (!cell.data) return {false, NoGroup};
         m_cells.push_back(cell);
         m_key.push_back(static_cast<std::uint8_t>(cell.size));
         m_key.push_back(static_cast<std::uint8_t>(cell.size >> 8));
@@ -151,6 +159,6 @@ TableSearch::Match TableSearch::compare(const std::vector<CellBytes> &cells,
             result.found = result.found && value == conditions[i].integer;
         }
     }
-    result.groups = known ? key.group() : AllGroups;
+    result.group = known ? key.group() : AnyGroup;
     return result;
 }

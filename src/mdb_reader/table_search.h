@@ -1,6 +1,7 @@
 // The rows of a table that meet conditions.
 #pragma once
 
+#include <bitset>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -24,7 +25,7 @@ struct Condition {
 /// Texts are compared without regard to ASCII capitals, and any other character counts as equal to any: the
 /// main program, which knows all capitals, looks again.
 ///
-/// There are no indexes to use, so the first search by some columns notes for every page which of 64 groups
+/// There are no indexes to use, so the first search by some columns notes for every page which of 256 groups
 /// of keys its rows belong to, and later ones leave out the pages that cannot hold theirs: rows of one key
 /// mostly lie together.
 class TableSearch {
@@ -35,19 +36,24 @@ public:
     void run(const std::vector<Condition> &conditions, Reply &reply);
 
 private:
-    using Groups = std::uint64_t; // one bit for each group
+    using Groups = std::bitset<256>; // one bit for each group
     struct PageGroups {
         std::vector<std::size_t> columns;
         std::vector<Groups> ofPage;
     };
     struct Match {
         bool found = true;
-        Groups groups = 0;
+        int group = 0; // or one of the two below
+    };
+    enum {
+        AnyGroup = -1, // a key with unknown capitals, or no condition
+        NoGroup = -2   // Null, which nothing is equal to
     };
 
     PageGroups &groupsBy(const std::vector<Condition> &conditions);
     /// Sends the page's matching rows. Gives the groups of all of them.
     Groups searchPage(std::uint32_t page, const std::vector<Condition> &conditions, Reply &reply);
+    static void add(Groups &groups, int group);
     Match match(const Row &row, const std::vector<Condition> &conditions);
     Match compare(const std::vector<CellBytes> &cells, const std::vector<Condition> &conditions);
 
