@@ -87,6 +87,25 @@ TEST_F(GridInput, HeadingsAndFootersTellTheirColumn) {
     EXPECT_EQ(foots.count(), 1);
 }
 
+TEST_F(GridInput, HeadingsAndFootersAreReachedByKeys) {
+    QSignalSpy heads(&grid, &TDBGrid::HeadClick);
+    QSignalSpy foots(&grid, &TDBGrid::FootClick);
+    view->setFocus();
+    view->setCurrentIndex(view->model()->index(1, 0));
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Up, Qt::AltModifier);
+    ASSERT_EQ(heads.count(), 1);
+    EXPECT_EQ(heads.last().first().toInt(), 1);
+    EXPECT_EQ(view->currentIndex().row(), 1);
+
+    QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(foots.count(), 0); // none shown
+    grid.setColumnFooters(true);
+    QTest::keyClick(view, Qt::Key_Down, Qt::AltModifier);
+    ASSERT_EQ(foots.count(), 1);
+    EXPECT_EQ(foots.last().first().toInt(), 1);
+}
+
 TEST_F(GridInput, AsksForTheTipOfThePlaceUnderTheMouse) {
     grid.setColumnFooters(true);
     grid.setToolTip("of the grid");

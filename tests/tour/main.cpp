@@ -1,6 +1,7 @@
-// Uses the real windows as a person would and leaves numbered pictures and saved files. The one argument is
-// the folder for them.
+// Uses the real windows as a person would and leaves numbered pictures and saved files.
+//   velmar_tour FOLDER [--dark]     in the light theme, or in a dark one
 #include <cstdio>
+#include <cstring>
 
 #include <QDir>
 #include <QIcon>
@@ -10,14 +11,17 @@
 #include "platform/forms/screen.h"
 #include "platform/runtime/regional_settings.h"
 #include "shell/program_version.h"
+#include "tests/tour/dark_theme.h"
 #include "tests/tour/tour.h"
 
 int main(int argc, char **argv) {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: velmar_tour FOLDER\n");
+    const bool dark = argc == 3 && std::strcmp(argv[2], "--dark") == 0;
+    if (argc != 2 && !dark) {
+        std::fprintf(stderr, "usage: velmar_tour FOLDER [--dark]\n");
         return 2;
     }
     Application application(argc, argv);
+    if (dark) useDarkTheme();
     ProgramVersion::apply(Application::applicationDirPath());
     RegionalSettings settings;
     settings.shortDateFormat = "yyyy-MM-dd";

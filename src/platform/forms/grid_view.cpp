@@ -118,6 +118,16 @@ void GridView::keyPressEvent(QKeyEvent *event) {
         Q_EMIT enterPressed();
         return;
     }
+    const bool upOrDown = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (upOrDown && event->modifiers().testFlag(Qt::AltModifier)) {
+        if (!currentIndex().isValid()) return;
+        const int column = currentIndex().column();
+        if (event->key() == Qt::Key_Up)
+            Q_EMIT headingKeyPressed(column);
+        else
+            Q_EMIT footingKeyPressed(column);
+        return;
+    }
     QTableView::keyPressEvent(event);
 }
 

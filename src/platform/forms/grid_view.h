@@ -36,6 +36,9 @@ public:
 
 Q_SIGNALS:
     void enterPressed();
+    /// Alt+Up and Alt+Down: the heading and the footer of the current column by keys.
+    void headingKeyPressed(int column);
+    void footingKeyPressed(int column);
     void currentRowChanged(const QModelIndex &current);
     void rowDoubleClicked();
 

@@ -1,10 +1,25 @@
 #include "platform/forms/platform_style.h"
 
+#include <QPainter>
 #include <QSize>
+#include <QStyleOptionTitleBar>
+
+#include "platform/forms/legible_text.h"
 
 namespace {
+
 constexpr int frameWidth = 3;
 constexpr int titleBarHeight = 22;
+
+/// The picture of a window on a plate, for its colours may be those of the bar.
+void drawIcon(QPainter *painter, const QRect &place, const QIcon &icon) {
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(Qt::white);
+    painter->drawRoundedRect(place, 3, 3);
+    icon.paint(painter, place.adjusted(1, 1, -1, -1));
+}
+
 } // namespace
 
 PlatformStyle::PlatformStyle()
@@ -14,6 +29,40 @@ int PlatformStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, c
     if (metric == PM_MdiSubWindowFrameWidth) return frameWidth;
     if (metric == PM_TitleBarHeight) return titleBarHeight;
     return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void PlatformStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                       QPainter *painter, const QWidget *widget) const {
+    const auto *bar = qstyleoption_cast<const QStyleOptionTitleBar *>(option);
+    if (control == CC_TitleBar && bar != nullptr)
+        drawTitleBar(*bar, painter, widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+// Fusion's own title is drawn twice, with a shadow, and its inactive buttons are black in every theme.
+void PlatformStyle::drawTitleBar(const QStyleOptionTitleBar &bar, QPainter *painter,
+                                 const QWidget *widget) const {
+    QStyleOptionTitleBar base = bar;
+    base.text.clear();
+    base.subControls &= ~SC_TitleBarSysMenu;
+    const QColor window = bar.palette.color(QPalette::Window);
+    const bool white = (bar.titleBarState & State_Active) != 0 || window.lightness() < 128;
+    if ((bar.titleBarState & State_Active) == 0)
+        base.palette.setColor(QPalette::Highlight, window.lighter(140));
+    else if (legibleText(bar.palette.color(QPalette::Highlight), Qt::white) != Qt::white)
+        base.palette.setColor(QPalette::Highlight, bar.palette.color(QPalette::Highlight).darker(130));
+    if (white) base.titleBarState |= State_Active; // the bar in its highlight, with white buttons
+    QProxyStyle::drawComplexControl(CC_TitleBar, &base, painter, widget);
+
+    painter->save();
+    const QRect icon = subControlRect(CC_TitleBar, &bar, SC_TitleBarSysMenu, widget);
+    if (!bar.icon.isNull() && icon.isValid()) drawIcon(painter, icon, bar.icon);
+    const QRect place = subControlRect(CC_TitleBar, &bar, SC_TitleBarLabel, widget);
+    painter->setPen(white ? Qt::white : bar.palette.color(QPalette::WindowText));
+    painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
+                      bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, place.width()));
+    painter->restore();
 }
 
 QSize PlatformStyle::frameSize() {

@@ -219,6 +219,12 @@ void TDBGrid::connectView() {
     connect(m_header, &QHeaderView::sectionResized, this,
             [this](int column, int, int pixels) { userResized(column, pixels); });
     connect(m_footer, &GridFooter::clicked, this, &TDBGrid::FootClick);
+    connect(m_view, &GridView::headingKeyPressed, this, [this](int column) {
+        if (!m_header->isHidden()) Q_EMIT HeadClick(column);
+    });
+    connect(m_view, &GridView::footingKeyPressed, this, [this](int column) {
+        if (!m_footer->isHidden()) Q_EMIT FootClick(column);
+    });
     connect(m_view, &GridView::rowDoubleClicked, this, &TDBGrid::DblClick);
     connect(m_view, &GridView::enterPressed, this, &TDBGrid::EnterPressed);
     connect(m_view, &GridView::currentRowChanged, this, &TDBGrid::moveRecordset);

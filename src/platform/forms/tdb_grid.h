@@ -101,6 +101,7 @@ public:
     void setCellDrag(bool on);
 
 Q_SIGNALS:
+    /// Also by Alt+Up and Alt+Down in the column with the focus, where headings or footers are shown.
     void HeadClick(int column);
     void FootClick(int column);
     /// The user has made the column wider or narrower.

@@ -13,10 +13,10 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSpinBox>
-#include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "platform/printing/arrow_icon.h"
 #include "platform/printing/page_view.h"
 #include "platform/printing/print_output.h"
 
@@ -105,14 +105,13 @@ void Viewer::createFileTools() {
 
 void Viewer::createPageTools() {
     const int pages = int(m_document.pages.size());
-    const auto addPageTool = [this](const char *name, const QString &tip, Qt::Key key,
-                                    QStyle::StandardPixmap icon, std::function<void()> act) {
+    const auto addPageTool = [this](const char *name, const QString &tip, Qt::Key key, Arrow arrow,
+                                    std::function<void()> act) {
         addTool(QLatin1String(name), tip, tip, QKeySequence(Qt::CTRL | key), std::move(act))
-            ->setIcon(style()->standardIcon(icon));
+            ->setIcon(arrowIcon(arrow));
     };
-    addPageTool("firstPage", tr("First page"), Qt::Key_Home, QStyle::SP_MediaSkipBackward,
-                [this] { m_view->goToPage(0); });
-    addPageTool("previousPage", tr("Previous page"), Qt::Key_PageUp, QStyle::SP_ArrowBack,
+    addPageTool("firstPage", tr("First page"), Qt::Key_Home, Arrow::First, [this] { m_view->goToPage(0); });
+    addPageTool("previousPage", tr("Previous page"), Qt::Key_PageUp, Arrow::Previous,
                 [this] { m_view->goToPage(m_view->currentPage() - 1); });
     m_page = new QSpinBox(m_toolBar);
     m_page->setObjectName(QStringLiteral("page"));
@@ -130,9 +129,9 @@ void Viewer::createPageTools() {
         m_page->selectAll();
     });
     m_toolBar->addWidget(m_page);
-    addPageTool("nextPage", tr("Next page"), Qt::Key_PageDown, QStyle::SP_ArrowForward,
+    addPageTool("nextPage", tr("Next page"), Qt::Key_PageDown, Arrow::Next,
                 [this] { m_view->goToPage(m_view->currentPage() + 1); });
-    addPageTool("lastPage", tr("Last page"), Qt::Key_End, QStyle::SP_MediaSkipForward,
+    addPageTool("lastPage", tr("Last page"), Qt::Key_End, Arrow::Last,
                 [this, pages] { m_view->goToPage(pages - 1); });
     m_toolBar->addSeparator();
 }
@@ -175,10 +174,10 @@ void Viewer::createFindTools() {
     m_toolBar->addWidget(m_find);
     addTool(QStringLiteral("findPrevious"), tr("Previous match"), tr("Previous match"),
             QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { goToMatch(-1); })
-        ->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
+        ->setIcon(arrowIcon(Arrow::Up));
     addTool(QStringLiteral("findNext"), tr("Next match"), tr("Next match"), QKeySequence(Qt::Key_F3), [this] {
         goToMatch(1);
-    })->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    })->setIcon(arrowIcon(Arrow::Down));
     m_found = new QLabel(m_toolBar);
     m_found->setObjectName(QStringLiteral("found"));
     m_found->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Not found")) + FoundMargin);
