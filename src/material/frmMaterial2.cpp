@@ -1,5 +1,7 @@
 #include "material/frmMaterial2.h"
 
+#include <QApplication>
+
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/table_vocabulary.h"
@@ -174,6 +176,7 @@ void frmMaterial2::ShowTable(const QString &key) {
         showBoundTable(material, key);
     }
     setPageSymbol(strCurrentTable);
+    keepFocus();
 }
 
 void frmMaterial2::CheckTablesForRecords() {
@@ -252,6 +255,15 @@ void frmMaterial2::focusMechOption() {
     if (front != nullptr && front != this) return;
     for (const auto &[index, option] : optMechProp)
         if (option->isChecked() && !framOptions->isHidden()) option->setFocus();
+}
+
+/// The control that had the focus may have gone with its page.
+void frmMaterial2::keepFocus() {
+    if (mdiVelmar::instance().activeChild() != this || QApplication::focusWidget() != nullptr) return;
+    if (framDesign->isVisible())
+        txtDesignTemp->setFocus();
+    else
+        focusNextChild();
 }
 
 void frmMaterial2::setPageSymbol(const QString &key) {

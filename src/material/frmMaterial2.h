@@ -70,6 +70,7 @@ private:
     void showDesign(Material &material);
     void showBoundTable(Material &material, const QString &key);
     void focusMechOption();
+    void keepFocus();
     void setPageSymbol(const QString &key);
 
     std::shared_ptr<Material> m_material;
