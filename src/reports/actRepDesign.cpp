@@ -140,6 +140,20 @@ bool actRepDesign::testWidth() {
             return true;
         }
     }
+    return bCreep && testColumnsBeyondCreep();
+}
+
+/// Another table may have more columns than the creep table, by which the page was measured.
+bool actRepDesign::testColumnsBeyondCreep() {
+    const auto creepColumns = static_cast<int>(aColSize.size() - bEmptyCol.count(true));
+    int width = templateField("txtField0").Width + templateField("txtField1").Width;
+    for (int column = 2; column <= iLastCol; ++column) {
+        width += SmallestColumn;
+        if (width <= PageWidth || column < creepColumns) continue;
+        iFirstExtCol = static_cast<int>(aColSize.size());
+        m_firstBlockColumn = column;
+        return true;
+    }
     return false;
 }
 

@@ -22,6 +22,7 @@ protected:
 
 private:
     bool testWidth();
+    bool testColumnsBeyondCreep();
     void markExtendedRows();
     void bindTemplateFields();
     void addColumn(int column);
@@ -40,7 +41,7 @@ private:
     std::shared_ptr<XArrayDB> xDesign;
     int iRow = 1;
     int iLastCol = 0;
-    /// In the creep table's columns, where there is one.
+    /// In the creep table's columns, where there is one; past their end when none of them is in the block.
     int iFirstExtCol = 0;
     /// The same in the columns of xDesign.
     int m_firstBlockColumn = 0;

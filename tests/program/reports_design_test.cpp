@@ -90,3 +90,25 @@ TEST_F(DesignReport, ColumnsBeyondThePageStandInASecondBlock) {
         for (const Element &element : page.elements)
             EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
 }
+
+TEST_F(DesignReport, AWideTableBesideANarrowCreepTableStaysOnThePage) {
+    frmMaterial2 &window = open(SampleGrades::P265GH);
+    window.ShowTable("Design");
+    XArrayDB &values = *window.xDesignDB;
+    values.ReDim(1, 6, 0, 10);
+    for (int column = 0; column <= 10; ++column) {
+        values.Set(1, column, QStringLiteral("band%1").arg(column));
+        values.Set(2, column, QStringLiteral("value%1").arg(column));
+    }
+    values.Set(4, 0, "creep");
+    values.Set(4, 1, "hours");
+    report.Run();
+    EXPECT_EQ(textsOf(report, "gfExtended", "txtFieldExt1_"),
+              QStringList({"band0", "band8", "band9", "band10"}));
+    const QStringList printed = gridText(report.document()).simplified().split(' ');
+    for (int column = 1; column <= 10; ++column)
+        EXPECT_EQ(printed.count("value" + QString::number(column)), 1) << column;
+    for (const Page &page : report.document().pages)
+        for (const Element &element : page.elements)
+            EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+}
