@@ -26,8 +26,10 @@ private:
     void markExtendedRows();
     void bindTemplateFields();
     void addColumn(int column);
-    void addFirstBlockColumn();
-    void addBlockColumn(int column);
+    void addNamesToBlock(const QString &column, int y);
+    void addBlockColumns();
+    void addBlockColumn(int column, const QString &beside, int width);
+    bool hasCaption(int column) const;
     bool isInBlock(int column) const { return bExtended && column >= m_firstBlockColumn; }
     void placeBlockCell(Printing::Field &cell, int row, const Printing::Control *above,
                         const Printing::Control &previous, int width);
