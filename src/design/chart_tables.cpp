@@ -44,7 +44,11 @@ struct Cell {
 Cell readCell(const QVariant &value, bool bDecimalPoint) {
     if (IsNull(value)) return {};
     const QString text = CStr(value);
-    return {ValueText::GetNumberText(text, bDecimalPoint), text};
+    QString number = ValueText::GetNumberText(text, bDecimalPoint);
+    // The chart would read past a point that groups digits, and draw 12.5 as 125 beside a design value of
+    // 12,5.
+    if (!bDecimalPoint) number.replace(QLatin1Char('.'), QLatin1Char(','));
+    return {number, text};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "reports/FormatChoice.h"
 
 #include "reports/report_export.h"
+#include "shell/mdiVelmar.h"
 
 FormatChoice::FormatChoice(QWidget *window)
     : framSave(named(new QGroupBox("File Format", window), "framSave", "File Format")) {
@@ -8,13 +9,12 @@ FormatChoice::FormatChoice(QWidget *window)
         const char *caption;
         const char *tag;
     };
-    const Option options[] = {{"Portable Document Format", "*.pdf"},
-                              {"Rich Text Format", "*.rtf"},
-                              {"Text Format", "*.txt"}};
+    const Option options[] = {
+        {"Portable Document Format", "*.pdf"}, {"Rich Text Format", "*.rtf"}, {"Text Format", "*.txt"}};
     for (int i = 0; i < static_cast<int>(std::size(options)); ++i) {
         auto *option = optFormat.add(i, new QRadioButton(options[i].caption, framSave), options[i].caption);
         option->setProperty("Tag", QLatin1String(options[i].tag));
-        option->setToolTip(QLatin1String(options[i].tag));
+        if (mdiVelmar::instance().bToolTips) option->setToolTip(QLatin1String(options[i].tag));
         place(option, 180, 390 + i * 390, 2700, 300);
     }
     optFormat(ReportExport::Pdf)->setChecked(true);

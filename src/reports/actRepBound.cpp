@@ -17,7 +17,7 @@ namespace {
 
 const QString EmptyLine = QStringLiteral("\r\n\r\n");
 
-// With these widths eight thickness bands fill the page.
+// With these widths eight thickness bands fill the page; more of them share it.
 constexpr int TemperatureWidth = 1400;
 constexpr int ColumnWidth = 1100;
 constexpr int PhysicalColumnWidth = 1700;
@@ -94,10 +94,7 @@ void actRepBound::bindRows() {
 
 void actRepBound::SetPhysicalColumns() {
     const QString caption = mdiVelmar::instance().GetCaption(m_key);
-    for (int column : {2, 3}) {
-        heading(column).Left = field(column).Left = TemperatureWidth + (column - 2) * PhysicalColumnWidth;
-        heading(column).Width = field(column).Width = PhysicalColumnWidth;
-    }
+    placeColumns(PhysicalColumnWidth);
     showColumn(2, caption, m_key);
     hideColumn(3);
     hideColumn(4);
@@ -137,6 +134,7 @@ void actRepBound::SetImpactColumns() {
 void actRepBound::SetThicknessColumns() {
     const QVector<qint16> limits = m_material->ElevatedColumns(m_key);
     const int bands = static_cast<int>(limits.size()) - 1; // the first band is element 1
+    placeColumns(std::min(ColumnWidth, (PageWidth - TemperatureWidth) / std::max(bands, 1)));
     for (int band = 1; band <= std::min(bands, 3); ++band) {
         const QString lower = band == 1 ? QStringLiteral("   ") : QString::number(limits[band - 1]);
         showColumn(band + 1, bandHeading(lower, ") - ", limits[band]), QString::number(limits[band]));
@@ -197,6 +195,13 @@ Label &actRepBound::heading(int column) const {
 
 Field &actRepBound::field(int column) const {
     return Sections("Detail").Controls.Item<Field>("txtField" + QString::number(column));
+}
+
+void actRepBound::placeColumns(int width) {
+    for (int column = 2; column <= 4; ++column) {
+        heading(column).Left = field(column).Left = TemperatureWidth + (column - 2) * width;
+        heading(column).Width = field(column).Width = width;
+    }
 }
 
 void actRepBound::showColumn(int column, const QString &caption, const QString &dataField) {

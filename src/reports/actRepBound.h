@@ -29,6 +29,8 @@ private:
 
     Printing::Label &heading(int column) const;
     Printing::Field &field(int column) const;
+    /// Columns 2 to 4, `width` twips each.
+    void placeColumns(int width);
     void showColumn(int column, const QString &caption, const QString &dataField);
     void hideColumn(int column);
     /// Shows the picture in the place of the heading's text; where only letters go, `text` stands for it.

@@ -32,9 +32,12 @@ RowKind kindOf(int row) {
     return static_cast<RowKind>((row - 1) % 3);
 }
 
-QString blockCellName(int row, int column) {
-    return QStringLiteral("txtFieldExt%1_%2").arg(row).arg(column);
+/// `column` is a number, "0" for the tables' names.
+QString blockCellName(int row, const QString &column) {
+    return QStringLiteral("txtFieldExt%1_%2").arg(QString::number(row), column);
 }
+
+const QString NamesColumn = QStringLiteral("0");
 
 void frameRight(TextControl &control) {
     control.Border.TopStyle = control.Border.RightStyle = control.Border.BottomStyle = 1;
@@ -101,15 +104,13 @@ void actRepDesign::DataInitialize() {
         markExtendedRows();
         // without a row in it the block would be a lone heading
         Sections("gfExtended").Visible = iFirstExtRow > 0;
-        addFirstBlockColumn();
+        const Control &heading = Sections("gfExtended").Controls.Item("lblContinued");
+        addNamesToBlock(NamesColumn, bottomEdge(heading) + BlockGap);
     }
     m_lastField = &templateField("txtField1");
-    for (int column = 2; column <= iLastCol; ++column) {
-        if (isInBlock(column))
-            addBlockColumn(column);
-        else
-            addColumn(column);
-    }
+    for (int column = 2; column <= iLastCol && !isInBlock(column); ++column)
+        addColumn(column);
+    if (iFirstExtRow > 0) addBlockColumns();
     bindTemplateFields();
 }
 
@@ -140,6 +141,20 @@ bool actRepDesign::testWidth() {
             return true;
         }
     }
+    return bCreep && testColumnsBeyondCreep();
+}
+
+/// Another table may have more columns than the creep table, by which the page was measured.
+bool actRepDesign::testColumnsBeyondCreep() {
+    const auto creepColumns = static_cast<int>(aColSize.size() - bEmptyCol.count(true));
+    int width = templateField("txtField0").Width + templateField("txtField1").Width;
+    for (int column = 2; column <= iLastCol; ++column) {
+        width += SmallestColumn;
+        if (width <= PageWidth || column < creepColumns) continue;
+        iFirstExtCol = static_cast<int>(aColSize.size());
+        m_firstBlockColumn = column;
+        return true;
+    }
     return false;
 }
 
@@ -168,25 +183,24 @@ void actRepDesign::addColumn(int column) {
     m_lastField = &field;
 }
 
-/// Repeats the tables' names beside the columns of the block.
-void actRepDesign::addFirstBlockColumn() {
+/// The tables' names beside columns of the block, from `y` down; `column` tells these cells from others.
+void actRepDesign::addNamesToBlock(const QString &column, int y) {
     Section &block = Sections("gfExtended");
     const Field &label = templateField("txtField0");
-    int y = bottomEdge(block.Controls.Item("lblContinued")) + BlockGap;
     for (int row = iFirstExtRow; row <= lastRow(); ++row) {
         if (!isExtendedRow(row)) continue;
         const RowKind kind = kindOf(row);
         const int height = row > LastLaidOutRow || kind == RowKind::Spacer ? 0
                            : kind == RowKind::Caption                      ? CaptionHeight
                                                                            : ValueHeight;
-        Field &cell = addField(block, blockCellName(row, 0), label.Left, y, label.Width, height);
+        Field &cell = addField(block, blockCellName(row, column), label.Left, y, label.Width, height);
         asCell(cell);
         cell.VerticalAlignment = 0;
         cell.Font = label.Font;
         cell.Font.Bold = true;
         cell.Visible = kind == RowKind::Caption && row <= LastLaidOutRow;
-        cell.DataField = cell.Name;
-        Fields.Add(cell.Name);
+        cell.DataField = blockCellName(row, NamesColumn);
+        if (column == NamesColumn) Fields.Add(cell.DataField);
         y += height + BlockGap;
     }
     block.Height = y;
@@ -202,23 +216,44 @@ int actRepDesign::nextBlockWidth() {
     return bCreep ? qRound(columnSize(m_creepColumn++)) : SmallestColumn;
 }
 
-void actRepDesign::addBlockColumn(int column) {
+/// Columns for which the page has no more room stand further down, beside the names again, unless they are
+/// empty.
+void actRepDesign::addBlockColumns() {
     Section &block = Sections("gfExtended");
-    const int previousColumn = column == m_firstBlockColumn ? 0 : column - 1;
-    const int width = nextBlockWidth();
+    QString beside = NamesColumn;
+    for (int column = m_firstBlockColumn; column <= iLastCol; ++column) {
+        const int width = nextBlockWidth();
+        if (rightEdge(block.Controls.Item(blockCellName(iFirstExtRow, beside))) + width > PageWidth) {
+            if (!hasCaption(column)) return;
+            beside = NamesColumn + '_' + QString::number(column);
+            addNamesToBlock(beside, block.Height);
+        }
+        addBlockColumn(column, beside, width);
+        beside = QString::number(column);
+    }
+}
+
+bool actRepDesign::hasCaption(int column) const {
+    for (int row = iFirstExtRow; row <= std::min(lastRow(), LastLaidOutRow); row += 3)
+        if (isExtendedRow(row) && !xDesign->Get(row, column).toString().isEmpty()) return true;
+    return false;
+}
+
+void actRepDesign::addBlockColumn(int column, const QString &beside, int width) {
+    Section &block = Sections("gfExtended");
+    const bool startsLine = beside.startsWith(NamesColumn);
     const Control *above = nullptr;
     for (int row = iFirstExtRow; row <= lastRow(); ++row) {
         if (!isExtendedRow(row)) continue;
-        auto &cell = block.Controls.Add<Field>(blockCellName(row, column));
+        auto &cell = block.Controls.Add<Field>(blockCellName(row, QString::number(column)));
         cell.DataField = cell.Name;
         Fields.Add(cell.Name);
         if (row > LastLaidOutRow) {
             cell.Visible = false;
             continue;
         }
-        const auto &previous = block.Controls.Item<Field>(blockCellName(row, previousColumn));
-        placeBlockCell(cell, row, above, previous, width);
-        if (column == m_firstBlockColumn && kindOf(row) != RowKind::Spacer) cell.Border.LeftStyle = 1;
+        placeBlockCell(cell, row, above, block.Controls.Item<Field>(blockCellName(row, beside)), width);
+        if (startsLine && kindOf(row) != RowKind::Spacer) cell.Border.LeftStyle = 1;
         above = &cell;
     }
 }
@@ -253,7 +288,7 @@ void actRepDesign::FetchData(bool &eof) {
     if (eof) return;
     // a table without a value in the block's first column has no fields there
     const auto putIntoBlock = [this](int column, const QVariant &cell) {
-        const QString name = blockCellName(iRow, column);
+        const QString name = blockCellName(iRow, QString::number(column));
         if (Fields.contains(name)) Fields(name) = cell;
     };
     for (int column = 0; column <= iLastCol; ++column) {

@@ -22,11 +22,14 @@ protected:
 
 private:
     bool testWidth();
+    bool testColumnsBeyondCreep();
     void markExtendedRows();
     void bindTemplateFields();
     void addColumn(int column);
-    void addFirstBlockColumn();
-    void addBlockColumn(int column);
+    void addNamesToBlock(const QString &column, int y);
+    void addBlockColumns();
+    void addBlockColumn(int column, const QString &beside, int width);
+    bool hasCaption(int column) const;
     bool isInBlock(int column) const { return bExtended && column >= m_firstBlockColumn; }
     void placeBlockCell(Printing::Field &cell, int row, const Printing::Control *above,
                         const Printing::Control &previous, int width);
@@ -40,7 +43,7 @@ private:
     std::shared_ptr<XArrayDB> xDesign;
     int iRow = 1;
     int iLastCol = 0;
-    /// In the creep table's columns, where there is one.
+    /// In the creep table's columns, where there is one; past their end when none of them is in the block.
     int iFirstExtCol = 0;
     /// The same in the columns of xDesign.
     int m_firstBlockColumn = 0;

@@ -23,6 +23,7 @@ constexpr int CompositionBreak = 12;
 // In the block below the table.
 constexpr int BlockTitleTop = 180;
 constexpr int BlockCaptionTop = BlockTitleTop + CaptionTop;
+constexpr int BlockLineDistance = 120;
 
 void addFirstColumnOfBlock(Section &block) {
     constexpr int width = ColumnWidth - CompositionWidthLess;
@@ -230,8 +231,43 @@ void actRepUnBound::addColumnField(int column) {
     m_lastField = &field;
 }
 
+/// What does not fit beside the block's columns stands below them, beside the first column again.
+void actRepUnBound::makeRoomInBlock(int width) {
+    const bool lineHasColumns = m_lastBlockCaption->Left > 0;
+    if (!lineHasColumns || rightEdge(*m_lastBlockCaption) + width <= PageWidth) return;
+    QStringList cells{"FieldExt", "FieldExt0"};
+    if (!isComposition()) {
+        cells.clear();
+        for (int row = aTable.LowerBound(1); row <= aTable.UpperBound(1); ++row)
+            cells << QStringLiteral("FieldX%1_0").arg(row);
+    }
+    Section &block = section("gfExtended");
+    const int lineHeight =
+        bottomEdge(block.Controls.Item(cells.last())) - BlockCaptionTop + BlockLineDistance;
+    const QString suffix = '_' + QString::number(++m_blockLine);
+    const int lower = (m_blockLine - 1) * lineHeight;
+
+    const auto &caption = block.Controls.Item<Label>(isComposition() ? "lblCapExt" : "lblX_0");
+    Label &captionAgain = addLabel(block, caption.Name + suffix, caption.Text, caption.Left,
+                                   caption.Top + lower, caption.Width, caption.Height);
+    asCaption(captionAgain);
+    m_lastBlockCaption = &captionAgain;
+    m_lastBlockField = nullptr;
+    for (const QString &name : cells) {
+        const auto &cell = block.Controls.Item<Field>(name);
+        Field &again = addField(block, name + suffix, cell.Left, cell.Top + lower, cell.Width, cell.Height);
+        asCell(again);
+        again.Font.Size = cell.Font.Size;
+        again.Text = cell.Text;
+        again.DataField = cell.DataField;
+        if (!m_lastBlockField) m_lastBlockField = &again;
+        m_lastBlockMaximum = &again;
+    }
+}
+
 /// An element below the composition: its caption, and its limits one above the other.
 void actRepUnBound::addBlockElement(int column) {
+    makeRoomInBlock(widthOf(column));
     Section &block = section("gfExtended");
     const QString number = QString::number(column);
     Label &caption = addLabel(block, "lblCaption" + number, mMaterial->ColCaption(strKey, column),
@@ -248,6 +284,7 @@ void actRepUnBound::addBlockElement(int column) {
 
 /// A column that does not fit: its caption, and all its rows one below the other.
 void actRepUnBound::addBlockColumn(int column) {
+    makeRoomInBlock(widthOf(column));
     Section &block = section("gfExtended");
     Label &caption = addLabel(block, "lblX_" + QString::number(column), mMaterial->ColCaption(strKey, column),
                               rightEdge(*m_lastBlockCaption), m_lastBlockCaption->Top, widthOf(column),

@@ -35,6 +35,7 @@ private:
 
     void addColumnCaption(int column);
     void addColumnField(int column);
+    void makeRoomInBlock(int width);
     void addBlockElement(int column);
     void addBlockColumn(int column);
     Printing::Field &addBlockCell(const QString &name, const Printing::Control &beside, int left, int width);
@@ -57,6 +58,8 @@ private:
     int iFirstExtCol = 0;
     int iLastCol = 0;
     bool m_tooWide = false;
+    /// From 1.
+    int m_blockLine = 1;
 
     // What the next column stands beside.
     Printing::Control *m_lastCaption = nullptr;

@@ -91,10 +91,12 @@ TEST(ChartTablesTest, RowsGiveWhatIsDrawnAndWhatStandsThere) {
                                                              {1, QVariant(), "200"},
                                                              {1, 200, "none"},
                                                              {1, 250, "a1,5b7"},
-                                                             {1, 300, 12.5}});
+                                                             {1, 300, 12.5},
+                                                             {1, 350, "13.5"}});
     const auto arrays = ChartTables::temperatureArrays(single, {{"Rp02", {}}}, false);
-    EXPECT_EQ(written(arrays.chart).toStdString(), "20.5;235,5|100;|~;200|200;|250;1,5|300;12,5");
-    EXPECT_EQ(written(arrays.text).toStdString(), "20,5;(235,5) a2|100;|;200|200;none|250;a1,5b7|300;12,5");
+    EXPECT_EQ(written(arrays.chart).toStdString(), "20.5;235,5|100;|~;200|200;|250;1,5|300;12,5|350;13,5");
+    EXPECT_EQ(written(arrays.text).toStdString(),
+              "20,5;(235,5) a2|100;|;200|200;none|250;a1,5b7|300;12,5|350;13.5");
 }
 
 TEST(ChartTablesTest, SeveralSeriesGoInPairsByTheirFieldsNames) {

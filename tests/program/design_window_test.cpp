@@ -104,8 +104,7 @@ TEST(DesignWindowTest, AllTablesStandUnderTheirCaptions) {
     EXPECT_EQ(window.tdbDesign->CellText(0, 1), QStringLiteral("(  ) - 16mm"));
     EXPECT_EQ(window.xDesignDB->UpperBound(1), 27);
     EXPECT_EQ(window.xDesignDB->UpperBound(2), 2);
-    EXPECT_EQ(values(window),
-              QStringLiteral(";||;|;||;||;|").left(0) + values(window)); // nothing computed yet
+    EXPECT_EQ(values(window), QStringLiteral(";|||;||;||;|")) << "nothing computed yet";
     const struct {
         const char *keys, *values;
     } cases[] = {

@@ -90,3 +90,28 @@ TEST_F(DesignReport, ColumnsBeyondThePageStandInASecondBlock) {
         for (const Element &element : page.elements)
             EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
 }
+
+TEST_F(DesignReport, WhateverATablesWidthNoValueLeavesThePage) {
+    frmMaterial2 &window = open(SampleGrades::P265GH); // its creep table fits
+    window.ShowTable("Design");
+    for (int lastColumn : {9, 20}) {
+        XArrayDB &values = *window.xDesignDB;
+        values.ReDim(1, 6, 0, 30); // the rest is empty
+        for (int column = 0; column <= lastColumn; ++column) {
+            values.Set(1, column, QStringLiteral("band%1").arg(column));
+            values.Set(2, column, QStringLiteral("value%1").arg(column));
+        }
+        values.Set(4, 0, "creep");
+        values.Set(4, 1, "hours");
+        actRepDesign wide;
+        wide.Run();
+        const QStringList printed = gridText(wide.document()).simplified().split(' ');
+        EXPECT_EQ(printed.count("band0"), lastColumn == 9 ? 2 : 3);
+        for (int column = 1; column <= lastColumn; ++column)
+            for (const char *kind : {"band", "value"})
+                EXPECT_EQ(printed.count(kind + QString::number(column)), 1) << kind << column;
+        for (const Page &page : wide.document().pages)
+            for (const Element &element : page.elements)
+                EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+    }
+}

@@ -1,4 +1,5 @@
 // The sub-reports of tables: columns, headings, names and places of what is made at run time.
+#include "platform/printing/text_output.h"
 #include "reports/actRepBound.h"
 #include "reports/actRepUnBound.h"
 #include "tests/program/reports_fixture.h"
@@ -88,6 +89,17 @@ TEST_F(TableReports, BandsBeyondTheThirdAreMadeAtRunTimeWithANarrowerSeparator) 
     EXPECT_EQ(controlOf<Field>(*report, "Detail", "txtField7").DataField, "250");
     EXPECT_EQ(textsOf(*report, "ghTitle", "lblTitle"),
               QStringList("Minimum values for Rp0,2 [MPa] at elevated temperature"));
+}
+
+TEST_F(TableReports, ManyBandsShareThePage) {
+    open(SampleGrades::P265GH);
+    // the first six have values
+    material->setElevatedColumns("Rp02", {0, 16, 40, 60, 100, 150, 250, 300, 400, 500, 600});
+    const auto report = runAlone<actRepBound>("Rp02");
+    const auto &last = controlOf<Field>(*report, "Detail", "txtField11");
+    EXPECT_EQ(last.Left + last.Width, 10200);
+    EXPECT_EQ(controlOf(*report, "ghTitle", "lblCol11").Left, last.Left);
+    EXPECT_EQ(controlOf(*report, "Detail", "txtField2").Width, last.Width);
 }
 
 TEST_F(TableReports, FormulasStandForTheHeadingsOfPhysicalProperties) {
@@ -208,6 +220,31 @@ TEST_F(MadeTables, ColumnsBeyondThePageStandBelowWithTheFirstColumnAgain) {
     }
     const auto &first = controlOf(*report, "gfExtended", "FieldX1_0");
     EXPECT_EQ(controlOf(*report, "gfExtended", "FieldX2_4").Top, first.Top + first.Height);
+}
+
+TEST_F(MadeTables, ABlockWiderThanThePageHasFurtherLines) {
+    const struct {
+        const char *key;
+        int columns;
+        int firstInBlock;
+        const char *captionOfFirst;
+        int lines;
+    } cases[] = {{"MechProp", 8, 2, "lblX_0", 3}, {"ChemComp", 25, 12, "lblCapExt", 2}};
+    for (const auto &item : cases) {
+        make(item.key, 2, item.columns, QVector<float>(item.columns, 3400.4F));
+        run(item.key);
+        EXPECT_EQ(textsOf(*report, "gfExtended", item.captionOfFirst).size(), item.lines);
+        for (const Page &page : report->document().pages)
+            for (const Element &element : page.elements)
+                EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+        const QStringList words = gridText(report->document()).simplified().split(' ');
+        for (int column = item.firstInBlock; column < item.columns; ++column) {
+            EXPECT_EQ(words.count('H' + QString::number(column)), 1) << item.key << column;
+            for (int row : {1, 2})
+                EXPECT_EQ(words.count(QStringLiteral("%1.%2").arg(row).arg(column)), 1)
+                    << item.key << row << '.' << column;
+        }
+    }
 }
 
 TEST_F(MadeTables, ATableOfExactlyThePagesWidthHasNoBlock) {
