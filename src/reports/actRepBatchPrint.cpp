@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QScopeGuard>
 
+#include "platform/forms/status_bar.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/regional_settings.h"
 #include "reports/actRepMain.h"
@@ -41,8 +42,16 @@ actRepBatchPrint::actRepBatchPrint() {
 void actRepBatchPrint::ShowModal(QWidget *owner) {
     // the main reports find their queue here until the last one has started
     const auto unload = qScopeGuard([] { globalInstance().reset(); });
+    mdiVelmar &main = mdiVelmar::instance();
+    m_progress.emplace(main.stbStatus->PanelPlace(1), main.colMaterials.Count());
     Run();
+    m_progress.reset();
     ReportWindow::showModal(*this, "actRepBatchPrint", owner);
+}
+
+void actRepBatchPrint::ReportStarted() {
+    colBatchMaterials.Remove(1);
+    if (m_progress) m_progress->step();
 }
 
 void actRepBatchPrint::ReportStart() {
@@ -62,7 +71,8 @@ void actRepBatchPrint::ReportStart() {
         if (count < materials.Count()) places.Add<PageBreak>("PageBreak" + number).Top = top;
     }
     ControlList &footer = Sections("PageFooter").Controls;
-    footer.Item<Field>("txtDateTime").Text = RegionalSettings::current().dateText(QDateTime::currentDateTime());
+    footer.Item<Field>("txtDateTime").Text =
+        RegionalSettings::current().dateText(QDateTime::currentDateTime());
     Caption = DocumentName = App::current().title + "_MATERIALS_BATCH_PRINT";
     Author = App::current().title;
     footer.Item<Label>("lblDocName").Text = DocumentName;

@@ -73,7 +73,7 @@ void actRepMain::ReportStart() {
             RegionalSettings::current().dateText(QDateTime::currentDateTime()));
     setText("PageFooter", "lblCopyright", App::current().legalCopyright);
     chooseContent();
-    if (mdiVelmar::instance().bBatchPrint) actRepBatchPrint::instance().colBatchMaterials.Remove(1);
+    if (mdiVelmar::instance().bBatchPrint) actRepBatchPrint::instance().ReportStarted();
 }
 
 void actRepMain::chooseMaterial() {

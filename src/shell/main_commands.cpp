@@ -1,5 +1,7 @@
 #include "shell/main_commands.h"
 
+#include <optional>
+
 #include <QPushButton>
 
 #include "data/Material.h"
@@ -11,6 +13,7 @@
 #include "platform/forms/forms.h"
 #include "platform/forms/send_keys.h"
 #include "platform/forms/status_bar.h"
+#include "platform/forms/step_progress.h"
 #include "platform/forms/toolbar.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/actRepBatchPrint.h"
@@ -97,6 +100,8 @@ void MainCommands::selectData(bool save) {
 /// The references are not forced into the reports: their mark stays as it was.
 void MainCommands::batchPrint() {
     m_window.setMousePointer(vbHourglass);
+    std::optional<StepProgress> progress(std::in_place, m_window.stbStatus->PanelPlace(1),
+                                         m_window.colMaterials.Count());
     for (const auto &material : m_window.colMaterials) {
         if (!material->MyForm()) throw RuntimeError(91);
         FormBase &form = *material->MyForm();
@@ -105,7 +110,9 @@ void MainCommands::batchPrint() {
         for (int i = 1; i < TableVocabulary::TableCount; ++i)
             if (material->TableHasData(m_window.GetShortTableName(i))) material->setPrintTable(i, true);
         form.Unload();
+        progress->step();
     }
+    progress.reset();
     m_window.setMousePointer(vbDefault);
     actRepBatchPrint::instance().ShowModal(&m_window);
 }

@@ -1,4 +1,8 @@
 // The batch: all selected materials in one document.
+#include <QApplication>
+#include <QEvent>
+#include <QProgressBar>
+
 #include "platform/forms/forms.h"
 #include "platform/runtime/app.h"
 #include "reports/actRepBatchPrint.h"
@@ -85,6 +89,38 @@ TEST_F(Batch, OneMaterialNeedsNoPageBreak) {
         EXPECT_EQ(pageBreaks(report), 0);
         EXPECT_EQ(report.document().pages.size(), 1u);
     });
+}
+
+/// The painted steps of every progress bar.
+class PaintedSteps : public QObject {
+public:
+    PaintedSteps() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        const auto *bar = qobject_cast<QProgressBar *>(watched);
+        if (bar != nullptr && event->type() == QEvent::Paint) {
+            if (steps.isEmpty() || steps.last() != bar->text()) steps << bar->text();
+            waits = waits && QGuiApplication::overrideCursor() != nullptr;
+        }
+        return false;
+    }
+    QStringList steps;
+    bool waits = true;
+};
+
+TEST_F(Batch, ShowsHowFarReadingAndMakingUpHaveCome) {
+    select({SampleGrades::P265GH, SampleGrades::ReferenceOnly});
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&main()));
+    QStringList steps;
+    {
+        const PaintedSteps painted;
+        run([](const actRepBatchPrint &) {});
+        steps = painted.steps;
+        EXPECT_TRUE(painted.waits);
+    }
+    const QStringList once{"0 / 2", "1 / 2", "2 / 2"};
+    EXPECT_EQ(steps, once + once);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(main().findChild<QProgressBar *>(), nullptr);
 }
 
 TEST_F(Batch, WithoutASelectionNothingHappens) {

@@ -46,6 +46,10 @@ QString StatusBar::PanelText(int index) const {
     return at(index).text;
 }
 
+QWidget &StatusBar::PanelPlace(int index) const {
+    return *at(index).label;
+}
+
 void StatusBar::setPanelText(int index, const QString &text) {
     at(index);
     showText(m_panels[static_cast<std::size_t>(index - 1)], text);

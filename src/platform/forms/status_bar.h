@@ -23,6 +23,9 @@ public:
     QString PanelText(int index) const;
     void setPanelText(int index, const QString &text);
 
+    /// Where a work shows its progress. Raises 35600.
+    QWidget &PanelPlace(int index) const;
+
     bool Visible() const { return !isHidden(); }
 
 Q_SIGNALS:
