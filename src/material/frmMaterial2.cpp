@@ -1,7 +1,5 @@
 #include "material/frmMaterial2.h"
 
-#include <QApplication>
-
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/table_vocabulary.h"
@@ -259,7 +257,8 @@ void frmMaterial2::focusMechOption() {
 
 /// The control that had the focus may have gone with its page.
 void frmMaterial2::keepFocus() {
-    if (mdiVelmar::instance().activeChild() != this || QApplication::focusWidget() != nullptr) return;
+    const QWidget *focused = window()->focusWidget();
+    if (mdiVelmar::instance().activeChild() != this || (focused != nullptr && focused->isVisible())) return;
     if (framDesign->isVisible())
         txtDesignTemp->setFocus();
     else
