@@ -211,6 +211,16 @@ TEST_F(SearchSelectionTest, ShowOpensAWindowForEachAndSelectComesBack) {
     EXPECT_EQ(windows().size(), 3) << "the same set can be shown again";
 }
 
+TEST_F(SearchSelectionTest, AClosedWindowMakesRoomForAnotherMaterial) {
+    addFirst(10);
+    click(search().cmdSelections(0));
+    main().CloseMaterial();
+    main().menu.mnuFileElem(0).trigger();
+    deleteUnloaded();
+    EXPECT_EQ(search().lblSelCount->text(), "9 Materials Currently Selected");
+    EXPECT_TRUE(search().cmdSelectMat->isEnabled());
+}
+
 TEST_F(SearchSelectionTest, BatchPrintingShowsNoMaterialWindowAndComesBack) {
     type(search().txtSearch(1), "ZORBALTIKREMO");
     click(search().chkListAll);
