@@ -88,10 +88,10 @@ void ResultGrid::orderBy(int column, const QString &direction) {
     m_criteria.SearchMaterials(m_search.mSearchFields[static_cast<std::size_t>(column)].field + direction);
 }
 
-QString ResultGrid::cellTip(GridArea area, int column) const {
+std::optional<QString> ResultGrid::cellTip(GridArea area, int column) const {
     TDBGrid &grid = *m_search.tdbMaterials;
-    if (grid.RowCount() == 0 || column < 0 || column >= grid.ColumnCount() || area == GridArea::Cell)
-        return {};
+    if (grid.RowCount() == 0) return std::nullopt; // the grid's own tip tells how to select what is not there
+    if (column < 0 || column >= grid.ColumnCount() || area == GridArea::Cell) return QString();
     const QString direction = area == GridArea::Header ? "Ascending" : "Descending";
     return " Order by '" + grid.Columns(column).Caption() + "' - " + direction + ' ';
 }
