@@ -105,5 +105,10 @@ void ResultGrid::navigate(int index) {
 void ResultGrid::followStandard() {
     const auto materials = m_search.dtaMaterials->recordset();
     if (materials->Eof() || materials->Bof()) return;
-    m_search.dtaStandard->recordset()->FindFirst("standard='" + CStr(materials->Fields("standard")) + '\'');
+    Recordset &standards = *m_search.dtaStandard->recordset();
+    standards.FindFirst("standard='" + CStr(materials->Fields("standard")) + '\'');
+    if (!standards.NoMatch() || standards.Eof()) return;
+    // A material whose standard is not in the database must not be selected with another one's.
+    standards.MoveLast();
+    standards.MoveNext();
 }
