@@ -9,7 +9,7 @@ UnboundGrid::UnboundGrid(TDBGrid &tdbTable)
     : mTableArray(std::make_shared<XArrayDB>())
     , m_grid(tdbTable) {}
 
-void UnboundGrid::Clear() {
+void UnboundGrid::ClearUnboundGrid() {
     while (m_grid.ColumnCount() > 1)
         m_grid.RemoveColumn(m_grid.ColumnCount() - 1);
     GridColumn &first = m_grid.Columns(0);

@@ -17,7 +17,7 @@ public:
     std::shared_ptr<XArrayDB> mTableArray;
 
     /// One column without a heading, and one empty cell.
-    void Clear();
+    void ClearUnboundGrid();
     void AddColumn(const QString &heading, double width);
     /// Shows the array as it is now.
     void Show();

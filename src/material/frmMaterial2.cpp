@@ -205,7 +205,7 @@ void frmMaterial2::showReferences() {
 void frmMaterial2::showComposition(Material &material) {
     for (QWidget *part : QList<QWidget *>{tdbTable, lblFullForm, framNotes})
         part->show();
-    m_unboundGrid.Clear();
+    m_unboundGrid.ClearUnboundGrid();
     m_notes.LoadNotes(material, "ChemComp");
     m_composition.LoadChemical(material);
 }
@@ -213,7 +213,7 @@ void frmMaterial2::showComposition(Material &material) {
 void frmMaterial2::showUnboundTable(Material &material, const QString &key) {
     for (QWidget *part : QList<QWidget *>{tdbTable, lblFullForm, framNotes})
         part->show();
-    m_unboundGrid.Clear();
+    m_unboundGrid.ClearUnboundGrid();
     m_unboundTables.LoadUnboundColumns(material, key);
     cmdUnBoundGraph->setVisible(key == QLatin1String("CreepProp") && material.TableHasData(key));
 }

@@ -88,10 +88,10 @@ void ResultGrid::orderBy(int column, const QString &direction) {
     m_criteria.SearchMaterials(m_search.mSearchFields[static_cast<std::size_t>(column)].field + direction);
 }
 
-QString ResultGrid::cellTip(GridArea area, int column) const {
+std::optional<QString> ResultGrid::cellTip(GridArea area, int column) const {
     TDBGrid &grid = *m_search.tdbMaterials;
-    if (grid.RowCount() == 0 || column < 0 || column >= grid.ColumnCount() || area == GridArea::Cell)
-        return {};
+    if (grid.RowCount() == 0) return std::nullopt; // the grid's own tip tells how to select what is not there
+    if (column < 0 || column >= grid.ColumnCount() || area == GridArea::Cell) return QString();
     const QString direction = area == GridArea::Header ? "Ascending" : "Descending";
     return " Order by '" + grid.Columns(column).Caption() + "' - " + direction + ' ';
 }
@@ -105,5 +105,10 @@ void ResultGrid::navigate(int index) {
 void ResultGrid::followStandard() {
     const auto materials = m_search.dtaMaterials->recordset();
     if (materials->Eof() || materials->Bof()) return;
-    m_search.dtaStandard->recordset()->FindFirst("standard='" + CStr(materials->Fields("standard")) + '\'');
+    Recordset &standards = *m_search.dtaStandard->recordset();
+    standards.FindFirst("standard='" + CStr(materials->Fields("standard")) + '\'');
+    if (!standards.NoMatch() || standards.Eof()) return;
+    // A material whose standard is not in the database must not be selected with another one's.
+    standards.MoveLast();
+    standards.MoveNext();
 }

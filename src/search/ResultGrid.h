@@ -1,6 +1,8 @@
 // The grid of found materials: its columns, what is remembered of them, its ordering and its tips.
 #pragma once
 
+#include <optional>
+
 #include <QObject>
 #include <QString>
 
@@ -23,7 +25,7 @@ private:
     void foundResized(int column);
     void selectedResized(int column);
     void orderBy(int column, const QString &direction);
-    QString cellTip(GridArea area, int column) const;
+    std::optional<QString> cellTip(GridArea area, int column) const;
     void navigate(int index);
     void followStandard();
 

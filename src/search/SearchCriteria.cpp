@@ -82,7 +82,7 @@ void SearchCriteria::showCount() {
 
 void SearchCriteria::chooseStandard() {
     mStandardKind = m_search.cmbChooseStd->currentText();
-    if (SearchStatements::standardKinds().contains(mStandardKind)) applyKind();
+    if (m_search.mStandardKinds.contains(mStandardKind)) applyKind();
     m_search.tdbMaterials->ScrollToFirstColumn();
     for (const auto &[index, box] : m_search.txtSearch) {
         setBackColor(box, box->isEnabled() ? vbInfoBackground : vbButtonFace);

@@ -135,6 +135,8 @@ void SelectedList::refresh(const QString &order) {
                                               (order.isEmpty() ? "standard, name" : order));
     m_search.dtaSelected->Refresh();
     showCount();
+    // a material also leaves the list when its window is closed by the toolbar
+    if (ids.size() < MostMaterials) m_search.cmdSelectMat->setEnabled(true);
 }
 
 void SelectedList::showCount() {

@@ -59,6 +59,7 @@ void frmSearch::connectControls() {
 
 void frmSearch::Form_Load() {
     mSearchFields = SearchStatements::initialFields();
+    mStandardKinds = SearchStatements::standardKinds();
     for (DataControl *source : {dtaStandard, dtaMaterials, dtaSelected, dtaProdForm})
         source->setDatabaseName(modDBase::dbMain()->Name());
     dtaStandard->Refresh();

@@ -35,6 +35,8 @@ public:
     QDateTime mLatestRevision;
     /// Fields and captions in the order of the columns of tdbMaterials.
     SearchStatements::SearchFields mSearchFields;
+    /// What cmbChooseStd lists.
+    QStringList mStandardKinds;
 
 protected:
     void Form_Load() override;

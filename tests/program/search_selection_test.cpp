@@ -9,6 +9,7 @@
 #include "tests/program/search_statement_log.h"
 #include "tests/support/gui.h"
 #include "tests/support/program_fixture.h"
+#include "tests/support/small_database.h"
 
 namespace {
 
@@ -77,6 +78,22 @@ TEST_F(SearchSelectionTest, AMaterialTakesItsStandardAlong) {
     const auto material = main().colMaterials.Item(1);
     EXPECT_EQ(material->Standard(), search().tdbMaterials->CellText(2, 0));
     EXPECT_EQ(search().dtaStandard->recordset()->Fields("stID").toInt(), material->StandardID());
+}
+
+TEST_F(SearchSelectionTest, AMaterialOfAnUnknownStandardGetsNoOther) {
+    TestProgram::Given given;
+    given.putDatabase = smallDatabase({"materials values (11, 'Lost', '1.11', null, null, '2020-01-01', "
+                                       "'Unknown', null, null, null)"});
+    start(given);
+    type(search().txtSearch(1), "Lost");
+    click(search().cmdSelectMat);
+    const QList<RuntimeError> faults = takeFaults();
+    ASSERT_EQ(faults.size(), 1);
+    EXPECT_EQ(faults.first().number(), 3021);
+    EXPECT_TRUE(selected().isEmpty());
+    search().txtSearch(1)->clear();
+    click(search().cmdSelectMat);
+    EXPECT_EQ(main().colMaterials.Item(1)->Standard(), "S");
 }
 
 TEST_F(SearchSelectionTest, TheListIsOneStatement) {
@@ -209,6 +226,16 @@ TEST_F(SearchSelectionTest, ShowOpensAWindowForEachAndSelectComesBack) {
     main().menu.mnuSettingsToolElem(1).trigger();
     main().menu.mnuFileElem(0).trigger();
     EXPECT_EQ(windows().size(), 3) << "the same set can be shown again";
+}
+
+TEST_F(SearchSelectionTest, AClosedWindowMakesRoomForAnotherMaterial) {
+    addFirst(10);
+    click(search().cmdSelections(0));
+    main().CloseMaterial();
+    main().menu.mnuFileElem(0).trigger();
+    deleteUnloaded();
+    EXPECT_EQ(search().lblSelCount->text(), "9 Materials Currently Selected");
+    EXPECT_TRUE(search().cmdSelectMat->isEnabled());
 }
 
 TEST_F(SearchSelectionTest, BatchPrintingShowsNoMaterialWindowAndComesBack) {

@@ -314,9 +314,9 @@ bool TDBGrid::showCellTip(QObject *place, const QHelpEvent &event) {
         area = GridArea::Footer;
         column = m_footer->columnAt(event.pos().x());
     }
-    const QString tip = m_fetchCellTip(area, column);
-    if (tip.isEmpty()) return false;
-    QToolTip::showText(event.globalPos(), tip, static_cast<QWidget *>(place));
+    const std::optional<QString> tip = m_fetchCellTip(area, column);
+    if (tip && tip->isEmpty()) return false;
+    QToolTip::showText(event.globalPos(), tip.value_or(QString()), static_cast<QWidget *>(place));
     return true;
 }
 

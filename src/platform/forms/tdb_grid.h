@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QFrame>
 #include <QPointer>
@@ -92,8 +93,8 @@ public:
     int CellTips() const { return m_cellTips; }
     void setCellTips(int mode) { m_cellTips = mode; }
     /// Gives the tip of a place; `column` is -1 beside the columns. Where it is empty the grid's own tool tip
-    /// shows.
-    using CellTipFetcher = std::function<QString(GridArea area, int column)>;
+    /// shows, and without a value none at all.
+    using CellTipFetcher = std::function<std::optional<QString>(GridArea area, int column)>;
     void setCellTipFetcher(CellTipFetcher fetcher) { m_fetchCellTip = std::move(fetcher); }
 
     /// On, a mouse drag from a cell makes its row the current one and starts a drag that carries the grid's
