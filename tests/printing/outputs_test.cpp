@@ -201,6 +201,11 @@ TEST(TextGrid, SpanningCellsKeepTheColumnsBelowThemInLine) {
               QStringList({"wide heading | c", "--+----------+----", "1 | 22       | 333"}));
 }
 
+TEST(TextGrid, EveryLineOfARowHasItsColumns) {
+    EXPECT_EQ(gridLines(tableOf({{"", "C", "Al\na)"}, {"min", "1", "2"}}, {1000, 1000, 1000})),
+              QStringList({"    | C | Al", "    |   | a)", "----+---+---", "min | 1 | 2"}));
+}
+
 TEST(TextGrid, ATableTooWideForTheLineGoesOnBelowWithItsFirstColumn) {
     QStringList words;
     for (int i = 0; i < 12; ++i)

@@ -208,7 +208,15 @@ QString Grid::rule(const std::vector<int> &columns) const {
 }
 
 QStringList Grid::rowLines(const GridRow &row, std::span<const int> columns) const {
-    QStringList result;
+    struct Piece {
+        int left;
+        int width;
+        bool touchesLast;
+        int alignment;
+        QStringList lines;
+    };
+    std::vector<Piece> pieces;
+    qsizetype height = 0;
     std::size_t reached = 0;
     for (const GridCell &cell : row.cells) {
         const auto place = std::find(columns.begin(), columns.end(), cell.column);
@@ -217,17 +225,20 @@ QStringList Grid::rowLines(const GridRow &row, std::span<const int> columns) con
         const std::size_t count = std::min(std::size_t(cell.span), columns.size() - first);
         const int width = widthOf(columns.subspan(first, count));
         const int left = first > 0 ? widthOf(columns.first(first)) + int(m_gap.size()) : 0;
-        const bool touchesLast = first > 0 && reached == first;
-        const QStringList texts = wrapText(cell.text, width);
-        while (result.size() < texts.size())
-            result += QString();
-        for (int i = 0; i < result.size(); ++i) {
-            QString &line = result[i];
-            line =
-                touchesLast ? line.leftJustified(left - int(m_gap.size())) + m_gap : line.leftJustified(left);
-            line += aligned(texts.value(i), width, cell.alignment);
-        }
+        pieces.push_back(
+            {left, width, first > 0 && reached == first, cell.alignment, wrapText(cell.text, width)});
+        height = std::max(height, pieces.back().lines.size());
         reached = first + count;
+    }
+    QStringList result;
+    for (qsizetype i = 0; i < height; ++i) {
+        QString line;
+        for (const Piece &piece : pieces) {
+            line = piece.touchesLast ? line.leftJustified(piece.left - int(m_gap.size())) + m_gap
+                                     : line.leftJustified(piece.left);
+            line += aligned(piece.lines.value(i), piece.width, piece.alignment);
+        }
+        result += line;
     }
     return result;
 }
