@@ -14,7 +14,7 @@ using Run = benchmark::BenchmarkReporter::Run;
 
 constexpr std::size_t Columns = 10;
 /// A negative width stands to the left.
-constexpr std::array<int, Columns> Widths = {-58, 10, 9, 9, 15, 8, 8, 7, 9, -6};
+constexpr std::array<int, Columns> Widths = {-63, 10, 9, 9, 15, 8, 8, 7, 9, -6};
 
 void line(const std::array<std::string, Columns> &cells) {
     for (std::size_t i = 0; i < Columns; ++i)
@@ -44,7 +44,7 @@ void printRun(const Run &run) {
     const std::string what =
         run.run_name.function_name + (run.report_label.empty() ? "" : ", " + run.report_label);
     if (run.error_occurred) {
-        std::printf("| %-58s | %s |\n", what.c_str(), run.error_message.c_str());
+        std::printf("| %-63s | %s |\n", what.c_str(), run.error_message.c_str());
         return;
     }
     const auto megabytes = counter(run, Counter::Megabytes);
