@@ -2,10 +2,14 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QFile>
 #include <QSet>
 #include <QTest>
 
+#include "platform/desktop/help_viewer.h"
 #include "platform/forms/default_instance.h"
+#include "platform/forms/toolbar.h"
+#include "reports/frmSelData.h"
 #include "search/frmSearch.h"
 #include "tests/program/reports_fixture.h"
 #include "tests/support/gui.h"
@@ -67,17 +71,17 @@ bool reachedByArrows(QWidget *widget) {
     return button != nullptr && button->autoExclusive() && !button->isChecked();
 }
 
-void check(QWidget &window, const char *what) {
-    SCOPED_TRACE(what);
+void checkNames(QWidget &window) {
     QStringList nameless;
     collectNameless(QAccessible::queryAccessibleInterface(&window), nameless);
     EXPECT_EQ(nameless.join(", ").toStdString(), "");
+}
+
+void check(QWidget &window, const char *what) {
+    SCOPED_TRACE(what);
+    checkNames(window);
 
     const QList<QWidget *> passed = tabRound();
-    QStringList order;
-    for (const QWidget *widget : passed)
-        order << widget->objectName();
-    std::printf("%s: %s\n", what, qPrintable(order.join(' ')));
     QStringList missed;
     for (QWidget *widget : usable(window))
         if (!passed.contains(widget) && !reachedByArrows(widget))
@@ -89,6 +93,10 @@ void check(QWidget &window, const char *what) {
 class Accessibility : public Reports {
 protected:
     static void click(QWidget *button) { QTest::mouseClick(button, Qt::LeftButton); }
+    static void command(MenuArray &menu, int entry) {
+        menu(entry).setEnabled(true);
+        menu(entry).trigger();
+    }
     /// Checks the window that the action opens, and closes it.
     void checkModal(const char *what, const std::function<void()> &action) {
         modal().driveForm([what](Form &form) {
@@ -109,6 +117,20 @@ TEST_F(Accessibility, OfTheSearch) {
     checkModal("list", [&] { click(search.cmdSelect(1)); });
     checkModal("standards", [&] { click(search.cmdSelect(0)); });
     checkModal("PMA index", [&] { click(search.cmdShowPmaIndex); });
+}
+
+TEST_F(Accessibility, OfTheMainWindowAndTheHelp) {
+    open(SampleGrades::P265GH);
+    ASSERT_TRUE(QFile::copy(BINARY_FOLDER "/Velmar_PED_HELP.qch", program.folder() + "/Velmar_PED_HELP.qch"));
+    main().Toolbar1->show();
+    checkNames(main());
+    command(main().menu.mnuHelpElem, 0);
+    HelpViewer *help = nullptr;
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *found = qobject_cast<HelpViewer *>(widget)) help = found;
+    ASSERT_NE(help, nullptr);
+    checkNames(*help);
+    delete help;
 }
 
 TEST_F(Accessibility, OfTheMaterialWindow) {
@@ -133,11 +155,17 @@ TEST_F(Accessibility, OfTheMaterialWindow) {
 
 TEST_F(Accessibility, OfTheReportsAndTheAboutWindow) {
     open(SampleGrades::P265GH);
-    const auto command = [this](MenuArray &menu, int entry) {
-        menu(entry).setEnabled(true);
-        menu(entry).trigger();
-    };
     checkModal("save selection", [&] { command(main().menu.mnuFileElem, 2); });
     checkModal("print selection", [&] { command(main().menu.mnuFileElem, 3); });
+    modal().driveForm([&](Form &form) { // the print selection, and in it the preview
+        modal().driveForm([](Form &preview) {
+            check(preview, "preview");
+            preview.Unload();
+        });
+        click(static_cast<frmSelData &>(form).cmdSavePrint);
+    });
+    command(main().menu.mnuFileElem, 3);
+    deleteUnloaded();
+    main().activateWindow();
     checkModal("about", [&] { command(main().menu.mnuHelpElem, 4); });
 }

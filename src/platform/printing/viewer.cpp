@@ -116,6 +116,7 @@ void Viewer::createPageTools() {
     m_page = new QSpinBox(m_toolBar);
     m_page->setObjectName(QStringLiteral("page"));
     m_page->setAccessibleName(tr("Page"));
+    m_page->findChild<QLineEdit *>()->setAccessibleName(tr("Page"));
     m_page->setToolTip(tr("Page (Ctrl+G)"));
     m_page->setRange(1, std::max(1, pages));
     m_page->setSuffix(tr(" of %1").arg(pages));
@@ -143,6 +144,7 @@ void Viewer::createZoomTools() {
     m_zoom->setObjectName(QStringLiteral("zoom"));
     m_zoom->setAccessibleName(tr("Zoom"));
     m_zoom->setEditable(true);
+    m_zoom->lineEdit()->setAccessibleName(tr("Zoom"));
     m_zoom->setInsertPolicy(QComboBox::NoInsert);
     for (const int percent : ZoomPercents)
         m_zoom->addItem(QStringLiteral("%1 %").arg(percent));
