@@ -53,7 +53,7 @@ void HelpViewer::build() {
         contents->expandAll();
         if (m_browser->source().isEmpty()) m_browser->setSource(firstTopic());
     });
-    m_pages = named(new QTabWidget, QStringLiteral("HelpPages"));
+    m_pages = named(new QTabWidget, QStringLiteral("HelpPages"), tr("Contents, index and search"));
     m_pages->addTab(contents, QStringLiteral("&Contents"));
     m_pages->addTab(buildIndexPage(), QStringLiteral("&Index"));
     m_pages->addTab(buildSearchPage(), QStringLiteral("&Search"));
