@@ -30,11 +30,15 @@ def open_files(process):
 
 
 def child_programs(process):
-    try:
-        children = Path(f"/proc/{process.pid}/task/{process.pid}/children").read_text().split()
-        return {os.readlink(f"/proc/{child}/exe") for child in children}
-    except OSError:
-        return set()
+    programs = set()
+    for folder in Path("/proc").glob("[0-9]*"):
+        try:
+            parent = (folder / "stat").read_text().rpartition(")")[2].split()[1]
+            if int(parent) == process.pid:
+                programs.add(os.readlink(folder / "exe"))
+        except OSError:
+            pass  # it has ended meanwhile
+    return programs
 
 
 class InstalledProgram(unittest.TestCase):
