@@ -18,6 +18,8 @@ Application *theApplication = nullptr;
 Application::Application(int &argc, char **argv)
     : QApplication(argc, argv) {
     theApplication = this;
+    // Without a name the C library looks at the time zone's file anew for each date of local time.
+    if (!qEnvironmentVariableIsSet("TZ")) qputenv("TZ", ":/etc/localtime");
     setStyle(new PlatformStyle);
     // The windows are laid out in twips for this font; a larger one would be cut off.
     QFont font(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
