@@ -1,10 +1,12 @@
 // damaged_databases [COUNT] [SEED]: opens COUNT damaged copies of the sample database, reads every table of
-// each, and tells what came of it. A copy ends in rows or in an error that tells of a damaged file; nothing
-// takes more than five seconds or a gigabyte. Rows are the right ones wherever the file has a way to tell.
+// each, by a key and whole, and tells what came of it. A copy ends in rows or in an error that tells of a
+// damaged file; nothing takes more than five seconds or a gigabyte. Rows are compared with those of the sound
+// file: there are as many of them, and none has changed but those on a page whose bytes have.
 #include <algorithm>
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -20,6 +22,7 @@
 #include "platform/dao/recordset.h"
 #include "platform/runtime/runtime_error.h"
 #include "tests/damage/damage.h"
+#include "tests/damage/page_owners.h"
 
 namespace {
 
@@ -70,6 +73,7 @@ qsizetype changedRows(const Rows &good, const Rows &read) {
     return std::max(good.size(), read.size()) - same.size();
 }
 
+/// In kilobytes.
 long peakMemory(__rusage_who who) {
     rusage used = {};
     getrusage(who, &used);
@@ -79,11 +83,13 @@ long peakMemory(__rusage_who who) {
 /// What came of the files of one kind of damage.
 struct Tally {
     int files = 0;
-    int refused = 0;       // not opened
-    int partlyRefused = 0; // opened, but not every table
-    int right = 0;
-    int changed = 0; // some row has other values in it, and the file no means to tell
-    qsizetype rowsChanged = 0;
+    int refused = 0; // not opened
+    int whole = 0;   // every table right
+    // Of the tables of the others:
+    int tablesRefused = 0;
+    int tablesRight = 0;
+    int tablesChanged = 0; // a row on a damaged page has other values in it, and the file no means to tell
+    int rowsChanged = 0;
 };
 
 class Run {
@@ -95,10 +101,9 @@ public:
         m_good = sample.readAll();
         const auto database = DBEngine::instance().OpenDatabase(sample.fileName(), true, true, Connect);
         AccessSource source(sample.fileName());
-        for (const QString &name : source.tableNames()) {
-            const QString statement = statementFor(name, source.fields(name));
-            m_tables.append({name, statement, rowsOf(*database, statement)});
-        }
+        m_owners = std::make_unique<PageOwners>(m_good, source.tableNames());
+        for (const QString &name : source.tableNames())
+            m_tables.append(goodTable(*database, name, source.fields(name)));
     }
 
     void next() {
@@ -118,12 +123,12 @@ public:
 
     /// False where something was wrong.
     bool report() const {
-        std::printf("%-16s %6s %8s %14s %6s %8s %13s\n", "damage", "files", "refused", "partly refused",
-                    "right", "changed", "rows changed");
+        std::printf("%-16s %6s %8s %6s | %14s %6s %8s %13s\n", "damage", "files", "refused", "whole",
+                    "tables refused", "right", "changed", "rows changed");
         for (const auto &[kind, tally] : m_tallies)
-            std::printf("%-16s %6d %8d %14d %6d %8d %13d\n", Damage{{}, kind, {}}.name(), tally.files,
-                        tally.refused, tally.partlyRefused, tally.right, tally.changed,
-                        static_cast<int>(tally.rowsChanged));
+            std::printf("%-16s %6d %8d %6d | %14d %6d %8d %13d\n", Damage{{}, kind, {}}.name(), tally.files,
+                        tally.refused, tally.whole, tally.tablesRefused, tally.tablesRight,
+                        tally.tablesChanged, tally.rowsChanged);
         for (const auto &[number, times] : m_errors)
             std::printf("error %d: %d times\n", number, times);
         const long own = peakMemory(RUSAGE_SELF);
@@ -134,11 +139,36 @@ public:
     }
 
 private:
-    struct Table {
-        QString name;
+    struct Reading {
         QString statement;
         Rows rows;
     };
+    struct Table {
+        QString name;
+        bool hasMemos = false;
+        qsizetype rows = 0;
+        /// Of the rows of a key first, which are looked for in the file as long as not all have been read.
+        QList<Reading> readings;
+    };
+
+    static Table goodTable(Database &database, const QString &name, const FieldDefinitions &fields) {
+        Table table{name, false, 0, {}};
+        const QString all = statementFor(name, fields);
+        const auto recordset = database.OpenRecordset(all);
+        table.rows = recordset->RecordCount();
+        for (const FieldDefinition &field : fields) {
+            if (field.type == FieldType::Memo) table.hasMemos = true;
+            if (!table.readings.isEmpty() || table.rows == 0) continue;
+            if (field.type != FieldType::Integer && field.type != FieldType::Long) continue;
+            const QVariant key =
+                recordset->value(static_cast<int>(table.rows / 2), recordset->fieldIndex(field.name));
+            if (!key.isValid()) continue;
+            const QString statement = all + " WHERE [" + field.name + "] = " + key.toString();
+            table.readings.append({statement, rowsOf(database, statement)});
+        }
+        table.readings.append({all, rowsOf(database, all)});
+        return table;
+    }
 
     /// The error of a call, 0 for none. No call may take too long.
     template <typename Call>
@@ -165,31 +195,43 @@ private:
             return;
         }
         int refused = 0;
-        qsizetype changed = 0;
+        int right = 0;
+        int rowsChanged = 0;
         for (const Table &table : m_tables) {
-            Rows rows;
-            const int error = step([&] { rows = rowsOf(*database, table.statement); });
-            refused += error != 0;
-            const bool allowed = error == WrongFormat || error == NoSuchTable || error == NoSuchColumn;
-            if (error != 0 && !allowed) fault(damage, table.name, error);
-            if (error != 0) continue;
-            const qsizetype different = changedRows(table.rows, rows);
-            // Bytes within a value can be anything; rows that are lost, or another table's, show.
-            if (rows.size() != table.rows.size() || (different > 0 && !mayChangeValues(damage)))
-                fault(damage, table.name, 0);
-            changed += different;
+            const std::optional<qsizetype> changed = changedRowsOf(*database, table, damage);
+            refused += !changed;
+            right += changed == 0;
+            rowsChanged += static_cast<int>(changed.value_or(0));
         }
-        ++(refused > 0 ? tally.partlyRefused : changed > 0 ? tally.changed : tally.right);
-        if (refused == 0) tally.rowsChanged += changed;
+        const int tables = static_cast<int>(m_tables.size());
+        if (right == tables) {
+            ++tally.whole;
+            return;
+        }
+        tally.tablesRefused += refused;
+        tally.tablesRight += right;
+        tally.tablesChanged += tables - refused - right;
+        tally.rowsChanged += rowsChanged;
     }
 
-    /// Whether there are values, or what says how they are to be read, where the damage is.
-    bool mayChangeValues(const Damage &damage) const {
-        if (damage.kind != Damage::Kind::Bytes && damage.kind != Damage::Kind::Run) return false;
-        return std::any_of(damage.pages.begin(), damage.pages.end(), [this](qsizetype page) {
-            const char kind = m_good[page * Damager::PageSize];
-            return kind == 1 || kind == 2;
-        });
+    /// Nothing where the table could not be read.
+    std::optional<qsizetype> changedRowsOf(Database &database, const Table &table, const Damage &damage) {
+        const qsizetype reach = m_owners->rowsInReach(table.name, table.hasMemos, table.rows, damage);
+        bool isRefused = false;
+        qsizetype changed = 0;
+        for (const Reading &reading : table.readings) {
+            Rows rows;
+            const int error = step([&] { rows = rowsOf(database, reading.statement); });
+            const bool allowed = error == WrongFormat || error == NoSuchTable || error == NoSuchColumn;
+            if (error != 0 && !allowed) fault(damage, table.name, error);
+            isRefused = isRefused || error != 0;
+            if (error != 0) continue;
+            changed = changedRows(reading.rows, rows);
+            // A changed key puts a row under another one, but no reading of a whole table may lose one.
+            const bool isWhole = &reading == &table.readings.back();
+            if (changed > reach || (isWhole && rows.size() != table.rows)) fault(damage, table.name, 0);
+        }
+        return isRefused ? std::nullopt : std::optional(changed);
     }
 
     void fault(const Damage &damage, const QString &table, int error) {
@@ -205,6 +247,7 @@ private:
     Damager m_damager;
     QTemporaryDir m_folder;
     QByteArray m_good;
+    std::unique_ptr<PageOwners> m_owners;
     QList<Table> m_tables;
     int m_count = 0;
     std::map<Damage::Kind, Tally> m_tallies;
