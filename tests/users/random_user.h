@@ -50,6 +50,7 @@ private:
     void useWindowFrame();
     void turnWheel();
     void selectAndShow();
+    void emptyBoxes(QWidget &window);
 
     QString anyText();
     QWidget *anyWidget(const std::function<bool(QWidget &)> &fits);

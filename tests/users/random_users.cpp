@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "platform/forms/screen.h"
@@ -77,7 +78,12 @@ public:
     }
 
     bool report() const {
-        std::printf("runs: %d; actions: %d; boxes: %d; windows: %d\n", m_runs, m_actions, m_boxes, m_windows);
+        std::printf("runs: %d; actions: %d\n", m_runs, m_actions);
+        for (const auto &[kind, counts] : m_counts) {
+            std::printf("%s\n", qPrintable(kind));
+            for (const auto &[what, times] : counts)
+                std::printf("    %5d %s\n", times, qPrintable(what));
+        }
         for (const auto &[error, times] : m_errors)
             std::printf("run-time error %d: %d times\n", error, times);
         std::printf("most memory: %ld MB; faults: %d\n", m_memory / 1024, m_faults);
@@ -94,11 +100,21 @@ private:
         Screen::setSizeForTest(screens[seed / 3 % 4]);
     }
 
+    void count(const QString &kind, const QStringList &what) {
+        for (const QString &each : what)
+            ++m_counts[kind][each];
+    }
+
     void judge(const Ending &ending, unsigned seed) {
         const QStringList done = ending.noted("do: ");
         m_actions += static_cast<int>(done.size());
-        m_boxes += static_cast<int>(ending.noted("box: ").size());
-        m_windows += static_cast<int>(ending.noted("window: ").size());
+        count("menu entries", ending.noted("do: menu ").filter(QRegularExpression("^\\D")));
+        count("modal windows", ending.noted("window: "));
+        count("file dialogs", ending.noted("file dialog: "));
+        QStringList titles;
+        for (const QString &box : ending.noted("box: "))
+            titles += box.section(": ", 0, 0);
+        count("message boxes", titles);
         m_memory = std::max(m_memory, ending.kilobytes);
         const int error = ending.error();
         if (error != 0) ++m_errors[error];
@@ -121,8 +137,7 @@ private:
     TestRun::Folders m_folders;
     int m_runs = 0;
     int m_actions = 0;
-    int m_boxes = 0;
-    int m_windows = 0;
+    std::map<QString, std::map<QString, int>> m_counts; // how far the users have got
     long m_memory = 0;
     std::map<int, int> m_errors;
     int m_faults = 0;
