@@ -95,6 +95,12 @@ void RandomUser::act() {
         {10, &RandomUser::useGrid},         {2, &RandomUser::dragGrade},
         {13, &RandomUser::chooseFromMenu},  {3, &RandomUser::useWindowFrame},
         {2, &RandomUser::turnWheel},        {6, &RandomUser::selectAndShow}};
+    auto *window = LoadedInstance<mdiVelmar>();
+    if (window != nullptr && scope() == window && window->WindowState() == vbMinimized) {
+        note("restore " + window->Name());
+        window->setWindowState(vbNormal);
+        return;
+    }
     int ticket = below(100);
     for (const auto &[share, action] : actions) {
         ticket -= share;
