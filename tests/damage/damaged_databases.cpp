@@ -9,6 +9,7 @@
 #include <optional>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -73,6 +74,33 @@ qsizetype changedRows(const Rows &good, const Rows &read) {
     return std::max(good.size(), read.size()) - same.size();
 }
 
+/// What the sanitizers have to say of the helper, whose own output goes nowhere, where it was built with
+/// them.
+class SanitizerReports {
+public:
+    SanitizerReports() {
+        const QByteArray options = "log_path=" + m_folder.filePath("report").toUtf8();
+        for (const char *name : {"ASAN_OPTIONS", "UBSAN_OPTIONS"})
+            qputenv(name, qgetenv(name) + ':' + options);
+    }
+
+    /// The summary of each since the last call.
+    QStringList take() const {
+        QStringList summaries;
+        for (const QFileInfo &report : QDir(m_folder.path()).entryInfoList(QDir::Files)) {
+            QFile file(report.filePath());
+            if (!file.open(QIODevice::ReadOnly)) continue;
+            const QString text = QString::fromUtf8(file.readAll());
+            summaries += text.mid(text.indexOf("SUMMARY:")).section('\n', 0, 0);
+            file.remove();
+        }
+        return summaries;
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
 /// In kilobytes.
 long peakMemory(__rusage_who who) {
     rusage used = {};
@@ -118,6 +146,10 @@ public:
         alarm(Stuck);
         read(file.fileName(), damage, tally);
         alarm(0);
+        for (const QString &summary : m_sanitizers.take()) {
+            std::printf("file %d, %s: %s\n", m_count, damage.name(), qPrintable(summary));
+            if (!summary.contains("libmdb")) fault(damage, "in the helper", 0);
+        }
         ++m_count;
     }
 
@@ -244,6 +276,7 @@ private:
                     qPrintable(kept));
     }
 
+    const SanitizerReports m_sanitizers; // before the first helper starts
     Damager m_damager;
     QTemporaryDir m_folder;
     QByteArray m_good;
