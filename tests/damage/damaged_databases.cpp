@@ -79,7 +79,8 @@ qsizetype changedRows(const Rows &good, const Rows &read) {
 class SanitizerReports {
 public:
     SanitizerReports() {
-        const QByteArray options = "log_path=" + m_folder.filePath("report").toUtf8();
+        // The helper is ended in the middle of whatever it does, a look for leaks among it.
+        const QByteArray options = "detect_leaks=0:log_path=" + m_folder.filePath("report").toUtf8();
         for (const char *name : {"ASAN_OPTIONS", "UBSAN_OPTIONS"})
             qputenv(name, qgetenv(name) + ':' + options);
     }
