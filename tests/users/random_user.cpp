@@ -58,6 +58,7 @@ void leaves(const QMenu &menu, QList<QAction *> &found) {
 RandomUser::RandomUser(TestRun &testRun, unsigned seed, const QString &folder)
     : m_testRun(testRun)
     , m_random(seed)
+    , m_watch(seed)
     , m_folder(folder) {
     testRun.answerBox = [this](const ModalSeam::Request &request) { return answer(request); };
     testRun.chooseFile = [this](const ModalSeam::Request &) { return file(); };
@@ -419,10 +420,10 @@ void RandomUser::keepWatch() {
         if (QWidget *popup = QApplication::activePopupWidget()) {
             static const QList<Qt::Key> keys = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Escape,
                                                 Qt::Key_Right};
-            QTest::keyClick(popup, oneOf(keys));
+            QTest::keyClick(popup, oneOf(keys, m_watch));
         } else if (QWidget *modal = QApplication::activeModalWidget();
                    modal != nullptr && qobject_cast<Form *>(modal) == nullptr) {
-            QTest::keyClick(modal, below(3) == 0 ? Qt::Key_Return : Qt::Key_Escape);
+            QTest::keyClick(modal, below(3, m_watch) == 0 ? Qt::Key_Return : Qt::Key_Escape);
         }
     });
 }

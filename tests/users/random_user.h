@@ -26,10 +26,17 @@ public:
 private:
     using Random = std::mt19937;
 
-    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
+    static int below(int limit, Random &random) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    }
+    int below(int limit) { return below(limit, m_random); }
+    template <typename Item>
+    static const Item &oneOf(const QList<Item> &items, Random &random) {
+        return items[below(static_cast<int>(items.size()), random)];
+    }
     template <typename Item>
     const Item &oneOf(const QList<Item> &items) {
-        return items[below(static_cast<int>(items.size()))];
+        return oneOf(items, m_random);
     }
 
     bool isRunning() const;
@@ -65,6 +72,7 @@ private:
 
     TestRun &m_testRun;
     Random m_random;
+    Random m_watch; // of its own: how often the watch looks up depends on the clock
     QString m_folder;
     int m_depth = 0; // modal windows above one another
 };

@@ -38,8 +38,9 @@ bool isStatementError(int error) {
            error == 3085 || error == 3131 || error == 3141 || error == 3142 || error == 3464;
 }
 
+/// A statement is made at each change of a box, so that the fault is in the last thing that was done.
 bool hasSpoiltText(const QStringList &actions) {
-    for (const QString &action : actions) {
+    for (const QString &action : actions.last(std::min<qsizetype>(actions.size(), 2))) {
         if (!action.startsWith("type ") && !action.startsWith("paste ") && !action.startsWith("key "))
             continue;
         const QString text = action.section('"', 1, -2);
