@@ -16,6 +16,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 
+#include "platform/desktop/help_viewer.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/form.h"
 #include "platform/forms/forms.h"
@@ -81,7 +82,14 @@ bool RandomUser::isRunning() const {
 QWidget *RandomUser::scope() const {
     if (QWidget *popup = QApplication::activePopupWidget()) return popup;
     if (QWidget *modal = QApplication::activeModalWidget()) return modal;
+    if (m_readsHelp) return helpWindow();
     return LoadedInstance<mdiVelmar>();
+}
+
+QWidget *RandomUser::helpWindow() {
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (window->isVisible() && qobject_cast<HelpViewer *>(window) != nullptr) return window;
+    return nullptr;
 }
 
 void RandomUser::note(const QString &action) {
@@ -96,6 +104,12 @@ void RandomUser::act() {
         {10, &RandomUser::useGrid},         {2, &RandomUser::dragGrade},
         {13, &RandomUser::chooseFromMenu},  {3, &RandomUser::useWindowFrame},
         {2, &RandomUser::turnWheel},        {6, &RandomUser::selectAndShow}};
+    m_readsHelp = helpWindow() != nullptr && below(3) == 0;
+    if (m_readsHelp && scope() == helpWindow() && below(8) == 0) {
+        note("close the help");
+        helpWindow()->close();
+        return;
+    }
     auto *window = LoadedInstance<mdiVelmar>();
     if (window != nullptr && scope() == window && window->WindowState() == vbMinimized) {
         note("restore " + window->Name());

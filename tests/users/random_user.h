@@ -40,8 +40,9 @@ private:
     }
 
     bool isRunning() const;
-    /// What a person could reach now: an open menu, a modal window, or the program's main window.
+    /// What a person could reach now: an open menu, a modal window, the help, or the program's main window.
     QWidget *scope() const;
+    static QWidget *helpWindow();
     void act();
     void note(const QString &action);
 
@@ -74,5 +75,6 @@ private:
     Random m_random;
     Random m_watch; // of its own: how often the watch looks up depends on the clock
     QString m_folder;
+    bool m_readsHelp = false;
     int m_depth = 0; // modal windows above one another
 };

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -52,12 +53,13 @@ bool hasSpoiltText(const QStringList &actions) {
 
 class Users {
 public:
-    explicit Users(unsigned seed)
+    Users(unsigned seed, const QString &help)
         : m_seed(seed)
         , m_folders{m_folder.filePath("program"), m_folder.filePath("user")} {
         copyFolder(SOURCE_FOLDER "/sample/PMA", m_folders.program + "/PMA");
         for (const char *file : {"Velmar_PED.mdb", "PMA_Index.mdb", "morepmainfo.pdf"})
             QFile::copy(QString(SOURCE_FOLDER "/sample/") + file, m_folders.program + "/" + file);
+        if (!QFile::copy(help, m_folders.program + "/Velmar_PED_HELP.qch")) qFatal("no help");
         QDir().mkpath(m_folders.user);
     }
 
@@ -110,6 +112,7 @@ private:
         const QStringList done = ending.noted("do: ");
         m_actions += static_cast<int>(done.size());
         count("menu entries", ending.noted("do: menu ").filter(QRegularExpression("^\\D")));
+        count("in the help", ending.noted("do: ").filter("elp"));
         count("modal windows", ending.noted("window: "));
         count("file dialogs", ending.noted("file dialog: "));
         QStringList titles;
@@ -148,7 +151,8 @@ private:
 
 int main(int argc, char **argv) {
     const int actions = argc > 1 ? std::atoi(argv[1]) : 20'000;
-    Users users(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 20260131);
+    Users users(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 20260131,
+                QFileInfo(argv[0]).path() + "/Velmar_PED_HELP.qch");
     while (users.actions() < actions)
         users.next(std::min(ActionsOfARun, actions - users.actions()));
     return users.report() ? 0 : 1;
