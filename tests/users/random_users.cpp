@@ -112,7 +112,10 @@ private:
         const QStringList done = ending.noted("do: ");
         m_actions += static_cast<int>(done.size());
         count("menu entries", ending.noted("do: menu ").filter(QRegularExpression("^\\D")));
-        count("in the help", ending.noted("do: ").filter("elp"));
+        QStringList inHelp;
+        for (const QString &action : done.filter("elp"))
+            inHelp += action.section(' ', 0, 0);
+        count("in the help", inHelp);
         count("modal windows", ending.noted("window: "));
         count("file dialogs", ending.noted("file dialog: "));
         QStringList titles;
