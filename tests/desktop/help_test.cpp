@@ -127,6 +127,16 @@ TEST_F(HelpTest, ContentsIndexAndSearchLeadToTheTopic) {
     EXPECT_EQ(search->searchResults(0, 1).value(0).title(), "Contact");
 }
 
+TEST_F(HelpTest, MayBeClosedInTheMiddleOfASearch) {
+    for (int i = 0; i < 20; ++i) {
+        show(HelpSearch);
+        auto *query = viewer()->findChild<QHelpSearchQueryWidget *>();
+        query->setSearchInput("crankshafts");
+        Q_EMIT query->search();
+        delete viewer();
+    }
+}
+
 TEST_F(HelpTest, AMissingOrDamagedFileIsToldAndNothingElseHappens) {
     write("damaged.qch", "no help");
     for (const char *name : {"none.chm", "damaged.chm"}) {

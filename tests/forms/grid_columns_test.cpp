@@ -95,6 +95,10 @@ TEST_F(ArrayGrid, AddsRemovesHidesAndSizesColumns) {
     EXPECT_TRUE(view->isColumnHidden(1));
     grid.Columns(1).setVisible(true);
     EXPECT_EQ(view->columnWidth(1), 200);
+    grid.Columns(1).setWidth(1e38);
+    EXPECT_GT(view->columnWidth(1), 100'000);
+    grid.Columns(1).setWidth(-1e38);
+    EXPECT_LT(view->columnWidth(1), 200);
 
     grid.RemoveColumn(1);
     EXPECT_EQ(grid.ColumnCount(), 3);

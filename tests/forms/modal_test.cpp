@@ -19,6 +19,7 @@
 #include "platform/runtime/app.h"
 #include "tests/forms/recording_form.h"
 #include "tests/support/gui.h"
+#include "tests/support/raising_through_qt.h"
 
 namespace {
 
@@ -205,7 +206,7 @@ TEST(Faults, AnErrorInAHandlerIsCaughtAtTheEvent) {
     auto *button = new QPushButton(form);
     QObject::connect(button, &QPushButton::clicked, [] { throw RuntimeError(9); });
     form->Show();
-    QTest::mouseClick(button, Qt::LeftButton);
+    raisingThroughQt([&] { QTest::mouseClick(button, Qt::LeftButton); });
     QTimer::singleShot(0, [] { throw std::bad_alloc(); });
     QCoreApplication::processEvents();
     const QList<RuntimeError> faults = takeFaults();

@@ -11,6 +11,7 @@
 #include "tests/program/search_statement_log.h"
 #include "tests/support/gui.h"
 #include "tests/support/program_fixture.h"
+#include "tests/support/raising_through_qt.h"
 
 namespace {
 
@@ -96,7 +97,7 @@ TEST_F(SearchCriteriaTest, OnlyTypedCharactersAreFiltered) {
     EXPECT_EQ(box(1), "P2*");
     pasteInto(2, "1,0");
     EXPECT_EQ(box(2), "1,0");
-    pasteInto(4, "'");
+    raisingThroughQt([&] { pasteInto(4, "'"); });
     const QList<RuntimeError> faults = takeFaults();
     ASSERT_EQ(faults.size(), 1);
     EXPECT_EQ(faults.first().number(), 3075);

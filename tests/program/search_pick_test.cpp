@@ -7,6 +7,7 @@
 #include "shell/mdiVelmar.h"
 #include "tests/support/gui.h"
 #include "tests/support/program_fixture.h"
+#include "tests/support/raising_through_qt.h"
 
 namespace {
 
@@ -125,7 +126,7 @@ TEST_F(SearchPickTest, AStandardShowsItsDescriptionDateAndForms) {
     EXPECT_EQ(chosen, "EN 10216-2");
 
     pickStandard("select * from standard order by standard", [](frmSelectStand &list) {
-        type(list.txtSearch, "'");
+        raisingThroughQt([&] { type(list.txtSearch, "'"); });
         const QList<RuntimeError> faults = takeFaults();
         ASSERT_EQ(faults.size(), 1) << "nothing catches a broken criterion here";
         EXPECT_EQ(faults.first().number(), 3077);

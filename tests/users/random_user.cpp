@@ -1,5 +1,6 @@
 #include "tests/users/random_user.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -15,6 +16,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 
+#include "platform/desktop/help_viewer.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/form.h"
 #include "platform/forms/forms.h"
@@ -37,6 +39,11 @@ QString nameOf(const QWidget &widget) {
     return within + widget.metaObject()->className();
 }
 
+/// Where a key arrives that is meant for the widget: a grid hands the focus on to its rows.
+QWidget *keysOf(QWidget *widget) {
+    return widget->focusProxy() != nullptr ? widget->focusProxy() : widget;
+}
+
 void leaves(const QMenu &menu, QList<QAction *> &found) {
     for (QAction *action : menu.actions()) {
         if (!action->isVisible() || !action->isEnabled() || action->isSeparator()) continue;
@@ -52,6 +59,7 @@ void leaves(const QMenu &menu, QList<QAction *> &found) {
 RandomUser::RandomUser(TestRun &testRun, unsigned seed, const QString &folder)
     : m_testRun(testRun)
     , m_random(seed)
+    , m_watch(seed)
     , m_folder(folder) {
     testRun.answerBox = [this](const ModalSeam::Request &request) { return answer(request); };
     testRun.chooseFile = [this](const ModalSeam::Request &) { return file(); };
@@ -74,7 +82,14 @@ bool RandomUser::isRunning() const {
 QWidget *RandomUser::scope() const {
     if (QWidget *popup = QApplication::activePopupWidget()) return popup;
     if (QWidget *modal = QApplication::activeModalWidget()) return modal;
+    if (m_readsHelp) return helpWindow();
     return LoadedInstance<mdiVelmar>();
+}
+
+QWidget *RandomUser::helpWindow() {
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (window->isVisible() && qobject_cast<HelpViewer *>(window) != nullptr) return window;
+    return nullptr;
 }
 
 void RandomUser::note(const QString &action) {
@@ -84,11 +99,23 @@ void RandomUser::note(const QString &action) {
 void RandomUser::act() {
     static const QList<std::pair<int, void (RandomUser::*)()>> actions = {
         {25, &RandomUser::click},           {15, &RandomUser::pressKey},
-        {3, &RandomUser::pressShortcut},    {10, &RandomUser::type},
-        {12, &RandomUser::typeTemperature}, {2, &RandomUser::paste},
+        {3, &RandomUser::pressShortcut},    {8, &RandomUser::type},
+        {12, &RandomUser::typeTemperature}, {1, &RandomUser::paste},
         {10, &RandomUser::useGrid},         {2, &RandomUser::dragGrade},
-        {12, &RandomUser::chooseFromMenu},  {3, &RandomUser::useWindowFrame},
-        {2, &RandomUser::turnWheel},        {4, &RandomUser::selectAndShow}};
+        {13, &RandomUser::chooseFromMenu},  {3, &RandomUser::useWindowFrame},
+        {2, &RandomUser::turnWheel},        {6, &RandomUser::selectAndShow}};
+    m_readsHelp = helpWindow() != nullptr && below(3) == 0;
+    if (m_readsHelp && scope() == helpWindow() && below(8) == 0) {
+        note("close the help");
+        helpWindow()->close();
+        return;
+    }
+    auto *window = LoadedInstance<mdiVelmar>();
+    if (window != nullptr && scope() == window && window->WindowState() == vbMinimized) {
+        note("restore " + window->Name());
+        window->setWindowState(vbNormal);
+        return;
+    }
     int ticket = below(100);
     for (const auto &[share, action] : actions) {
         ticket -= share;
@@ -115,7 +142,9 @@ Widget *RandomUser::any() {
 }
 
 void RandomUser::click() {
-    QWidget *widget = anyWidget([](QWidget &) { return true; });
+    const bool onButton = below(3) == 0;
+    QWidget *widget = anyWidget(
+        [onButton](QWidget &each) { return !onButton || qobject_cast<QAbstractButton *>(&each) != nullptr; });
     if (widget == nullptr) return;
     const QPoint at(below(widget->width()), below(widget->height()));
     const int kind = below(10);
@@ -188,7 +217,16 @@ void RandomUser::type() {
 
 void RandomUser::typeTemperature() {
     static const QString keys = "0123456789,.-\b\x7f";
-    QWidget *box = anyWidget([](QWidget &widget) { return widget.objectName() == "txtDesignTemp"; });
+    const auto isBox = [](QWidget &widget) { return widget.objectName() == "txtDesignTemp"; };
+    QWidget *box = anyWidget(isBox);
+    if (box == nullptr) {
+        auto *window = LoadedInstance<mdiVelmar>();
+        if (window == nullptr || scope() != window || !window->menu.mnuView->Visible() || below(2) == 0)
+            return;
+        note("menu Design Values, for a temperature");
+        window->menu.mnuViewElem(6).trigger();
+        box = anyWidget(isBox);
+    }
     if (box == nullptr) return;
     const QPointer<QWidget> stillThere(box);
     box->setFocus();
@@ -242,7 +280,7 @@ void RandomUser::useGrid() {
     for (int count = 1 + below(4); count > 0 && stillThere; --count) {
         const Qt::Key key = oneOf(keys);
         note("key " + QKeySequence(key).toString() + " in " + nameOf(*widget));
-        QTest::keyClick(widget, key);
+        QTest::keyClick(keysOf(widget), key);
     }
 }
 
@@ -329,16 +367,26 @@ void RandomUser::selectAndShow() {
     if (search == nullptr || !search->Visible() || scope() != window) return;
     auto *grid = search->asWidget()->findChild<TDBGrid *>("tdbMaterials");
     if (grid == nullptr || !grid->isVisible()) return;
+    if (grid->RowCount() == 0) emptyBoxes(*search->asWidget());
     grid->setFocus();
     for (int grades = 1 + below(4); grades > 0 && isRunning() && grid->isVisible(); --grades) {
         note("select a grade");
         for (int rows = below(8); rows > 0; --rows)
-            QTest::keyClick(grid, Qt::Key_Down);
-        QTest::keyClick(grid, Qt::Key_Return);
+            QTest::keyClick(keysOf(grid), Qt::Key_Down);
+        QTest::keyClick(keysOf(grid), Qt::Key_Return);
     }
     if (!isRunning() || scope() != window) return;
     note("show the selected grades");
     window->menu.mnuFileElem(0).trigger();
+}
+
+void RandomUser::emptyBoxes(QWidget &window) {
+    note("empty the boxes");
+    for (QLineEdit *box : window.findChildren<QLineEdit *>())
+        if (box->isVisible() && box->isEnabled() && !box->text().isEmpty()) {
+            box->selectAll();
+            QTest::keyClick(box, Qt::Key_Delete);
+        }
 }
 
 int RandomUser::answer(const ModalSeam::Request &request) {
@@ -386,10 +434,10 @@ void RandomUser::keepWatch() {
         if (QWidget *popup = QApplication::activePopupWidget()) {
             static const QList<Qt::Key> keys = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Escape,
                                                 Qt::Key_Right};
-            QTest::keyClick(popup, oneOf(keys));
+            QTest::keyClick(popup, oneOf(keys, m_watch));
         } else if (QWidget *modal = QApplication::activeModalWidget();
                    modal != nullptr && qobject_cast<Form *>(modal) == nullptr) {
-            QTest::keyClick(modal, below(3) == 0 ? Qt::Key_Return : Qt::Key_Escape);
+            QTest::keyClick(modal, below(3, m_watch) == 0 ? Qt::Key_Return : Qt::Key_Escape);
         }
     });
 }

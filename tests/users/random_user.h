@@ -26,15 +26,23 @@ public:
 private:
     using Random = std::mt19937;
 
-    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
+    static int below(int limit, Random &random) {
+        return static_cast<int>(random() % static_cast<unsigned>(limit));
+    }
+    int below(int limit) { return below(limit, m_random); }
+    template <typename Item>
+    static const Item &oneOf(const QList<Item> &items, Random &random) {
+        return items[below(static_cast<int>(items.size()), random)];
+    }
     template <typename Item>
     const Item &oneOf(const QList<Item> &items) {
-        return items[below(static_cast<int>(items.size()))];
+        return oneOf(items, m_random);
     }
 
     bool isRunning() const;
-    /// What a person could reach now: an open menu, a modal window, or the program's main window.
+    /// What a person could reach now: an open menu, a modal window, the help, or the program's main window.
     QWidget *scope() const;
+    static QWidget *helpWindow();
     void act();
     void note(const QString &action);
 
@@ -50,6 +58,7 @@ private:
     void useWindowFrame();
     void turnWheel();
     void selectAndShow();
+    void emptyBoxes(QWidget &window);
 
     QString anyText();
     QWidget *anyWidget(const std::function<bool(QWidget &)> &fits);
@@ -64,6 +73,8 @@ private:
 
     TestRun &m_testRun;
     Random m_random;
+    Random m_watch; // of its own: how often the watch looks up depends on the clock
     QString m_folder;
+    bool m_readsHelp = false;
     int m_depth = 0; // modal windows above one another
 };

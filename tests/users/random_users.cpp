@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "platform/forms/screen.h"
@@ -37,8 +39,9 @@ bool isStatementError(int error) {
            error == 3085 || error == 3131 || error == 3141 || error == 3142 || error == 3464;
 }
 
+/// A statement is made at each change of a box, so that the fault is in the last thing that was done.
 bool hasSpoiltText(const QStringList &actions) {
-    for (const QString &action : actions) {
+    for (const QString &action : actions.last(std::min<qsizetype>(actions.size(), 2))) {
         if (!action.startsWith("type ") && !action.startsWith("paste ") && !action.startsWith("key "))
             continue;
         const QString text = action.section('"', 1, -2);
@@ -50,12 +53,13 @@ bool hasSpoiltText(const QStringList &actions) {
 
 class Users {
 public:
-    explicit Users(unsigned seed)
+    Users(unsigned seed, const QString &help)
         : m_seed(seed)
         , m_folders{m_folder.filePath("program"), m_folder.filePath("user")} {
         copyFolder(SOURCE_FOLDER "/sample/PMA", m_folders.program + "/PMA");
         for (const char *file : {"Velmar_PED.mdb", "PMA_Index.mdb", "morepmainfo.pdf"})
             QFile::copy(QString(SOURCE_FOLDER "/sample/") + file, m_folders.program + "/" + file);
+        if (!QFile::copy(help, m_folders.program + "/Velmar_PED_HELP.qch")) qFatal("no help");
         QDir().mkpath(m_folders.user);
     }
 
@@ -77,7 +81,12 @@ public:
     }
 
     bool report() const {
-        std::printf("runs: %d; actions: %d; boxes: %d; windows: %d\n", m_runs, m_actions, m_boxes, m_windows);
+        std::printf("runs: %d; actions: %d\n", m_runs, m_actions);
+        for (const auto &[kind, counts] : m_counts) {
+            std::printf("%s\n", qPrintable(kind));
+            for (const auto &[what, times] : counts)
+                std::printf("    %5d %s\n", times, qPrintable(what));
+        }
         for (const auto &[error, times] : m_errors)
             std::printf("run-time error %d: %d times\n", error, times);
         std::printf("most memory: %ld MB; faults: %d\n", m_memory / 1024, m_faults);
@@ -94,11 +103,25 @@ private:
         Screen::setSizeForTest(screens[seed / 3 % 4]);
     }
 
+    void count(const QString &kind, const QStringList &what) {
+        for (const QString &each : what)
+            ++m_counts[kind][each];
+    }
+
     void judge(const Ending &ending, unsigned seed) {
         const QStringList done = ending.noted("do: ");
         m_actions += static_cast<int>(done.size());
-        m_boxes += static_cast<int>(ending.noted("box: ").size());
-        m_windows += static_cast<int>(ending.noted("window: ").size());
+        count("menu entries", ending.noted("do: menu ").filter(QRegularExpression("^\\D")));
+        QStringList inHelp;
+        for (const QString &action : done.filter("elp"))
+            inHelp += action.section(' ', 0, 0);
+        count("in the help", inHelp);
+        count("modal windows", ending.noted("window: "));
+        count("file dialogs", ending.noted("file dialog: "));
+        QStringList titles;
+        for (const QString &box : ending.noted("box: "))
+            titles += box.section(": ", 0, 0);
+        count("message boxes", titles);
         m_memory = std::max(m_memory, ending.kilobytes);
         const int error = ending.error();
         if (error != 0) ++m_errors[error];
@@ -121,8 +144,7 @@ private:
     TestRun::Folders m_folders;
     int m_runs = 0;
     int m_actions = 0;
-    int m_boxes = 0;
-    int m_windows = 0;
+    std::map<QString, std::map<QString, int>> m_counts; // how far the users have got
     long m_memory = 0;
     std::map<int, int> m_errors;
     int m_faults = 0;
@@ -132,7 +154,8 @@ private:
 
 int main(int argc, char **argv) {
     const int actions = argc > 1 ? std::atoi(argv[1]) : 20'000;
-    Users users(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 20260131);
+    Users users(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 20260131,
+                QFileInfo(argv[0]).path() + "/Velmar_PED_HELP.qch");
     while (users.actions() < actions)
         users.next(std::min(ActionsOfARun, actions - users.actions()));
     return users.report() ? 0 : 1;

@@ -10,10 +10,10 @@
 class JetParser {
 public:
     /// Raises 3075 with the piece that does not hold together, and 3131 to 3143 for a clause that is missing
-    /// or misplaced.
+    /// or misplaced; 3360 for one that is nested too deep.
     static JetStatement statement(const QString &text);
 
-    /// The condition of a find. Raises 3077.
+    /// The condition of a find. Raises 3077, and 3360 as above.
     static JetExpression criterion(const QString &text);
 
 private:

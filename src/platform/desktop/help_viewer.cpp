@@ -1,5 +1,6 @@
 #include "platform/desktop/help_viewer.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QHelpContentModel>
 #include <QHelpContentWidget>
@@ -20,6 +21,10 @@
 #include "platform/forms/placement.h"
 #include "platform/runtime/app.h"
 
+namespace {
+constexpr int LongestSearch = 2000; // milliseconds; one that fails does not say so
+}
+
 HelpViewer::HelpViewer(const QString &file)
     : m_file(file) {
     setObjectName(QStringLiteral("HelpViewer"));
@@ -37,6 +42,9 @@ HelpViewer::HelpViewer(const QString &file)
 }
 
 HelpViewer::~HelpViewer() {
+    // A search runs in a thread, which the search engine must not take apart before it has got going.
+    while (m_searching && !m_longestSearch.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
     delete takeCentralWidget(); // shows the engine's models
     delete m_engine;            // writes into the folder
 }
@@ -118,8 +126,12 @@ QWidget *HelpViewer::buildSearchPage() {
     named(search->resultWidget(), QStringLiteral("HelpSearchResult"), QStringLiteral("Topics found"));
     layout->addWidget(search->queryWidget());
     layout->addWidget(search->resultWidget(), 1);
-    connect(search->queryWidget(), &QHelpSearchQueryWidget::search, search,
-            [search] { search->search(search->queryWidget()->searchInput()); });
+    connect(search->queryWidget(), &QHelpSearchQueryWidget::search, this, [this, search] {
+        m_searching = true;
+        m_longestSearch.setRemainingTime(LongestSearch);
+        search->search(search->queryWidget()->searchInput());
+    });
+    connect(search, &QHelpSearchEngine::searchingFinished, this, [this] { m_searching = false; });
     connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, this, &HelpViewer::followLink);
     page->setFocusProxy(search->queryWidget());
     search->reindexDocumentation();

@@ -1,6 +1,7 @@
 // The window in which help is read.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -41,4 +42,6 @@ private:
     QHelpEngine *m_engine = nullptr;
     QTabWidget *m_pages = nullptr;
     HelpBrowser *m_browser = nullptr;
+    bool m_searching = false;
+    QDeadlineTimer m_longestSearch;
 };

@@ -21,6 +21,17 @@
 #include "platform/runtime/twips.h"
 #include "platform/runtime/x_array_db.h"
 
+namespace {
+
+constexpr int WidestColumn = 1'000'000; // pixels; a header takes hardly more
+
+/// A width can come from a file, and be any number or none.
+int pixelsOf(double twips) {
+    return toPixels(static_cast<int>(std::lround(std::fmin(std::fmax(twips, 0), toTwips(WidestColumn)))));
+}
+
+} // namespace
+
 TDBGrid::TDBGrid(QWidget *parent)
     : QFrame(parent)
     , m_caption(new QLabel(this))
@@ -245,7 +256,7 @@ void TDBGrid::applyColumns(int first, int last) {
     for (int i = first; i <= last; ++i) {
         const GridColumn &column = m_model->column(i);
         m_header->setSectionHidden(i, !column.Visible());
-        m_header->resizeSection(i, toPixels(static_cast<int>(std::lround(column.Width()))));
+        m_header->resizeSection(i, pixelsOf(column.Width()));
     }
     m_header->headingsChanged();
     m_view->columnsChanged();
