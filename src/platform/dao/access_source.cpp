@@ -191,7 +191,7 @@ void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditio
 
 AccessSource::Catalog AccessSource::openHelper() {
     if (!m_helper.start())
-        throw RuntimeError(53, RuntimeError::standardDescription(53) + ": '" + m_helper.program() + "'");
+        throw RuntimeError::ofFile(53, m_helper.program());
     try {
         const Frame answer = receiveFrame();
         if (answer.kind != Reply::Catalog) raiseDamaged();

@@ -2,7 +2,7 @@
 
 #include <QBuffer>
 
-#include "platform/printing/output_file.h"
+#include "platform/runtime/whole_file.h"
 
 namespace Printing {
 
@@ -281,7 +281,7 @@ QByteArray rtfText(const Document &document) {
 }
 
 void saveRtf(const Document &document, const QString &path) {
-    writeOutputFile(path, rtfText(document));
+    writeWholeFile(path, rtfText(document));
 }
 
 } // namespace Printing
