@@ -7,20 +7,11 @@
 #include <QTableView>
 #include <QTest>
 
-#include "platform/runtime/regional_settings.h"
-#include "platform/runtime/runtime_error.h"
 #include "tests/forms/grid_fixture.h"
+#include "tests/support/error_of.h"
+#include "tests/support/pinned_settings.h"
 
 namespace {
-
-int errorOf(const std::function<void()> &action) {
-    try {
-        action();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 class BoundGrid : public ::testing::Test {
 protected:
@@ -116,12 +107,7 @@ TEST_F(BoundGrid, KeepsColumnsAndSidewaysScrollWhenItsRowsAreReplaced) {
 }
 
 TEST_F(BoundGrid, WritesValuesAsTextAndLeavesNullAndUnknownFieldsEmpty) {
-    RegionalSettings settings;
-    settings.decimalSign = ',';
-    settings.shortDateFormat = "dd.MM.yyyy";
-    const RegionalSettings before = RegionalSettings::current();
-    RegionalSettings::setCurrent(settings);
-
+    const PinnedSettings german(RegionalSettings{',', '.', "dd.MM.yyyy", "HH:mm:ss"});
     const auto rows = std::make_shared<MadeRows>(1);
     rows->put(0, 0, QVariant());
     rows->put(0, 1, 235.5f);
@@ -135,8 +121,6 @@ TEST_F(BoundGrid, WritesValuesAsTextAndLeavesNullAndUnknownFieldsEmpty) {
     grid.Columns(1).setDataField("NUMBER");
     EXPECT_EQ(grid.CellText(0, 1), "235,5");
     EXPECT_EQ(errorOf([this] { grid.CellText(1, 0); }), 9);
-
-    RegionalSettings::setCurrent(before);
 }
 
 TEST(GridFields, AreShownAllUntilTheyAreHeld) {
