@@ -25,7 +25,3 @@ void ImageBox::paintEvent(QPaintEvent *) {
 void ImageBox::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Q_EMIT Click();
 }
-
-void ImageBox::mouseDoubleClickEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton) Q_EMIT DblClick();
-}

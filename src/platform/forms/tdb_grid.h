@@ -72,9 +72,7 @@ public:
     void ScrollToFirstColumn();
 
     /// The first row counts as odd.
-    GridRowStyle EvenRowStyle() const { return m_look.evenRow; }
     void setEvenRowStyle(const GridRowStyle &style);
-    GridRowStyle OddRowStyle() const { return m_look.oddRow; }
     void setOddRowStyle(const GridRowStyle &style);
     /// The two styles show only while this is on. Off at first.
     bool AlternatingRowStyle() const { return m_look.alternating; }
