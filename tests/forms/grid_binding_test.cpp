@@ -71,11 +71,10 @@ TEST_F(BoundGrid, MovesTheRecordsetAndFollowsIt) {
 
     source.recordset()->FindFirst("40");
     EXPECT_EQ(grid.Row(), 40);
-    EXPECT_EQ(grid.Bookmark(), QVariant(40));
     EXPECT_TRUE(view->viewport()->rect().intersects(view->visualRect(view->currentIndex())));
     EXPECT_EQ(repositions.count(), 3);
 
-    grid.setBookmark(7);
+    grid.setRow(7);
     EXPECT_EQ(source.recordset()->AbsolutePosition(), 7);
     source.recordset()->MoveLast();
     source.recordset()->MoveNext(); // at end of file no row is current, and the grid stays where it was
@@ -103,7 +102,6 @@ TEST_F(BoundGrid, KeepsColumnsAndSidewaysScrollWhenItsRowsAreReplaced) {
     source.setRecordset(madeRecordset(0));
     EXPECT_EQ(grid.RowCount(), 0);
     EXPECT_EQ(grid.Row(), -1);
-    EXPECT_FALSE(grid.Bookmark().isValid());
 }
 
 TEST_F(BoundGrid, WritesValuesAsTextAndLeavesNullAndUnknownFieldsEmpty) {
