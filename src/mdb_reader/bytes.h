@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
 
 namespace bytes {
 
@@ -11,9 +10,6 @@ inline std::uint16_t u16(const std::uint8_t *at) {
 }
 inline std::uint32_t u32(const std::uint8_t *at) {
     return u16(at) | static_cast<std::uint32_t>(u16(at + 2)) << 16;
-}
-inline std::uint64_t u64(const std::uint8_t *at) {
-    return u32(at) | static_cast<std::uint64_t>(u32(at + 4)) << 32;
 }
 
 } // namespace bytes

@@ -23,7 +23,7 @@ Pages::Pages(MdbHandle *handle, int file)
 
 const std::uint8_t *Pages::at(std::uint32_t page) {
     if (page >= m_count) throw Damaged("page beyond the end of the file");
-    if (page - m_first >= m_held) {
+    if (page - m_first >= m_held) { // of a page before the run the difference is a large number
         if (m_handle->f->db_key != 0)
             readDeciphered(page);
         else

@@ -5,7 +5,6 @@
 
 Row::Row(const std::uint8_t *data, std::size_t size, const Table &table, bool jet3)
     : m_data(data)
-    , m_size(size)
     , m_jet3(jet3) {
     const std::size_t word = jet3 ? 1 : 2;
     if (size < word) throw Damaged("row without a head");

@@ -1,7 +1,6 @@
 // One stored row: where its cells lie.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -34,7 +33,6 @@ private:
     std::size_t offset(std::size_t index) const;
 
     const std::uint8_t *m_data;
-    std::size_t m_size;
     bool m_jet3;
     std::size_t m_columns;
     std::size_t m_mask;          // where the bits begin

@@ -1,6 +1,7 @@
 #include "mdb_reader/row_writer.h"
 
 #include <cmath>
+#include <cstring>
 
 #include "mdb_reader/bytes.h"
 #include "mdb_reader/damaged.h"

@@ -3,7 +3,6 @@
 
 #include <bitset>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 

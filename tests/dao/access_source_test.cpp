@@ -23,10 +23,6 @@ struct Sample {
 };
 const Sample Samples[] = {{"Velmar_PED.mdb", "csv", 27}, {"PMA_Index.mdb", "pma-csv", 1}};
 
-bool isInteger(FieldType type) {
-    return type == FieldType::Byte || type == FieldType::Integer || type == FieldType::Long;
-}
-
 /// Every key reads what the whole table has of it: the first search of a table and the later ones differ in
 /// what they look at.
 void expectKeysAgree(AccessSource &source, const QString &table, qsizetype column) {
@@ -65,7 +61,7 @@ TEST(AccessSource, KeyReadsEqualFilteredFullReads) {
         for (const QString &table : source.tableNames()) {
             const FieldDefinitions fields = source.fields(table);
             for (qsizetype i = 0; i < fields.size(); ++i)
-                if (isInteger(fields[i].type) || fields[i].type == FieldType::Text)
+                if (isIntegerType(fields[i].type) || fields[i].type == FieldType::Text)
                     expectKeysAgree(source, table, i);
         }
     }
@@ -153,6 +149,8 @@ TEST(AccessSource, HelperThatTalksNonsenseIsADamagedFile) {
         "printf '\\003\\0\\0\\0\\001\\377\\377'",                 // 65535 tables, none there
         "printf '\\003\\0\\0\\0\\002\\0\\0'",                     // rows nobody asked for
         "printf '\\011\\0\\0\\0\\001\\001\\0\\001\\0T\\0\\0\\0'", // a table's rows cut off
+        "printf '\\064\\0\\0\\0\\001'; head -c 40 /dev/zero;"
+        "printf '\\001\\0\\001\\0T\\0\\0\\0\\0\\0\\0'; exec sleep 30", // a table without columns
     };
     for (const char *script : scripts) {
         const QString helper = writeFile(folder, "helper", QByteArray("#!/bin/sh\n") + script + "\n");

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 
 #include "platform/dao/access_source.h"
-#include "platform/runtime/runtime_error.h"
+#include "tests/support/error_of.h"
 
 using Rows = QVector<QVector<QVariant>>;
 
@@ -31,17 +31,6 @@ inline Rows matchingRows(TableSource &source, const QString &table,
     Rows rows;
     source.readMatching(table, conditions, [&](const QVector<QVariant> &row) { rows.append(row); });
     return rows;
-}
-
-/// 0 where nothing is raised.
-template <typename Action>
-int errorOf(Action action) {
-    try {
-        action();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
 }
 
 inline QByteArray fileBytes(const QString &path) {

@@ -5,8 +5,8 @@
 
 #include "platform/dao/like_pattern.h"
 #include "platform/dao/text_folding.h"
-#include "platform/runtime/regional_settings.h"
 #include "tests/dao/sql_support.h"
+#include "tests/support/pinned_settings.h"
 
 namespace {
 
@@ -14,12 +14,6 @@ using Rows = std::vector<std::string>;
 
 class Dialect : public testing::Test {
 protected:
-    Dialect()
-        : m_database(databaseOver(tables())) {
-        RegionalSettings::setCurrent({',', '.', "dd.MM.yyyy", "HH:mm:ss"});
-    }
-    ~Dialect() override { RegionalSettings::setCurrent({}); }
-
     static std::unique_ptr<TableSource> tables() {
         auto source = std::make_unique<ListSource>();
         source->add("Part",
@@ -38,7 +32,8 @@ protected:
         return errorText([&] { m_database.OpenRecordset(sql); });
     }
 
-    Database m_database;
+    PinnedSettings m_settings{RegionalSettings{',', '.', "dd.MM.yyyy", "HH:mm:ss"}};
+    Database m_database = databaseOver(tables());
 };
 
 TEST(Wildcards, Table) {

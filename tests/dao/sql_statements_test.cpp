@@ -3,7 +3,6 @@
 
 #include <QDateTime>
 
-#include "platform/runtime/regional_settings.h"
 #include "tests/dao/sql_support.h"
 
 namespace {

@@ -109,6 +109,7 @@ TEST_F(DesktopTest, FieldCodesBecomeArguments) {
     } cases[] = {{"view --new %f", false, {"view", "--new", "/a b.pdf"}},
                  {"view %U", false, {"view", "file:///a%20b.pdf"}},
                  {"view %i --title=%c 100%%", false, {"view", "--title=View", "100%", "/a b.pdf"}},
+                 {"view -m %m \"\" %F", false, {"view", "-m", "", "/a b.pdf"}},
                  {"\"/opt/my \\\"view\" %f", false, {"/opt/my \"view", "/a b.pdf"}},
                  {"view %F", true, {"x-terminal-emulator", "-e", "view", "/a b.pdf"}}};
     for (const auto &row : cases) {

@@ -9,8 +9,8 @@
 #include <QTemporaryDir>
 
 #include "platform/forms/ms_chart.h"
-#include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
+#include "tests/support/pinned_settings.h"
 
 namespace {
 
@@ -64,20 +64,10 @@ QString printedText(const MSChart &chart, const QString &file) {
 
 class ChartTest : public ::testing::Test {
 protected:
-    ChartTest() { setDecimalSign(','); }
-    ~ChartTest() override { RegionalSettings::setCurrent(m_before); }
-
-    static void setDecimalSign(char sign) {
-        RegionalSettings settings;
-        settings.decimalSign = QLatin1Char(sign);
-        settings.groupSign = QLatin1Char(sign == ',' ? '.' : ',');
-        RegionalSettings::setCurrent(settings);
-    }
-
     QTemporaryDir m_folder;
 
 private:
-    RegionalSettings m_before = RegionalSettings::current();
+    PinnedSettings m_settings{u',', u'.'};
 };
 
 } // namespace
@@ -167,7 +157,7 @@ TEST_F(ChartTest, WritesRoundNumbersWithTheDecimalSignOfTheSystem) {
     MSChart chart;
     chart.setChartData(cells({{0.5, 7.85}, {2.0, 7.95}}));
     EXPECT_TRUE(printedText(chart, m_folder.filePath("comma.pdf")).contains("7,90"));
-    setDecimalSign('.');
+    const PinnedSettings point(u'.', u',');
     const QString text = printedText(chart, m_folder.filePath("point.pdf"));
     EXPECT_TRUE(text.contains("7.90")) << text.toStdString();
     EXPECT_FALSE(text.contains(','));

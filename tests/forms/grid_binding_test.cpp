@@ -7,20 +7,11 @@
 #include <QTableView>
 #include <QTest>
 
-#include "platform/runtime/regional_settings.h"
-#include "platform/runtime/runtime_error.h"
 #include "tests/forms/grid_fixture.h"
+#include "tests/support/error_of.h"
+#include "tests/support/pinned_settings.h"
 
 namespace {
-
-int errorOf(const std::function<void()> &action) {
-    try {
-        action();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 class BoundGrid : public ::testing::Test {
 protected:
@@ -80,11 +71,10 @@ TEST_F(BoundGrid, MovesTheRecordsetAndFollowsIt) {
 
     source.recordset()->FindFirst("40");
     EXPECT_EQ(grid.Row(), 40);
-    EXPECT_EQ(grid.Bookmark(), QVariant(40));
     EXPECT_TRUE(view->viewport()->rect().intersects(view->visualRect(view->currentIndex())));
     EXPECT_EQ(repositions.count(), 3);
 
-    grid.setBookmark(7);
+    grid.setRow(7);
     EXPECT_EQ(source.recordset()->AbsolutePosition(), 7);
     source.recordset()->MoveLast();
     source.recordset()->MoveNext(); // at end of file no row is current, and the grid stays where it was
@@ -112,16 +102,10 @@ TEST_F(BoundGrid, KeepsColumnsAndSidewaysScrollWhenItsRowsAreReplaced) {
     source.setRecordset(madeRecordset(0));
     EXPECT_EQ(grid.RowCount(), 0);
     EXPECT_EQ(grid.Row(), -1);
-    EXPECT_FALSE(grid.Bookmark().isValid());
 }
 
 TEST_F(BoundGrid, WritesValuesAsTextAndLeavesNullAndUnknownFieldsEmpty) {
-    RegionalSettings settings;
-    settings.decimalSign = ',';
-    settings.shortDateFormat = "dd.MM.yyyy";
-    const RegionalSettings before = RegionalSettings::current();
-    RegionalSettings::setCurrent(settings);
-
+    const PinnedSettings german(RegionalSettings{',', '.', "dd.MM.yyyy", "HH:mm:ss"});
     const auto rows = std::make_shared<MadeRows>(1);
     rows->put(0, 0, QVariant());
     rows->put(0, 1, 235.5f);
@@ -135,8 +119,6 @@ TEST_F(BoundGrid, WritesValuesAsTextAndLeavesNullAndUnknownFieldsEmpty) {
     grid.Columns(1).setDataField("NUMBER");
     EXPECT_EQ(grid.CellText(0, 1), "235,5");
     EXPECT_EQ(errorOf([this] { grid.CellText(1, 0); }), 9);
-
-    RegionalSettings::setCurrent(before);
 }
 
 TEST(GridFields, AreShownAllUntilTheyAreHeld) {

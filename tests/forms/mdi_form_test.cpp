@@ -13,8 +13,8 @@
 #include "platform/forms/forms.h"
 #include "platform/forms/menu_entry.h"
 #include "platform/forms/send_keys.h"
-#include "platform/runtime/runtime_error.h"
 #include "tests/forms/recording_form.h"
+#include "tests/support/error_of.h"
 #include "tests/support/gui.h"
 
 namespace {
@@ -194,12 +194,7 @@ TEST_F(MdiFormTest, ADoubleClickOnTheEmptyAreaIsTold) {
 }
 
 TEST(MdiFormAlone, AChildNeedsAMainWindow) {
-    try {
-        newChild("child");
-        FAIL();
-    } catch (const RuntimeError &error) {
-        EXPECT_EQ(error.number(), 366);
-    }
+    EXPECT_EQ(errorOf([] { newChild("child"); }), 366);
 }
 
 TEST(MdiFormAlone, TheRunEndsWithTheLastForm) {

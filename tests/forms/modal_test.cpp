@@ -18,6 +18,7 @@
 #include "platform/forms/msg_box.h"
 #include "platform/runtime/app.h"
 #include "tests/forms/recording_form.h"
+#include "tests/support/error_of.h"
 #include "tests/support/gui.h"
 #include "tests/support/raising_through_qt.h"
 
@@ -152,12 +153,7 @@ TEST(CommonDialogs, CancelRaisesOnlyWhenAsked) {
     EXPECT_EQ(modal().lastAsked().kind, ModalSeam::Kind::OpenFile);
     dialog.CancelError = true;
     modal().chooseFile("");
-    try {
-        dialog.ShowSave();
-        FAIL();
-    } catch (const RuntimeError &error) {
-        EXPECT_EQ(error.number(), 32755);
-    }
+    EXPECT_EQ(errorOf([&] { dialog.ShowSave(); }), 32755);
     modal().chooseFile("/data/b.mdb");
     dialog.ShowSave();
     EXPECT_EQ(dialog.FileName, QDir::toNativeSeparators("/data/b.mdb"));

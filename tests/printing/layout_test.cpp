@@ -3,9 +3,9 @@
 
 #include "platform/dao/recordset.h"
 #include "platform/dao/recordset_rows.h"
-#include "platform/runtime/runtime_error.h"
 #include "tests/printing/locate.h"
 #include "tests/printing/test_report.h"
+#include "tests/support/error_of.h"
 
 using namespace Printing;
 
@@ -13,16 +13,6 @@ namespace {
 
 constexpr int LineHeight = 224; // of Arial 10
 constexpr int Padding = 50;     // above and below a text in a frame together
-
-template <class Call>
-int raised(Call call) {
-    try {
-        call();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 class Layout : public ::testing::Test {
 protected:
@@ -38,15 +28,15 @@ protected:
 TEST_F(Layout, NamesAreUniqueAndUnknownOnesRaiseTheirNumber) {
     detail.Controls.Add<Label>("lblOne");
     EXPECT_EQ(&detail.Controls.Item("LBLONE"), &detail.Controls.Item(0));
-    EXPECT_EQ(raised([&] { detail.Controls.Add<Field>("lblone"); }), 457);
-    EXPECT_EQ(raised([&] { detail.Controls.Item("lblTwo"); }), 5);
-    EXPECT_EQ(raised([&] { detail.Controls.Item(1); }), 9);
-    EXPECT_EQ(raised([&] { detail.Controls.Item<Field>("lblOne"); }), 13);
-    EXPECT_EQ(raised([&] { report.AddSection(SectionType::Detail, "detail"); }), 457);
-    EXPECT_EQ(raised([&] { report.Sections("gfNotes"); }), 5);
+    EXPECT_EQ(errorOf([&] { detail.Controls.Add<Field>("lblone"); }), 457);
+    EXPECT_EQ(errorOf([&] { detail.Controls.Item("lblTwo"); }), 5);
+    EXPECT_EQ(errorOf([&] { detail.Controls.Item(1); }), 9);
+    EXPECT_EQ(errorOf([&] { detail.Controls.Item<Field>("lblOne"); }), 13);
+    EXPECT_EQ(errorOf([&] { report.AddSection(SectionType::Detail, "detail"); }), 457);
+    EXPECT_EQ(errorOf([&] { report.Sections("gfNotes"); }), 5);
     report.Fields.Add("f");
-    EXPECT_EQ(raised([&] { report.Fields.Add("F"); }), 457);
-    EXPECT_EQ(raised([&] { report.Fields("g"); }), 5);
+    EXPECT_EQ(errorOf([&] { report.Fields.Add("F"); }), 457);
+    EXPECT_EQ(errorOf([&] { report.Fields("g"); }), 5);
 }
 
 TEST_F(Layout, WhatStandsBelowAGrowingTextKeepsItsDistance) {

@@ -1,21 +1,15 @@
 // What the files hold, read back with other eyes.
-#include <csignal>
-#include <sys/resource.h>
-
 #include <gtest/gtest.h>
 
-#include <QDir>
+#include <QFile>
 #include <QPrinter>
-#include <QStorageInfo>
 #include <QTemporaryDir>
 
-#include "platform/printing/output_file.h"
 #include "platform/printing/pdf_output.h"
 #include "platform/printing/print_output.h"
 #include "platform/printing/rtf_output.h"
 #include "platform/printing/text_grid.h"
 #include "platform/printing/text_output.h"
-#include "platform/runtime/runtime_error.h"
 #include "tests/printing/test_report.h"
 #include "tests/support/pdf_tool.h"
 #include "tests/support/rtf_reader.h"
@@ -226,52 +220,6 @@ TEST(TextGrid, RunningTextIsBrokenAtWordsAndALongWordKeptWhole) {
         EXPECT_LE(line.size(), LineCharacters);
     const QString longWord(200, 'x');
     EXPECT_EQ(wrapText("a " + longWord + " b", 10), QStringList({"a", longWord, "b"}));
-}
-
-class OutputFile : public ::testing::TestWithParam<std::pair<const char *, int>> {};
-
-TEST_P(OutputFile, RaisesItsNumberAndLeavesNothing) {
-    QTemporaryDir folder;
-    QDir(folder.path()).mkdir("folder");
-    const QString name = QString::fromLatin1(GetParam().first);
-    const bool isSystemFolder = name.startsWith('/');
-    if (isSystemFolder && QStorageInfo(QFileInfo(name).path()).rootPath() != QFileInfo(name).path())
-        GTEST_SKIP() << "no such system folder is mounted here";
-    const QString path = isSystemFolder ? name : folder.filePath(name);
-    const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
-    try {
-        writeOutputFile(path, "content");
-        FAIL();
-    } catch (const RuntimeError &error) {
-        EXPECT_EQ(error.number(), GetParam().second) << error.description().toStdString();
-    }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
-}
-
-INSTANTIATE_TEST_SUITE_P(Paths, OutputFile,
-                         ::testing::Values(std::pair{"missing/a.pdf", 76}, std::pair{"A/B.pdf", 76},
-                                           std::pair{"folder", 75}, std::pair{"/sys/a.pdf", 70}));
-
-TEST(OutputFile, AFullDiskLeavesWhatWasThere) {
-    QTemporaryDir folder;
-    const QString path = folder.filePath("a.txt");
-    writeOutputFile(path, "before");
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, old.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    int number = 0;
-    try {
-        writeOutputFile(path, QByteArray(100000, 'x'));
-    } catch (const RuntimeError &error) {
-        number = error.number();
-    }
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, oldHandler);
-    EXPECT_EQ(number, 61);
-    EXPECT_EQ(contentOf(path), "before");
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
 }
 
 TEST_F(Outputs, ThePrinterGetsThePagesAskedFor) {

@@ -105,6 +105,21 @@ TEST_F(ViewerTest, ZoomsAndFits) {
     EXPECT_EQ(view.zoom(), 5);
 }
 
+TEST(PageViewTest, ComesToRestAtEveryHeightWhenItFitsTheWidth) {
+    TestReport report;
+    place<Label>(report.AddSection(SectionType::Detail, "Detail"), "lbl", {0, 0, 3000, 250}, "text");
+    const Document &document = report.Run();
+    PageView view(document);
+    view.show();
+    // Where a page just fits, the scroll bar's own width would decide whether there must be one.
+    for (int height = 640; height < 720; ++height) {
+        view.resize(500, height);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0) << height;
+        EXPECT_EQ(view.verticalScrollBar()->isVisible(), view.verticalScrollBar()->maximum() > 0) << height;
+    }
+}
+
 TEST_F(ViewerTest, FindsTextForwardsAndBackwardsAndShowsWhere) {
     press(Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(QApplication::focusWidget(), "BOTH is");
@@ -137,6 +152,19 @@ TEST(DocumentSearch, AMatchOverTwoLinesHasAnAreaOnEach) {
         EXPECT_FALSE(matchAreas(document, blank).empty());
     // "Pressures" stands behind a line end of its text.
     EXPECT_EQ(findText(document, "shade. Pressures").size(), 1u);
+}
+
+TEST(DocumentSearch, WhatAnEllipsisStandsForIsNotFound) {
+    TestReport report;
+    Section &detail = report.AddSection(SectionType::Detail, "Detail");
+    auto &label = place<Label>(detail, "lbl", {0, 0, 1500, 250}, "abcdefghijklmnopqrstuvwxyz");
+    label.CanGrow = label.WordWrap = false;
+    const Document &document = report.Run();
+    const QString &shown = document.pages[0].elements[0].lines[0].text;
+    ASSERT_TRUE(shown.endsWith(QChar(0x2026))) << shown.toStdString();
+    const qsizetype hidden = shown.size() - 1;
+    EXPECT_EQ(findText(document, label.Text.mid(hidden - 1, 1)).size(), 1u);
+    EXPECT_EQ(findText(document, label.Text.mid(hidden, 1)).size(), 0u);
 }
 
 TEST_F(ViewerTest, PrintsAndSavesThroughItsHooks) {

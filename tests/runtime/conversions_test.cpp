@@ -80,6 +80,7 @@ TEST_F(ConversionsTest, ANumberTextFollowsTheSettings) {
         {u"1\u2019234.5", no, no, no, 1234.5},
         {u"100,0", 1000, 100, 100, no},
         {u"-.5", -.5, -5, no, -.5},
+        {u"5.", 5, 5, no, 5},
         {u"+7", 7, 7, 7, 7},
         {u"2E3", 2000, 2000, 2000, 2000},
         {u"2d-1", 0.2, 0.2, 0.2, 0.2},
@@ -133,7 +134,9 @@ TEST_F(ConversionsTest, SinglesKeepTheirRange) {
     EXPECT_EQ(CSng(static_cast<double>(FLT_MAX)), FLT_MAX);
     EXPECT_EQ(errorOf([] { CSng(3.5e38); }), 6);
     EXPECT_EQ(errorOf([] { CDbl("1E400"); }), 6);
+    EXPECT_EQ(errorOf([] { CDbl(QString(400, '1') + "E-5"); }), 6);
     EXPECT_EQ(CDbl("1E-400"), 0);
+    EXPECT_EQ(CDbl("0." + QString(400, '0') + "1"), 0);
 }
 
 TEST_F(ConversionsTest, NullAndWordsAreNoNumbers) {

@@ -76,3 +76,14 @@ TEST(IncludeRules, ProgramReachesNoLibraryPastThePlatform) {
                       .toStdString(),
                   "");
 }
+
+TEST(IncludeRules, OnlyTheHelperReachesTheLibraryThatDamagedFilesCanBringDown) {
+    const QString library = QStringLiteral("#include [<\"](mdbtools|mdbsql|glib)");
+    EXPECT_EQ(matching(linesBelow("platform"), library).toStdString(), "");
+    EXPECT_NE(matching(linesBelow("mdb_reader"), library), "");
+    // Of the program it shares the protocol, and nothing that would bring Qt along.
+    EXPECT_EQ(matching(linesBelow("mdb_reader"),
+                       "#include (\"platform/(?!dao/(mdb_protocol|file_identity)\\.h)|<Q)")
+                  .toStdString(),
+              "");
+}

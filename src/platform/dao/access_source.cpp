@@ -1,7 +1,7 @@
 #include "platform/dao/access_source.h"
 
 #include <algorithm>
-#include <limits>
+#include <optional>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -190,8 +190,7 @@ void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditio
 }
 
 AccessSource::Catalog AccessSource::openHelper() {
-    if (!m_helper.start())
-        throw RuntimeError(53, RuntimeError::standardDescription(53) + ": '" + m_helper.program() + "'");
+    if (!m_helper.start()) throw RuntimeError::ofFile(53, m_helper.program());
     try {
         const Frame answer = receiveFrame();
         if (answer.kind != Reply::Catalog) raiseDamaged();
@@ -203,6 +202,8 @@ AccessSource::Catalog AccessSource::openHelper() {
             table.name = frame.name();
             table.rows = frame.number<quint32>();
             table.fields.resize(frame.number<quint16>());
+            // Its rows would take no bytes, and a frame of them would never end.
+            if (table.fields.isEmpty()) throw MalformedFrame();
             for (FieldDefinition &field : table.fields) {
                 field.name = frame.name();
                 field.type = fieldType(frame.number<CellType>());

@@ -11,10 +11,6 @@ namespace {
     throw RuntimeError(3421, QStringLiteral("Data type conversion error."));
 }
 
-bool isInteger(FieldType type) {
-    return type == FieldType::Byte || type == FieldType::Integer || type == FieldType::Long;
-}
-
 bool isInteger(const QVariant &value) {
     switch (value.typeId()) {
     case QMetaType::Int:
@@ -39,14 +35,12 @@ std::optional<QVector<BoundCondition>> bindConditions(const FieldDefinitions &fi
     QVector<BoundCondition> bound;
     bool possible = true;
     for (const ColumnCondition &condition : conditions) {
-        const auto field = std::find_if(fields.begin(), fields.end(), [&](const FieldDefinition &each) {
-            return each.name.compare(condition.column, Qt::CaseInsensitive) == 0;
-        });
-        if (field == fields.end()) throw RuntimeError(3265);
         BoundCondition one;
-        one.column = field - fields.begin();
-        one.isText = field->type == FieldType::Text;
-        if (!one.isText && !isInteger(field->type)) raiseMismatch();
+        one.column = fieldIndex(fields, condition.column);
+        if (one.column < 0) throw RuntimeError(3265);
+        const FieldType type = fields[one.column].type;
+        one.isText = type == FieldType::Text;
+        if (!one.isText && !isIntegerType(type)) raiseMismatch();
         if (!condition.value.isValid()) {
             possible = false;
         } else if (one.isText) {

@@ -10,8 +10,8 @@
 #include <sys/types.h>
 
 /// Its standard input and output are one end of a socket pair, so that a child that has gone is an error here
-/// and no signal. Whatever the child does, no call takes longer than the patience given, and nothing is
-/// raised.
+/// and no signal. Whatever the child does, no call waits longer than the patience given for the next byte to
+/// pass, and nothing is raised.
 class ChildProcess {
 public:
     ChildProcess(QString program, QStringList arguments, int patienceInMilliseconds);

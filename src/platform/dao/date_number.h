@@ -1,4 +1,5 @@
-// Dates as the engine counts them: days since 1899-12-30, the time of day as the fraction.
+// Dates as the rows in memory and the statements count them: days since 1899-12-30, the time of day as the
+// fraction.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// Dates as databases count them.
+// Dates as the files store them.
 #pragma once
 
 #include <optional>

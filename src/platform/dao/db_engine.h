@@ -22,6 +22,6 @@ public:
                                            const QString &connect);
 
 private:
-    // By canonical path: a link to an open file is that file.
+    // By canonical path, since a link to an open file is that file, and by the path that was asked for.
     QHash<QString, std::weak_ptr<TableStore>> m_open;
 };

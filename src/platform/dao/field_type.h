@@ -1,4 +1,4 @@
-// The declared type of a column.
+// The columns of a table or a result: their names and declared types.
 #pragma once
 
 #include <QString>
@@ -18,3 +18,24 @@ struct FieldDefinition {
 };
 
 using FieldDefinitions = QVector<FieldDefinition>;
+
+inline bool isTextType(FieldType type) {
+    return type == FieldType::Text || type == FieldType::Memo;
+}
+
+/// A Boolean is none.
+inline bool isIntegerType(FieldType type) {
+    return type == FieldType::Byte || type == FieldType::Integer || type == FieldType::Long;
+}
+
+/// Names of tables and columns: capitals do not count.
+inline bool isSameName(const QString &left, const QString &right) {
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+/// The position of a field, -1 for an unknown name.
+inline int fieldIndex(const FieldDefinitions &fields, const QString &name) {
+    for (int i = 0; i < fields.size(); ++i)
+        if (isSameName(fields[i].name, name)) return i;
+    return -1;
+}

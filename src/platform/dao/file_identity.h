@@ -1,4 +1,4 @@
-// Tells whether a file is still the one, and as, it was.
+// Tells whether a file is still the same one, and unchanged.
 #pragma once
 
 #include <cstdint>

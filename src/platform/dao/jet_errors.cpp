@@ -54,9 +54,7 @@ RuntimeError notGrouped(const QString &piece) {
 }
 
 RuntimeError selectSyntax() {
-    return RuntimeError(
-        3141, "The SELECT statement includes a reserved word or an argument name that is misspelled "
-              "or missing, or the punctuation is incorrect.");
+    return RuntimeError(3141);
 }
 
 RuntimeError textAfterEnd() {

@@ -9,10 +9,6 @@ namespace {
 using Kind = JetExpression::Kind;
 using Place = JetExpressionSql::Place;
 
-bool isSameName(const QString &left, const QString &right) {
-    return left.compare(right, Qt::CaseInsensitive) == 0;
-}
-
 QVariant numberParameter(const QString &written) {
     bool isInteger = false;
     const qlonglong integer = written.toLongLong(&isInteger);
@@ -70,7 +66,7 @@ std::optional<JetExpressionSql::Column> JetExpressionSql::find(const JetExpressi
     if (column.kind != Kind::Column) return std::nullopt;
     for (auto scope = m_scopes.rbegin(); scope != m_scopes.rend(); ++scope) {
         if (!column.qualifier.isEmpty() && !isSameName(column.qualifier, scope->table.name)) continue;
-        const int field = scope->table.fieldIndex(column.text);
+        const int field = fieldIndex(scope->table.fields, column.text);
         if (field < 0) continue;
         const int inMemory = scope->table.columns[field];
         return Column{scope->table.fields[field], inMemory,
@@ -198,7 +194,8 @@ SqlText JetExpressionSql::comparison(const JetExpression &left, const QByteArray
 
 SqlText JetExpressionSql::like(const JetExpression &expression) {
     const JetExpression &pattern = expression.operands[1];
-    if (pattern.kind == Kind::Text) LikePattern check(pattern.text);
+    // Refused here, where it does not hold together: jet_like() would only let it fit no text.
+    if (pattern.kind == Kind::Text) LikePattern refused(pattern.text);
     const SqlText sought = text(expression.operands[0]);
     const SqlText sql = "jet_like(" + text(pattern) + ", " + sought + ")";
     return expression.negated ? enclosed("not " + sql) : sql;

@@ -1,6 +1,8 @@
 #include "platform/dao/jet_parser.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/dao/date_number.h"
 #include "platform/dao/jet_errors.h"
@@ -378,10 +380,11 @@ bool JetParser::isClauseEnd(const JetToken &token) const {
 }
 
 bool JetParser::isReserved(const JetToken &token) const {
-    static constexpr std::array<const char *, 20> words = {
-        "select", "from", "where", "group", "having",  "order", "by",   "pivot", "transform", "distinct",
-        "and",    "or",   "not",   "like",  "between", "in",    "null", "is",    "as",        "desc"};
-    return isAnyKeyword(token, words) || token.isKeyword("asc");
+    static constexpr std::array<const char *, 21> words = {
+        "select",  "from",      "where",    "group", "having", "order", "by",
+        "pivot",   "transform", "distinct", "and",   "or",     "not",   "like",
+        "between", "in",        "null",     "is",    "as",     "asc",   "desc"};
+    return isAnyKeyword(token, words);
 }
 
 QString JetParser::sourceFrom(std::size_t firstToken) const {

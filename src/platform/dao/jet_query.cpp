@@ -1,6 +1,6 @@
 #include "platform/dao/jet_query.h"
 
-#include <numeric>
+#include <algorithm>
 
 #include "platform/dao/jet_errors.h"
 #include "platform/dao/jet_parser.h"

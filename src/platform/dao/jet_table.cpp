@@ -6,9 +6,3 @@ JetTable JetTable::whole(const QString &name, std::shared_ptr<MemoryTable> table
         whole.columns += i;
     return whole;
 }
-
-int JetTable::fieldIndex(const QString &fieldName) const {
-    for (int i = 0; i < fields.size(); ++i)
-        if (fields[i].name.compare(fieldName, Qt::CaseInsensitive) == 0) return i;
-    return -1;
-}

@@ -15,6 +15,4 @@ struct JetTable {
     QVector<int> columns;
 
     static JetTable whole(const QString &name, std::shared_ptr<MemoryTable> table);
-    /// Capitals do not count; -1 for an unknown name.
-    int fieldIndex(const QString &fieldName) const;
 };

@@ -1,5 +1,7 @@
 #include "platform/dao/key_condition.h"
 
+#include <algorithm>
+
 namespace {
 
 using Kind = JetExpression::Kind;
@@ -14,10 +16,6 @@ struct Equality {
 
 // What a row must hold to come through one branch of the condition.
 using Branch = std::vector<Equality>;
-
-bool isSameName(const QString &left, const QString &right) {
-    return left.compare(right, Qt::CaseInsensitive) == 0;
-}
 
 class KeySearch {
 public:
@@ -42,10 +40,7 @@ public:
         }
     }
 
-    bool isInteger(int column) const {
-        const FieldType type = m_fields[column].type;
-        return type == FieldType::Byte || type == FieldType::Integer || type == FieldType::Long;
-    }
+    bool isInteger(int column) const { return isIntegerType(m_fields[column].type); }
 
 private:
     std::vector<Branch> alternatives(const JetExpression &condition) const {
@@ -75,15 +70,13 @@ private:
     std::optional<Branch> equality(const JetExpression &column, const JetExpression &constant) const {
         if (column.kind != Kind::Column) return std::nullopt;
         if (!column.qualifier.isEmpty() && !isSameName(column.qualifier, m_name)) return std::nullopt;
-        for (int i = 0; i < m_fields.size(); ++i) {
-            if (!isSameName(m_fields[i].name, column.text)) continue;
-            bool isInt = false;
-            const int integer = constant.text.toInt(&isInt);
-            if (isInteger(i) && constant.kind == Kind::Number && isInt) return Branch{{i, integer}};
-            if (m_fields[i].type == FieldType::Text && constant.kind == Kind::Text)
-                return Branch{{i, constant.text}};
-            break;
-        }
+        const int index = fieldIndex(m_fields, column.text);
+        if (index < 0) return std::nullopt;
+        bool isInt = false;
+        const int integer = constant.text.toInt(&isInt);
+        if (isInteger(index) && constant.kind == Kind::Number && isInt) return Branch{{index, integer}};
+        if (m_fields[index].type == FieldType::Text && constant.kind == Kind::Text)
+            return Branch{{index, constant.text}};
         return std::nullopt;
     }
 

@@ -1,5 +1,7 @@
 #include "platform/dao/like_pattern.h"
 
+#include <algorithm>
+
 #include "platform/dao/text_folding.h"
 #include "platform/runtime/runtime_error.h"
 

@@ -11,22 +11,18 @@ namespace MdbProtocol {
 
 enum class Request : std::uint8_t {
     /// Table's position in the catalog (16 bits), number of conditions (16 bits), and for each one the
-    /// column's
-    /// position (16 bits), a ValueKind and the value: 32 bits or a text. No condition asks for all rows.
+    /// column's position (16 bits), a ValueKind and the value: 32 bits or a text. No condition asks for all
+    /// rows.
     Rows = 1,
 };
 
 enum class Reply : std::uint8_t {
     /// Sent once, unasked, as soon as the file is open. The file's FileIdentity; number of tables (16 bits),
-    /// and for each one its
-    /// name, its
-    /// rows (32 bits), the number of its columns (16 bits), and for each of these its name, a CellType and
-    /// its
-    /// size in characters (16 bits).
+    /// and for each one its name, its rows (32 bits), the number of its columns (16 bits, one at least), and
+    /// for each of these its name, a CellType and its size in characters (16 bits).
     Catalog = 1,
     /// Any number of whole rows. A row is one bit for each column, set where it is Null, in whole bytes from
-    /// the
-    /// lowest bit, and then the other columns' values.
+    /// the lowest bit, and then the other columns' values.
     Rows,
     /// Nothing found for a while, still at it.
     Busy,

@@ -195,7 +195,3 @@ QByteArray textExpression(const QByteArray &value, FieldType type) {
     }
     return value;
 }
-
-bool isTextType(FieldType type) {
-    return type == FieldType::Text || type == FieldType::Memo;
-}

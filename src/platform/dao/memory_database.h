@@ -72,4 +72,3 @@ private:
 QVariant storedValue(const QVariant &cell, FieldType type);
 /// SQL for the text that a column's value stands for where it meets a text.
 QByteArray textExpression(const QByteArray &value, FieldType type);
-bool isTextType(FieldType type);

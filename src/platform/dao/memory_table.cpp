@@ -1,5 +1,6 @@
 #include "platform/dao/memory_table.h"
 
+#include <algorithm>
 #include <numeric>
 
 #include "platform/dao/memory_database.h"
@@ -189,15 +190,14 @@ const TextColumn &MemoryTable::textColumn(int column) {
 }
 
 QVariant MemoryTable::cell(int row, int column) {
-    QVector<QVariant> *cells = m_rows.object(row);
-    if (!cells) {
-        cells = new QVector<QVariant>;
-        const auto statement =
-            m_database->prepare({"select * from " + m_sqlName + " where rowid = ?", {qlonglong(row)}});
-        statement->step();
-        for (int i = 0; i < m_fields.size(); ++i)
-            *cells += statement->cell(i, m_fields[i].type);
-        m_rows.insert(row, cells);
-    }
-    return cells->value(column);
+    if (const QVector<QVariant> *kept = m_rows.object(row)) return kept->value(column);
+    auto cells = std::make_unique<QVector<QVariant>>();
+    const auto statement =
+        m_database->prepare({"select * from " + m_sqlName + " where rowid = ?", {qlonglong(row)}});
+    statement->step();
+    for (int i = 0; i < m_fields.size(); ++i)
+        *cells += statement->cell(i, m_fields[i].type);
+    const QVariant value = cells->value(column);
+    m_rows.insert(row, cells.release());
+    return value;
 }

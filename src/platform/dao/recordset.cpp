@@ -81,10 +81,7 @@ const FieldDefinitions &Recordset::fieldDefinitions() const {
 }
 
 int Recordset::fieldIndex(const QString &name) const {
-    const FieldDefinitions &definitions = m_rows->fields();
-    for (int i = 0; i < definitions.size(); ++i)
-        if (definitions[i].name.compare(name, Qt::CaseInsensitive) == 0) return i;
-    return -1;
+    return ::fieldIndex(m_rows->fields(), name);
 }
 
 int Recordset::AbsolutePosition() const {

@@ -44,6 +44,7 @@ public:
     /// Always 0: nothing is ever edited.
     int EditMode() const { return 0; }
     void CancelUpdate(int updateType = 1);
+    /// Nobody is told of its moves any more; the rows stay.
     void Close();
 
     /// The current record's value. Raises 3021 without a current record, 3265 for an unknown field.

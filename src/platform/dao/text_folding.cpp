@@ -1,5 +1,7 @@
 #include "platform/dao/text_folding.h"
 
+#include <algorithm>
+#include <compare>
 #include <vector>
 
 #include <QString>
@@ -66,7 +68,7 @@ void foldText(const char *text, qsizetype size, QByteArray &folded) {
             continue;
         }
         folded.truncate(i);
-        QString rest = QString::fromUtf8(text + i, size - i);
+        const QString rest = QString::fromUtf8(text + i, size - i);
         QString foldedRest;
         for (char32_t codePoint : rest.toUcs4())
             foldedRest += QChar::fromUcs4(foldedCodePoint(codePoint));

@@ -195,7 +195,8 @@ QStringList DesktopEntry::command(const QString &file) const {
             if (code == 'f' || code == 'F' || code == 'u' || code == 'U') takesFile = true;
             if (code == 'i' || code == 'k') dropped = true;
         }
-        if (!dropped) result.append(filled);
+        // A code that stands for nothing any more would else be an empty file name.
+        if (!dropped && (!filled.isEmpty() || argument.isEmpty())) result.append(filled);
     }
     if (!takesFile) result.append(file);
     if (terminal) result = QStringList{QStringLiteral("x-terminal-emulator"), QStringLiteral("-e")} + result;

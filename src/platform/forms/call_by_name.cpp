@@ -52,11 +52,6 @@ QVariant CallByName(FormBase &form, const char *name, const QVariantList &argume
     return CallByName(*form.asWidget(), name, arguments);
 }
 
-QVariant PropertyByName(const QObject &object, const char *name) {
-    if (object.metaObject()->indexOfProperty(name) < 0) throw RuntimeError(438);
-    return object.property(name);
-}
-
 void SetPropertyByName(QObject &object, const char *name, const QVariant &value) {
     if (object.metaObject()->indexOfProperty(name) < 0) throw RuntimeError(438);
     if (!object.setProperty(name, value)) throw RuntimeError(13);

@@ -11,6 +11,5 @@ class QObject;
 QVariant CallByName(QObject &object, const char *name, const QVariantList &arguments = {});
 QVariant CallByName(FormBase &form, const char *name, const QVariantList &arguments = {});
 
-/// A Q_PROPERTY by its name. Raises 438 where there is none.
-QVariant PropertyByName(const QObject &object, const char *name);
+/// Sets a Q_PROPERTY by its name. Raises 438 where there is none, 13 for a value that does not convert.
 void SetPropertyByName(QObject &object, const char *name, const QVariant &value);

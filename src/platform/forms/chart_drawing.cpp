@@ -1,4 +1,3 @@
-// What a chart shows, and its drawing by the plot library.
 #include "platform/forms/chart_drawing.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// A drawn chart, kept as lines and texts.
 #include "platform/forms/chart_picture.h"
 
 #include <QPainter>

@@ -57,10 +57,6 @@ QColor toQColor(int colour) {
     return {colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF};
 }
 
-int toColourNumber(const QColor &colour) {
-    return RGB(colour.red(), colour.green(), colour.blue());
-}
-
 QColor textColourOn(int colour) {
     if (isSystem(colour)) {
         const QPalette palette = QApplication::palette();

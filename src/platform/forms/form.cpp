@@ -142,7 +142,7 @@ void Form::ShowModal(QWidget *owner) {
     showFrame();
     focusFrame();
     if (seam != nullptr && self && m_modalLoop != nullptr) {
-        QTimer::singleShot(0, this, [this, self, seam, &drive] {
+        QTimer::singleShot(0, this, [this, self, seam, drive] {
             const auto mustBeClosed = qScopeGuard([&] {
                 if (!self || m_modalLoop == nullptr) return;
                 seam->unexpected(QStringLiteral("the modal window %1 was left open").arg(Name()));

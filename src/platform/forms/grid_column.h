@@ -44,7 +44,6 @@ public:
     void setWordWrap(bool wrap);
 
     /// An SVG file. It is drawn in the colour of the heading's text, to be legible on every theme.
-    const QString &HeadPicture() const { return m_headPicture; }
     void setHeadPicture(const QString &svgFile);
     /// TextOnly at first. A picture that cannot be read leaves the text standing.
     HeadPicturePosition PicturePosition() const { return m_picturePosition; }

@@ -4,7 +4,6 @@
 #include <QWidget>
 
 class QHeaderView;
-class QStyleOptionHeader;
 
 /// Stands under the view that the headings belong to, as wide as it, and follows the headings' columns.
 class GridFooter : public QWidget {

@@ -18,8 +18,8 @@ GridHeader::GridHeader(const GridModel &model, QWidget *parent)
     setSectionsClickable(true);
     setHighlightSections(false);
     setMinimumSectionSize(MinimumSection);
-    setResizeContentsPrecision(
-        0); // a column fitted to its texts by a double click reads the rows on the screen
+    // A column that a double click fits to its texts is to read no more than the rows on the screen.
+    setResizeContentsPrecision(0);
     connect(this, &QHeaderView::sectionResized, this, &GridHeader::headingsChanged);
 }
 

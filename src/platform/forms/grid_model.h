@@ -24,8 +24,6 @@ public:
     bool showsArray() const { return m_array != nullptr; }
     /// The array on show, with the bounds that it had when it was shown.
     bool shows(const XArrayDB &array) const;
-    /// The bookmark of row 0.
-    int firstBookmark() const { return m_array ? m_firstArrayRow : 0; }
 
     GridColumn &addColumn();
     void removeColumn(int index);

@@ -11,7 +11,7 @@ ImageBox::ImageBox(QWidget *parent)
 
 void ImageBox::setPicture(const QString &picture) {
     if (picture == m_picture) return;
-    if (!picture.isEmpty() && !QFileInfo::exists(picture)) throw RuntimeError(53);
+    if (!picture.isEmpty() && !QFileInfo::exists(picture)) throw RuntimeError::ofFile(53, picture);
     m_picture = picture;
     m_icon = QIcon(picture);
     update();
@@ -24,8 +24,4 @@ void ImageBox::paintEvent(QPaintEvent *) {
 
 void ImageBox::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Q_EMIT Click();
-}
-
-void ImageBox::mouseDoubleClickEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton) Q_EMIT DblClick();
 }

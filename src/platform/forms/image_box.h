@@ -18,12 +18,10 @@ public:
 
 Q_SIGNALS:
     void Click();
-    void DblClick();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
     QString m_picture;

@@ -6,7 +6,7 @@
 
 int ImageList::Add(const QString &picture) {
     if (!QFileInfo::exists(picture))
-        throw RuntimeError(53, RuntimeError::standardDescription(53) + QLatin1String(": ") + picture);
+        throw RuntimeError::ofFile(53, picture);
     m_pictures.push_back(picture);
     return Count();
 }

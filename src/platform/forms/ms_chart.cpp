@@ -1,4 +1,3 @@
-// The chart control.
 #include "platform/forms/ms_chart.h"
 
 #include <QPainter>
@@ -6,9 +5,6 @@
 #include "platform/runtime/runtime_error.h"
 
 namespace {
-
-constexpr int InvalidPropertyValue = 380;
-constexpr int SubscriptOutOfRange = 9;
 
 QString plainLabel(std::size_t index) {
     return QStringLiteral("C%1").arg(index + 1);
@@ -23,7 +19,7 @@ MSChart::MSChart(QWidget *parent)
 }
 
 void MSChart::setChartType(int type) {
-    if (type != VtChChartType2dXY) throw RuntimeError(InvalidPropertyValue, tr("Invalid property value"));
+    if (type != VtChChartType2dXY) throw RuntimeError(380);
 }
 
 void MSChart::setChartData(const XArrayDB &cells) {
@@ -39,12 +35,12 @@ void MSChart::setTitleText(const QString &text) {
 }
 
 QString MSChart::AxisTitle(int axis) const {
-    if (axis != 0 && axis != 1) throw RuntimeError(SubscriptOutOfRange);
+    if (axis != 0 && axis != 1) throw RuntimeError(9);
     return m_content.axisTitle[axis];
 }
 
 void MSChart::setAxisTitle(int axis, const QString &text) {
-    if (axis != 0 && axis != 1) throw RuntimeError(SubscriptOutOfRange);
+    if (axis != 0 && axis != 1) throw RuntimeError(9);
     m_content.axisTitle[axis] = text;
     changed();
 }
@@ -60,7 +56,7 @@ void MSChart::setShowLegend(bool show) {
 }
 
 void MSChart::setColumnCount(int count) {
-    if (count < 0) throw RuntimeError(SubscriptOutOfRange);
+    if (count < 0) throw RuntimeError(9);
     const std::size_t before = m_labels.size();
     m_labels.resize(std::size_t(count));
     for (std::size_t i = before; i < m_labels.size(); ++i)
@@ -69,12 +65,12 @@ void MSChart::setColumnCount(int count) {
 }
 
 void MSChart::setColumn(int column) {
-    if (column < 1 || column > ColumnCount()) throw RuntimeError(SubscriptOutOfRange);
+    if (column < 1 || column > ColumnCount()) throw RuntimeError(9);
     m_column = column;
 }
 
 std::size_t MSChart::labelIndex() const {
-    if (m_column > ColumnCount()) throw RuntimeError(SubscriptOutOfRange);
+    if (m_column > ColumnCount()) throw RuntimeError(9);
     return std::size_t(m_column - 1);
 }
 

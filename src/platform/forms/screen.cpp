@@ -29,10 +29,6 @@ int Screen::TwipsPerPixelX() {
     return TwipsPerPixel;
 }
 
-int Screen::TwipsPerPixelY() {
-    return TwipsPerPixel;
-}
-
 void Screen::setSizeForTest(const QSize &pixels) {
     testSize = pixels;
 }

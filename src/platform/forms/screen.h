@@ -8,7 +8,6 @@ namespace Screen {
 int Width();
 int Height();
 int TwipsPerPixelX();
-int TwipsPerPixelY();
 /// In pixels; an empty size takes the system's screen again.
 void setSizeForTest(const QSize &pixels);
 } // namespace Screen

@@ -11,6 +11,10 @@
 #include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
 
+namespace {
+constexpr int TextIndent = 2;
+}
+
 StatusBar::StatusBar(const QString &name, QWidget *parent)
     : QStatusBar(parent)
     , m_clock(new QTimer(this)) {
@@ -24,6 +28,7 @@ int StatusBar::AddPanel(StatusPanelStyle style) {
     label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     label->setTextFormat(Qt::PlainText);
     label->setMargin(1);
+    label->setIndent(TextIndent); // else the label makes up one, and a text fitted to its width is cut
     label->installEventFilter(this);
     m_panels.push_back({style, label, {}});
     named(label, QStringLiteral("%1(%2)").arg(objectName()).arg(Count()));
@@ -67,7 +72,7 @@ void StatusBar::fit(const Panel &panel) {
         panel.label->setText(panel.text);
         return;
     }
-    const int width = panel.label->contentsRect().width() - 2 * panel.label->margin();
+    const int width = panel.label->contentsRect().width() - 2 * panel.label->margin() - TextIndent;
     const QString shown = panel.label->fontMetrics().elidedText(panel.text, Qt::ElideRight, width);
     panel.label->setText(shown);
     panel.label->setToolTip(shown == panel.text ? QString() : panel.text);

@@ -1,6 +1,8 @@
 // The line of panels at the bottom of the main window.
 #pragma once
 
+#include <vector>
+
 #include <QStatusBar>
 
 class QLabel;

@@ -1,5 +1,7 @@
 #include "platform/forms/step_progress.h"
 
+#include <algorithm>
+
 #include <QGuiApplication>
 #include <QProgressBar>
 

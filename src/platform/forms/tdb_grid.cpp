@@ -140,15 +140,6 @@ void TDBGrid::setRow(int row) {
     selectRow(row);
 }
 
-QVariant TDBGrid::Bookmark() const {
-    const int row = Row();
-    return row < 0 ? QVariant() : QVariant(row + m_model->firstBookmark());
-}
-
-void TDBGrid::setBookmark(const QVariant &bookmark) {
-    setRow(bookmark.toInt() - m_model->firstBookmark());
-}
-
 void TDBGrid::ScrollToFirstColumn() {
     m_view->horizontalScrollBar()->setValue(m_view->horizontalScrollBar()->minimum());
 }

@@ -7,7 +7,6 @@
 
 #include <QFrame>
 #include <QPointer>
-#include <QVariant>
 
 #include "platform/forms/grid_column.h"
 #include "platform/forms/grid_look.h"
@@ -65,16 +64,10 @@ public:
     /// The current row, -1 without one. Setting it raises 9 for a row that is not there.
     int Row() const;
     void setRow(int row);
-    /// The current row as its source counts it: the recordset's position, or the array's own index. Null
-    /// without a current row.
-    QVariant Bookmark() const;
-    void setBookmark(const QVariant &bookmark);
     void ScrollToFirstColumn();
 
     /// The first row counts as odd.
-    GridRowStyle EvenRowStyle() const { return m_look.evenRow; }
     void setEvenRowStyle(const GridRowStyle &style);
-    GridRowStyle OddRowStyle() const { return m_look.oddRow; }
     void setOddRowStyle(const GridRowStyle &style);
     /// The two styles show only while this is on. Off at first.
     bool AlternatingRowStyle() const { return m_look.alternating; }

@@ -1,10 +1,23 @@
 #include "platform/printing/document_search.h"
 
+#include <algorithm>
+
 #include <QFontMetricsF>
 
 #include "platform/printing/text_layout.h"
 
 namespace Printing {
+
+namespace {
+
+// How much of the line is the element's own text: an ellipsis may stand for the rest.
+int ownLength(const Element &element, const TextLine &line) {
+    const QStringView own = QStringView(element.text).mid(line.start);
+    const auto end = std::mismatch(line.text.begin(), line.text.end(), own.begin(), own.end()).first;
+    return int(end - line.text.begin());
+}
+
+} // namespace
 
 std::vector<TextMatch> findText(const Document &document, const QString &text) {
     std::vector<TextMatch> matches;
@@ -31,7 +44,7 @@ std::vector<QRectF> matchAreas(const Document &document, const TextMatch &match)
     std::vector<QRectF> areas;
     for (const TextLine &line : element.lines) {
         const int first = std::max(match.start - line.start, 0);
-        const int last = std::min(match.start + match.length - line.start, int(line.text.size()));
+        const int last = std::min(match.start + match.length - line.start, ownLength(element, line));
         if (first >= last) continue;
         const double left = metrics.horizontalAdvance(line.text.left(first));
         const double right = metrics.horizontalAdvance(line.text.left(last));

@@ -18,8 +18,8 @@ struct TextMatch {
 /// behind an ellipsis, the blank at which a line was broken. Empty for an empty text.
 std::vector<TextMatch> findText(const Document &document, const QString &text);
 
-/// The match on its page, in twips: one rectangle for each line that it touches, and at least
-/// one for what findText() found.
+/// The match on its page, in twips: one rectangle for each line that it touches, and at least one for what
+/// findText() found.
 std::vector<QRectF> matchAreas(const Document &document, const TextMatch &match);
 
 } // namespace Printing

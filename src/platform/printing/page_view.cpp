@@ -64,8 +64,11 @@ void PageView::applyFit() {
     if (m_fit == Fit::None || m_document.pages.empty()) return;
     const double width = double(m_document.pageSettings.PaperWidth) / TwipsPerPixel;
     const double height = double(m_document.pageSettings.PaperHeight) / TwipsPerPixel;
-    const double byWidth = (viewport()->width() - 2 * PageDistance) / width;
-    const double byHeight = (viewport()->height() - 2 * PageDistance) / height;
+    // Whether there is a scroll bar follows from the zoom, so the zoom must not follow from that.
+    const QSize room = maximumViewportSize() -
+                       QSize(verticalScrollBar()->sizeHint().width() + 2 * PageDistance, 2 * PageDistance);
+    const double byWidth = room.width() / width;
+    const double byHeight = room.height() / height;
     applyZoom(m_fit == Fit::Width ? byWidth : std::min(byWidth, byHeight), viewport()->rect().topLeft());
 }
 

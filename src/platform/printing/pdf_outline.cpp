@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 
 #include "platform/runtime/runtime_error.h"
+#include "platform/runtime/twips.h"
 
 namespace Printing {
 

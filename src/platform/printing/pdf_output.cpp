@@ -4,12 +4,12 @@
 #include <QPageSize>
 #include <QPdfWriter>
 
-#include "platform/printing/output_file.h"
 #include "platform/printing/page_painter.h"
 #include "platform/printing/pdf_outline.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/twips.h"
+#include "platform/runtime/whole_file.h"
 
 namespace Printing {
 
@@ -41,7 +41,7 @@ QByteArray pagesAsPdf(const Document &document) {
 } // namespace
 
 void savePdf(const Document &document, const QString &path) {
-    writeOutputFile(path, withOutline(pagesAsPdf(document), document));
+    writeWholeFile(path, withOutline(pagesAsPdf(document), document));
 }
 
 } // namespace Printing

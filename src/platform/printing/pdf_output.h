@@ -6,7 +6,7 @@
 namespace Printing {
 
 /// Text in embedded fonts, pictures as vectors where they are made of them, title and author, an outline of
-/// the headings. Two runs differ in the date only. Raises what writeOutputFile() raises.
+/// the headings. Two runs differ in the date only. Raises what writeWholeFile() raises.
 void savePdf(const Document &document, const QString &path);
 
 } // namespace Printing

@@ -2,9 +2,9 @@
 
 #include <memory>
 
+#include <QPicture>
 #include <QSvgRenderer>
 
-#include "platform/printing/text_style.h"
 #include "platform/runtime/twips.h"
 
 namespace Printing {
@@ -43,14 +43,6 @@ Picture Picture::fromSvg(const QByteArray &svg) {
                 renderer->render(&painter, QRectF(QPointF(), size));
             },
             renderer->viewBoxF().size()};
-}
-
-Picture Picture::fromPicture(const QPicture &picture) {
-    const QRect bounds = picture.boundingRect();
-    return {[picture, bounds](QPainter &painter, const QSizeF &) {
-                painter.drawPicture(-bounds.topLeft(), picture);
-            },
-            bounds.size()};
 }
 
 Picture Picture::record(const Painting &painting, const QSizeF &size) {

@@ -7,7 +7,6 @@
 #include <QColor>
 #include <QImage>
 #include <QPainter>
-#include <QPicture>
 
 namespace Printing {
 
@@ -21,7 +20,6 @@ public:
     static Picture fromImage(const QImage &image);
     /// An empty picture if `svg` is none.
     static Picture fromSvg(const QByteArray &svg);
-    static Picture fromPicture(const QPicture &picture);
     /// Records the painting at once, at `size`: later changes of what it draws don't reach the picture.
     static Picture record(const Painting &painting, const QSizeF &size);
 

@@ -2,7 +2,7 @@
 
 #include <QBuffer>
 
-#include "platform/printing/output_file.h"
+#include "platform/runtime/whole_file.h"
 
 namespace Printing {
 
@@ -166,10 +166,10 @@ void RtfWriter::writeParagraph(const Element &element, int spaceBefore) {
     const int right = std::max(0, m_document.printWidth() - element.box.left() - element.box.width());
     m_body += "\\pard\\plain";
     if (m_pageBreak) m_body += "\\pagebb";
-    if (element.HeadingLevel > 0)
-        m_body += "\\s" + number(std::min(element.HeadingLevel, HeadingLevels)) + "\\keepn";
-    if (element.HeadingLevel > 0)
-        m_body += "\\outlinelevel" + number(std::min(element.HeadingLevel, HeadingLevels) - 1);
+    if (element.HeadingLevel > 0) {
+        const int level = std::min(element.HeadingLevel, HeadingLevels);
+        m_body += "\\s" + number(level) + "\\keepn\\outlinelevel" + number(level - 1);
+    }
     m_body += alignment(element);
     m_body += "\\li" + number(element.box.left()) + "\\ri" + number(right) + "\\sb" +
               number(std::max(0, spaceBefore)) + ' ' + content(element) + "\\par\n";
@@ -281,7 +281,7 @@ QByteArray rtfText(const Document &document) {
 }
 
 void saveRtf(const Document &document, const QString &path) {
-    writeOutputFile(path, rtfText(document));
+    writeWholeFile(path, rtfText(document));
 }
 
 } // namespace Printing

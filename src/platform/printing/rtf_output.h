@@ -10,7 +10,7 @@ namespace Printing {
 /// written by their number.
 QByteArray rtfText(const Document &document);
 
-/// Raises what writeOutputFile() raises.
+/// Raises what writeWholeFile() raises.
 void saveRtf(const Document &document, const QString &path);
 
 } // namespace Printing

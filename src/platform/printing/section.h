@@ -33,7 +33,7 @@ public:
     /// False keeps an instance at Height, whatever its controls need.
     bool CanGrow = true;
     /// Stays on one page, sub-reports included, where a page can hold it. Without it a text may be broken
-    /// between two lines; a row with borders never is.
+    /// between two lines; a row with borders is only where no page can hold it.
     bool KeepTogether = false;
     /// For a group header: printed again where the rows go over to a new page.
     bool RepeatOnNewPage = false;

@@ -5,6 +5,8 @@
 #include <QFontMetricsF>
 #include <QTextLayout>
 
+#include "platform/runtime/twips.h"
+
 namespace Printing {
 
 namespace {

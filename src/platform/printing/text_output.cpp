@@ -1,7 +1,7 @@
 #include "platform/printing/text_output.h"
 
-#include "platform/printing/output_file.h"
 #include "platform/printing/text_grid.h"
+#include "platform/runtime/whole_file.h"
 
 namespace Printing {
 
@@ -56,7 +56,7 @@ QString gridText(const Document &document) {
 }
 
 void saveText(const Document &document, const QString &path) {
-    writeOutputFile(path, gridText(document).toUtf8());
+    writeWholeFile(path, gridText(document).toUtf8());
 }
 
 } // namespace Printing

@@ -11,7 +11,7 @@ namespace Printing {
 /// its first column again. Only a single cell may be wider.
 QString gridText(const Document &document);
 
-/// In UTF-8, lines end with a line feed. Raises what writeOutputFile() raises.
+/// In UTF-8, lines end with a line feed. Raises what writeWholeFile() raises.
 void saveText(const Document &document, const QString &path);
 
 } // namespace Printing

@@ -6,9 +6,6 @@
 
 namespace Printing {
 
-constexpr int TwipsPerInch = 1440;
-constexpr int TwipsPerPoint = 20;
-
 struct TextFont {
     /// The family asked for first; Liberation Sans, which has the same widths as Arial, is asked for next.
     QString Name = QStringLiteral("Arial");

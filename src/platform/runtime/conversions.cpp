@@ -1,5 +1,6 @@
 #include "platform/runtime/conversions.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <limits>
@@ -35,24 +36,24 @@ bool isDigit(QChar sign) {
 }
 
 // The text in the notation of C, or nothing if it is no number.
-std::optional<QByteArray> plainNumber(const QString &written) {
+std::optional<QString> plainNumber(const QString &written) {
     const RegionalSettings &settings = RegionalSettings::current();
     const QString text = written.trimmed();
-    QByteArray plain;
+    QString plain;
     qsizetype i = 0;
     const auto takeSign = [&] {
         if (i < text.size() && (text[i] == QLatin1Char('-') || text[i] == QLatin1Char('+')))
-            plain += text[i++].toLatin1();
+            plain += text[i++];
     };
     bool anyDigit = false;
     bool anyDecimalSign = false;
     takeSign();
     for (; i < text.size(); ++i) {
         if (isDigit(text[i])) {
-            plain += text[i].toLatin1();
+            plain += text[i];
             anyDigit = true;
         } else if (text[i] == settings.decimalSign && !anyDecimalSign) {
-            plain += '.';
+            plain += QLatin1Char('.');
             anyDecimalSign = true;
         } else if (!isGroupSign(text[i], settings.groupSign)) {
             break;
@@ -60,12 +61,12 @@ std::optional<QByteArray> plainNumber(const QString &written) {
     }
     if (!anyDigit) return std::nullopt;
     if (i < text.size() && QStringLiteral("EeDd").contains(text[i])) {
-        plain += 'e';
+        plain += QLatin1Char('e');
         ++i;
         takeSign();
         const qsizetype exponent = i;
         for (; i < text.size() && isDigit(text[i]); ++i)
-            plain += text[i].toLatin1();
+            plain += text[i];
         if (i == exponent) return std::nullopt;
     }
     if (i < text.size()) return std::nullopt;
@@ -73,12 +74,10 @@ std::optional<QByteArray> plainNumber(const QString &written) {
 }
 
 double numberOfText(const QString &text) {
-    const std::optional<QByteArray> plain = plainNumber(text);
+    const std::optional<QString> plain = plainNumber(text);
     if (!plain) throw RuntimeError(13);
-    bool inRange = false;
-    const double number = plain->toDouble(&inRange);
-    // Too small is zero, too large is an error.
-    if (!inRange && !plain->contains("e-")) throw RuntimeError(6);
+    const double number = plain->toDouble(); // zero where it is too small
+    if (std::isinf(number)) throw RuntimeError(6);
     return number;
 }
 

@@ -17,14 +17,14 @@ QChar firstOf(const QString &text) {
     return text.isEmpty() ? QChar() : text.front();
 }
 
-// A revision date of '68 or 2068? A document of this kind needs the century, whatever the locale prefers.
+// A date of '68 or of 2068? Its reader needs the century, whatever the locale prefers.
 QString withCentury(QString format) {
     if (!format.contains(QLatin1String("yyyy"))) format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
     return format;
 }
 
 QString withoutZone(QString format) {
-    static const QRegularExpression zone(QStringLiteral("\\s*[(\\[]?t+[)\\]]?\\s*$"));
+    static const QRegularExpression zone(QStringLiteral("^t+\\s+|\\s*[(\\[]?t+[)\\]]?\\s*$"));
     return format.remove(zone);
 }
 

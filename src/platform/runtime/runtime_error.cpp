@@ -8,6 +8,10 @@ RuntimeError::RuntimeError(int number, QString description, QString source)
     , m_source(std::move(source))
     , m_what(m_description.toUtf8()) {}
 
+RuntimeError RuntimeError::ofFile(int number, const QString &path) {
+    return RuntimeError(number, standardDescription(number) + QStringLiteral(": '%1'").arg(path));
+}
+
 QString RuntimeError::standardDescription(int number) {
     static const QHash<int, const char *> descriptions = {
         {3, "Return without GoSub"},

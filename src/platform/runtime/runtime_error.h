@@ -12,6 +12,9 @@ class RuntimeError : public std::exception {
 public:
     explicit RuntimeError(int number, QString description = {}, QString source = {});
 
+    /// "File not found: 'a.txt'", for 53.
+    static RuntimeError ofFile(int number, const QString &path);
+
     int number() const { return m_number; }
     const QString &description() const { return m_description; }
     /// The program's name directly followed by the routine's, or empty.

@@ -1,14 +1,12 @@
 #include "platform/runtime/text_file.h"
 
-#include <cerrno>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 #include "platform/runtime/runtime_error.h"
+#include "platform/runtime/whole_file.h"
 
 namespace {
 
@@ -29,22 +27,17 @@ QString decode(const QByteArray &bytes) {
     return text;
 }
 
-[[noreturn]] void raise(int number, const QString &path) {
-    throw RuntimeError(number,
-                       RuntimeError::standardDescription(number) + QStringLiteral(": '%1'").arg(path));
-}
-
 } // namespace
 
 QStringList TextFile::readLines(const QString &path) {
     const QFileInfo info(path);
-    if (!info.exists()) raise(info.dir().exists() ? 53 : 76, path);
-    if (info.isDir()) raise(75, path);
-    if (!info.isReadable()) raise(70, path);
+    if (!info.exists()) throw RuntimeError::ofFile(info.dir().exists() ? 53 : 76, path);
+    if (info.isDir()) throw RuntimeError::ofFile(75, path);
+    if (!info.isReadable()) throw RuntimeError::ofFile(70, path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) raise(75, path);
+    if (!file.open(QIODevice::ReadOnly)) throw RuntimeError::ofFile(75, path);
     const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) raise(57, path);
+    if (file.error() != QFileDevice::NoError) throw RuntimeError::ofFile(57, path);
 
     QString text = decode(bytes);
     text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
@@ -56,19 +49,8 @@ QStringList TextFile::readLines(const QString &path) {
 }
 
 void TextFile::writeLines(const QString &path, const QStringList &lines) {
-    const QFileInfo info(path);
-    if (!info.dir().exists()) raise(76, path);
-    if (info.isDir()) raise(75, path);
-    if (info.exists() && !info.isWritable()) raise(70, path);
-
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly)) raise(QFileInfo(info.path()).isWritable() ? 75 : 70, path);
     QByteArray bytes;
     for (const QString &line : lines)
         bytes += line.toUtf8() + "\r\n";
-    errno = 0;
-    const bool written = file.write(bytes) == bytes.size() && file.flush();
-    const bool full = errno == ENOSPC || errno == EDQUOT;
-    if (!written || !file.commit()) raise(full ? 61 : 57, path);
+    writeWholeFile(path, bytes, FallBack::InPlace);
 }

@@ -11,10 +11,8 @@ namespace TextFile {
 /// 57 (the device failed).
 QStringList readLines(const QString &path);
 
-/// Writes each line in UTF-8 with CR LF behind it. The file is replaced as a whole: after a failure it holds
-/// what it held before, except in a folder where no second file may be made, which is written in place.
-/// Raises 76 (no such folder), 70 (no right to write), 75 (a folder, or no way to open it), 61 (disk full),
-/// 57 (the device failed).
+/// Writes each line in UTF-8 with CR LF behind it, by writeWholeFile(), in place if need be. Raises what that
+/// raises.
 void writeLines(const QString &path, const QStringList &lines);
 
 } // namespace TextFile

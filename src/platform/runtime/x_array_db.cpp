@@ -1,5 +1,7 @@
 #include "platform/runtime/x_array_db.h"
 
+#include <algorithm>
+
 #include "platform/runtime/runtime_error.h"
 
 namespace {

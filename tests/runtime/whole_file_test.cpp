@@ -1,0 +1,92 @@
+// Writing a file as a whole, and what is left where that fails.
+#include <csignal>
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QStorageInfo>
+#include <QTemporaryDir>
+
+#include <sys/resource.h>
+
+#include "platform/runtime/whole_file.h"
+#include "tests/support/error_of.h"
+
+namespace {
+
+QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// While it lives, no file can grow beyond so many bytes.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t size)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{size, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    SmallDisk(const SmallDisk &) = delete;
+    SmallDisk &operator=(const SmallDisk &) = delete;
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before{};
+};
+
+class WholeFile : public ::testing::TestWithParam<std::pair<const char *, int>> {};
+
+TEST_P(WholeFile, RaisesItsNumberAndLeavesNothing) {
+    QTemporaryDir folder;
+    QDir(folder.path()).mkdir("folder");
+    const QString name = QString::fromLatin1(GetParam().first);
+    const bool isSystemFolder = name.startsWith('/');
+    if (isSystemFolder && QStorageInfo(QFileInfo(name).path()).rootPath() != QFileInfo(name).path())
+        GTEST_SKIP() << "no such system folder is mounted here";
+    const QString path = isSystemFolder ? name : folder.filePath(name);
+    const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    EXPECT_EQ(errorOf([&] { writeWholeFile(path, "content"); }), GetParam().second);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Paths, WholeFile,
+                         ::testing::Values(std::pair{"missing/a.pdf", 76}, std::pair{"A/B.pdf", 76},
+                                           std::pair{"folder", 75}, std::pair{"/sys/a.pdf", 70}));
+
+TEST(WholeFileOnAFullDisk, KeepsWhatWasThere) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("a.txt");
+    writeWholeFile(path, "before");
+    int number = 0;
+    {
+        const SmallDisk disk(1000);
+        number = errorOf([&] { writeWholeFile(path, QByteArray(100000, 'x')); });
+    }
+    EXPECT_EQ(number, 61);
+    EXPECT_EQ(contentOf(path), "before");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+}
+
+TEST(WholeFileInASealedFolder, IsWrittenInPlaceWhereThatIsAllowed) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("a.txt");
+    writeWholeFile(path, "before");
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
+    const bool sealed = !QFileInfo(folder.path()).isWritable();
+    const int number = sealed ? errorOf([&] { writeWholeFile(path, "other"); }) : 70;
+    const int inPlace = errorOf([&] { writeWholeFile(path, "after", FallBack::InPlace); });
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (!sealed) GTEST_SKIP() << "the super-user may write everywhere";
+    EXPECT_EQ(number, 70);
+    EXPECT_EQ(inPlace, 0);
+    EXPECT_EQ(contentOf(path), "after");
+}
+
+} // namespace
