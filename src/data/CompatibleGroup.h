@@ -1,4 +1,4 @@
-// A group of materials that share data.
+// A group of materials that share data. The database has such groups; no window shows them yet.
 #pragma once
 
 #include <QString>

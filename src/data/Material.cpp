@@ -1,5 +1,6 @@
 #include "data/Material.h"
 
+#include "data/cell_values.h"
 #include "data/table_vocabulary.h"
 #include "platform/dao/recordset.h"
 #include "platform/runtime/conversions.h"
@@ -7,21 +8,10 @@
 
 namespace {
 
+constexpr int LastTable = TableVocabulary::TableCount - 1;
 constexpr QLatin1String ChemComp("ChemComp");
 constexpr QLatin1String MechProp("MechProp");
 constexpr QLatin1String CreepProp("CreepProp");
-
-bool isUnbound(const QString &key) {
-    return key == ChemComp || key == MechProp || key == CreepProp;
-}
-
-bool isElevated(const QString &key) {
-    return key == QLatin1String("Rp02") || key == QLatin1String("Rp10") || key == QLatin1String("Rm");
-}
-
-QString textOrEmpty(const QVariant &value) {
-    return IsNull(value) ? QString() : CStr(value);
-}
 
 QDateTime dateOf(const QVariant &value) {
     if (IsNull(value)) throw RuntimeError(94);
@@ -45,7 +35,7 @@ void Material::SetProperties(const Recordset &materials, const Recordset &standa
     m_id = CInt(materials.Fields(QStringLiteral("matID")));
     m_name = CStr(materials.Fields(QStringLiteral("name")));
     m_number = CStr(materials.Fields(QStringLiteral("numbr")));
-    m_description = textOrEmpty(materials.Fields(QStringLiteral("description")));
+    m_description = cellText(materials.Fields(QStringLiteral("description")));
     const QVariant group = materials.Fields(QStringLiteral("groups"));
     if (!IsNull(group)) m_group = CStr(group);
     m_revisionDate = dateOf(materials.Fields(QStringLiteral("revision_date")));
@@ -54,7 +44,7 @@ void Material::SetProperties(const Recordset &materials, const Recordset &standa
     m_standardID = CInt(standard.Fields(QStringLiteral("stID")));
     m_standardRevisionDate = dateOf(standard.Fields(QStringLiteral("revision_date")));
     m_othersElement = CBool(standard.Fields(QStringLiteral("otherElem")));
-    m_standardDescription = textOrEmpty(standard.Fields(QStringLiteral("description")));
+    m_standardDescription = cellText(standard.Fields(QStringLiteral("description")));
 }
 
 void Material::setProductForms(const QStringList &names) {
@@ -93,23 +83,23 @@ bool Material::TableChecked(const QString &key) const {
 }
 
 bool Material::PrintTable(int index) const {
-    return m_printTable[checked(index, 0, 13)];
+    return m_printTable[checked(index, 0, LastTable)];
 }
 
 void Material::setPrintTable(int index, bool value) {
-    m_printTable[checked(index, 0, 13)] = value;
+    m_printTable[checked(index, 0, LastTable)] = value;
 }
 
 const QString &Material::TableNotes(int index) const {
-    return m_tableNotes[checked(index, 1, 13)];
+    return m_tableNotes[checked(index, 1, LastTable)];
 }
 
 void Material::setTableNotes(int index, const QString &text) {
-    m_tableNotes[checked(index, 1, 13)] = text;
+    m_tableNotes[checked(index, 1, LastTable)] = text;
 }
 
 void Material::AddColCaption(const QString &key, const QString &caption) {
-    if (!isUnbound(key)) return;
+    if (!TableVocabulary::isUnbound(key)) return;
     QStringList &captions = m_unbound[key].captions;
     // Column 0 of the composition is the row label: heading i of the store belongs to grid column i.
     if (captions.isEmpty() && key == ChemComp) captions << QString();
@@ -117,7 +107,7 @@ void Material::AddColCaption(const QString &key, const QString &caption) {
 }
 
 QString Material::ColCaption(const QString &key, int position) const {
-    if (!isUnbound(key)) return {};
+    if (!TableVocabulary::isUnbound(key)) return {};
     const auto table = m_unbound.find(key);
     const QStringList captions = table != m_unbound.end() ? table->second.captions : QStringList();
     if (position < 0 || position >= captions.size()) throw RuntimeError(9);
@@ -125,12 +115,12 @@ QString Material::ColCaption(const QString &key, int position) const {
 }
 
 void Material::SetUnboundArrayData(const QString &key, const XArrayDB &cells) {
-    if (!isUnbound(key)) return;
+    if (!TableVocabulary::isUnbound(key)) return;
     XArrayDB copy;
     copy.ReDim(cells.LowerBound(1), cells.UpperBound(1), cells.LowerBound(2), cells.UpperBound(2));
     for (int row = cells.LowerBound(1); row <= cells.UpperBound(1); ++row)
         for (int column = cells.LowerBound(2); column <= cells.UpperBound(2); ++column)
-            copy.Set(row, column, textOrEmpty(cells.Get(row, column)));
+            copy.Set(row, column, cellText(cells.Get(row, column)));
     m_unbound[key].cells = copy;
 }
 
@@ -145,7 +135,7 @@ bool Material::ElevatedMultiCol(const QString &key) const {
 }
 
 void Material::setElevatedMultiCol(const QString &key, bool value) {
-    if (isElevated(key)) m_elevated[key].multiCol = value;
+    if (TableVocabulary::isElevated(key)) m_elevated[key].multiCol = value;
 }
 
 QVector<qint16> Material::ElevatedColumns(const QString &key) const {
@@ -154,5 +144,5 @@ QVector<qint16> Material::ElevatedColumns(const QString &key) const {
 }
 
 void Material::setElevatedColumns(const QString &key, const QVector<qint16> &limits) {
-    if (isElevated(key)) m_elevated[key].columns = limits;
+    if (TableVocabulary::isElevated(key)) m_elevated[key].columns = limits;
 }

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include "data/table_vocabulary.h"
 #include "platform/runtime/x_array_db.h"
 
 class Form;
@@ -128,11 +129,11 @@ private:
     QVector<float> m_creepWidths;
     qint16 m_impEnergyCols = 0;
     Form *m_myForm = nullptr;
-    std::array<bool, 14> m_tableHasData{};
-    std::array<bool, 14> m_tableChecked{};
-    std::array<bool, 14> m_printTable{};
+    std::array<bool, TableVocabulary::TableCount> m_tableHasData{};
+    std::array<bool, TableVocabulary::TableCount> m_tableChecked{};
+    std::array<bool, TableVocabulary::TableCount> m_printTable{};
     QString m_addInfo;
-    std::array<QString, 13> m_tableNotes;
+    std::array<QString, TableVocabulary::TableCount - 1> m_tableNotes;
     std::map<QString, UnboundTable> m_unbound;
     std::map<QString, ElevatedTable> m_elevated;
     QStringList m_unboundTables;

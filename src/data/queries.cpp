@@ -82,6 +82,11 @@ QString Queries::sqlColumnDefinitions(const QString &table, const QString &key, 
            QStringLiteral(" = ") + decimal(id) + QStringLiteral(" order by ordering");
 }
 
+QString Queries::cellTable(const QString &key) {
+    return key == QLatin1String("CreepProp") ? QStringLiteral("CreepProperties")
+                                             : QStringLiteral("MechPropData");
+}
+
 QString Queries::sqlCellRows(const QString &table, int matID) {
     return QStringLiteral("select * from ") + table + QStringLiteral(" where matID = ") + decimal(matID) +
            QStringLiteral(" order by rowNo, ordering");

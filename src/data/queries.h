@@ -22,6 +22,7 @@ QString sqlNoMaterialCleared();
 QString sqlInitialSelection();
 /// `ids` must not be empty.
 QString sqlSelectedMaterials(const QVector<int> &ids);
+/// Of a table that nothing reads yet.
 QString sqlCompatibleGroups();
 
 // Material window; `table` is a table's name, which for a property table is its key
@@ -32,6 +33,8 @@ QString sqlChemicalRows(const QString &standard, const QString &name, const QStr
 QString sqlOtherElements(int matID, int stID);
 /// `key` is "matID" with the table MechMatTable, "stID" with CreepPropTable.
 QString sqlColumnDefinitions(const QString &table, const QString &key, int id);
+/// Where the cells of "MechProp" and "CreepProp" stand.
+QString cellTable(const QString &key);
 QString sqlCellRows(const QString &table, int matID);
 /// The cells of column `x`, then those of column `y` unless it is the same.
 QString sqlGraphColumnRows(const QString &table, int matID, int x, int y);

@@ -57,3 +57,12 @@ QString TableVocabulary::GetCaption(const QString &key) {
     const Table *table = tableOf(key);
     return table ? QString::fromUtf16(table->caption) : QString();
 }
+
+bool TableVocabulary::isUnbound(const QString &key) {
+    return key == QLatin1String("ChemComp") || key == QLatin1String("MechProp") ||
+           key == QLatin1String("CreepProp");
+}
+
+bool TableVocabulary::isElevated(const QString &key) {
+    return key == QLatin1String("Rp02") || key == QLatin1String("Rp10") || key == QLatin1String("Rm");
+}

@@ -19,4 +19,9 @@ int GetTableIndex(const QString &key);
 /// and for an unknown key.
 QString GetCaption(const QString &key);
 
+/// Its columns are rows of the database: composition, room temperature, creep.
+bool isUnbound(const QString &key);
+/// One of the three minimum values at elevated temperature, which may have thickness bands.
+bool isElevated(const QString &key);
+
 } // namespace TableVocabulary

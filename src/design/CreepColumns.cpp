@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "material/cell_values.h"
+#include "data/cell_values.h"
 
 namespace {
 

@@ -67,8 +67,7 @@ void PropertyChart::BuildColumnChart(const Material &material, const QString &ke
 
     const qint16 x = m_columns.iChartColX;
     const qint16 y = m_columns.iChartColY;
-    m_dtaTable.setRecordSource(Queries::sqlGraphColumnRows(
-        key == QLatin1String("CreepProp") ? "CreepProperties" : "MechPropData", material.ID(), x, y));
+    m_dtaTable.setRecordSource(Queries::sqlGraphColumnRows(Queries::cellTable(key), material.ID(), x, y));
     m_dtaTable.Refresh();
     m_columns.aChartXY =
         ChartTables::columnPair(*m_dtaTable.recordset()->Clone(), m_columns.aChartXY.UpperBound(1), x == y,

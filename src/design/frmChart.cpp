@@ -9,7 +9,6 @@
 #include "platform/forms/colours.h"
 #include "platform/forms/ms_chart.h"
 #include "platform/runtime/runtime_error.h"
-#include "platform/runtime/twips.h"
 #include "reports/report_commands.h"
 #include "reports/report_export.h"
 #include "shell/mdiVelmar.h"

@@ -1,9 +1,9 @@
 #include "material/AdditionalInfo.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/queries.h"
-#include "material/cell_values.h"
 #include "material/material_texts.h"
 #include "material/MaterialSources.h"
 #include "material/NotesPanel.h"

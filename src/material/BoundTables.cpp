@@ -1,10 +1,10 @@
 #include "material/BoundTables.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/queries.h"
 #include "data/table_vocabulary.h"
 #include "design/PropertyChart.h"
-#include "material/cell_values.h"
 #include "material/grid_columns.h"
 #include "material/material_layout.h"
 #include "material/MaterialControls.h"
@@ -57,7 +57,7 @@ void BoundTables::ResetColumns() {
 }
 
 void BoundTables::LoadBoundTable(Material &material, const QString &key) {
-    const bool elevated = isElevatedKey(key);
+    const bool elevated = TableVocabulary::isElevated(key);
     MaterialSources::Run(m_dtaTable, elevated ? Queries::sqlElevatedRows(key, material.ID())
                                               : Queries::sqlTemperatureRows(key, material.ID()));
     const bool hasData = m_dtaTable.recordset()->RecordCount() > 0;

@@ -1,9 +1,9 @@
 #include "material/CompositionTable.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/queries.h"
 #include "data/table_vocabulary.h"
-#include "material/cell_values.h"
 #include "material/composition.h"
 #include "material/MaterialSources.h"
 #include "material/NotesPanel.h"

@@ -54,6 +54,5 @@ void GraphSwitch::ShowUnboundGraph(bool graph) {
 }
 
 void GraphSwitch::ResetBlank() {
-    const QRect options = placeOf(m_controls.framOptions);
-    place(m_controls.framBlank, options.left(), options.top(), options.width(), options.height());
+    place(m_controls.framBlank, placeOf(m_controls.framOptions));
 }

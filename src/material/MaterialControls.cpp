@@ -17,10 +17,6 @@ constexpr int SymbolSize = 450;
 constexpr int BoundColumns = 4;
 constexpr int FlashInterval = 500; // milliseconds
 
-void placeIn(QWidget *widget, const QRect &twips) {
-    place(widget, twips.left(), twips.top(), twips.width(), twips.height());
-}
-
 QFrame *panel(QWidget *window, const QString &name, const QString &accessibleName) {
     auto *frame = named(new QFrame(window), name, accessibleName);
     frame->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
@@ -86,11 +82,11 @@ void MaterialControls::makePanels(QWidget *window) {
 void MaterialControls::addMainData(QWidget *frame, int index, const QString &text, const QRect &labelPlace,
                                    const QRect &boxPlace) {
     QLabel *caption = lblMainData.add(index, new QLabel(text, frame), text);
-    placeIn(caption, labelPlace);
+    place(caption, labelPlace);
     auto *box = txtMainData.add(index, readOnlyText(frame), text);
     box->document()->setDocumentMargin(2);
     if (boxPlace.height() == BoxHeight) box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    placeIn(box, boxPlace);
+    place(box, boxPlace);
     caption->setBuddy(box);
 }
 

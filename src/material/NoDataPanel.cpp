@@ -1,18 +1,12 @@
 #include "material/NoDataPanel.h"
 
 #include "data/modVelmar.h"
+#include "data/table_vocabulary.h"
 #include "material/GraphSwitch.h"
 #include "material/material_layout.h"
 #include "material/MaterialControls.h"
 
 using namespace MaterialLayout;
-
-namespace {
-bool isUnboundKey(const QString &key) {
-    return key == QLatin1String("ChemComp") || key == QLatin1String("MechProp") ||
-           key == QLatin1String("CreepProp");
-}
-} // namespace
 
 NoDataPanel::NoDataPanel(MaterialControls &controls, GraphSwitch &graphs)
     : m_controls(controls)
@@ -20,7 +14,7 @@ NoDataPanel::NoDataPanel(MaterialControls &controls, GraphSwitch &graphs)
 
 void NoDataPanel::ShowNoData(const Material &material, const QString &key) {
     TDBGrid *grid = m_controls.tdbTable;
-    if (isUnboundKey(key)) {
+    if (TableVocabulary::isUnbound(key)) {
         m_controls.cmdUnBoundGraph->hide();
     } else {
         grid = m_controls.tdbBoundTable;
@@ -29,7 +23,7 @@ void NoDataPanel::ShowNoData(const Material &material, const QString &key) {
         m_graphs.HideShowButtons();
     }
     const QRect where = placeOf(grid);
-    place(m_controls.framNoData, where.left(), where.top(), where.width(), where.height());
+    place(m_controls.framNoData, where);
     grid->hide();
     m_controls.framNoData->show();
     place(m_controls.txtNoData, NoDataMargin, NoDataMargin, where.width() - 2 * NoDataMargin,

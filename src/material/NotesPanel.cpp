@@ -1,9 +1,9 @@
 #include "material/NotesPanel.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/queries.h"
 #include "data/table_vocabulary.h"
-#include "material/cell_values.h"
 #include "material/material_layout.h"
 #include "material/material_texts.h"
 #include "material/MaterialControls.h"
@@ -18,10 +18,6 @@ namespace {
 constexpr int Closed = 0;
 constexpr int Open = 1;
 constexpr int Attention = 2;
-
-void placeIn(QWidget *widget, const QRect &twips) {
-    place(widget, twips.left(), twips.top(), twips.width(), twips.height());
-}
 
 void setHeight(QWidget *widget, int twips) {
     resizeTo(widget, placeOf(widget).width(), twips);
@@ -47,15 +43,15 @@ void NotesPanel::Reset() {
     m_controls.lblNotes->setText("Notes...");
     m_controls.framNotes->hide();
     setText({});
-    placeIn(m_controls.txtNotes, mNotesPlace.text);
-    placeIn(m_controls.framNotes, mNotesPlace.frame);
+    place(m_controls.txtNotes, mNotesPlace.text);
+    place(m_controls.framNotes, mNotesPlace.frame);
 }
 
 void NotesPanel::ShowAsPage() {
     const QRect page = placeOf(m_controls.lblFullForm);
     const QRect frame(page.left() + InfoMargin, page.top() + InfoMargin, page.width() - 2 * InfoMargin,
                       page.height() - 2 * InfoMargin);
-    placeIn(m_controls.framNotes, frame);
+    place(m_controls.framNotes, frame);
     setHeight(m_controls.txtNotes, frame.height() - InfoTextMargin);
     m_controls.txtNotes->setFocusPolicy(Qt::StrongFocus);
     moveTo(m_controls.lblNotes, InfoLabelLeft, placeOf(m_controls.lblNotes).top());

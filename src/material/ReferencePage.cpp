@@ -1,8 +1,8 @@
 #include "material/ReferencePage.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/queries.h"
-#include "material/cell_values.h"
 #include "material/material_texts.h"
 #include "material/MaterialControls.h"
 #include "material/MaterialSources.h"

@@ -2,12 +2,12 @@
 
 #include <QSignalBlocker>
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/queries.h"
 #include "data/table_vocabulary.h"
 #include "design/PropertyChart.h"
-#include "material/cell_values.h"
 #include "material/material_layout.h"
 #include "material/MaterialControls.h"
 #include "material/MaterialSources.h"
@@ -115,9 +115,7 @@ void UnboundTables::LoadUnboundRows(Material &material, const QString &key, int 
 }
 
 int UnboundTables::loadCells(Material &material, const QString &key, int count) {
-    MaterialSources::Run(
-        *m_sources.dtaTable,
-        Queries::sqlCellRows(key == CreepKey ? "CreepProperties" : "MechPropData", material.ID()));
+    MaterialSources::Run(*m_sources.dtaTable, Queries::sqlCellRows(Queries::cellTable(key), material.ID()));
     const auto cells = m_sources.dtaTable->recordset()->Clone();
     int rows = 0;
     if (cells->Eof()) {

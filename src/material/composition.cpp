@@ -1,6 +1,6 @@
 #include "material/composition.h"
 
-#include "material/cell_values.h"
+#include "data/cell_values.h"
 #include "platform/dao/recordset.h"
 
 namespace {

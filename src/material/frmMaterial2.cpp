@@ -1,13 +1,12 @@
 #include "material/frmMaterial2.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/table_vocabulary.h"
 #include "design/frmChart.h"
-#include "material/cell_values.h"
 #include "material/material_layout.h"
 #include "material/menu_place.h"
-#include "material/temperature_columns.h"
 #include "platform/dao/database.h"
 #include "platform/forms/default_instance.h"
 #include "platform/runtime/runtime_error.h"
@@ -24,7 +23,9 @@ namespace {
 /// The number of a page's symbol in the main window's image list.
 int symbolOf(const QString &key) {
     if (key == QLatin1String("ChemComp")) return 7;
-    if (key == QLatin1String("MechProp") || key == QLatin1String("CreepProp") || isElevatedKey(key)) return 8;
+    if (key == QLatin1String("MechProp") || key == QLatin1String("CreepProp") ||
+        TableVocabulary::isElevated(key))
+        return 8;
     if (key == QLatin1String("ImpEnergy")) return 9;
     return key == QLatin1String("AddInfo") ? 11 : 10;
 }
@@ -238,13 +239,13 @@ void frmMaterial2::showDesign(Material &material) {
 
 void frmMaterial2::showBoundTable(Material &material, const QString &key) {
     framOptions->show();
-    lblElevated->setVisible(isElevatedKey(key));
-    framMechOpt->setVisible(isElevatedKey(key));
+    lblElevated->setVisible(TableVocabulary::isElevated(key));
+    framMechOpt->setVisible(TableVocabulary::isElevated(key));
     m_graphs.ShowBoundPage(hasGraph(key));
     lblFullForm->show();
     m_notes.LoadNotes(material, key);
     m_boundTables.LoadBoundTable(material, key);
-    if (isElevatedKey(key)) focusMechOption();
+    if (TableVocabulary::isElevated(key)) focusMechOption();
 }
 
 void frmMaterial2::focusMechOption() {

@@ -1,6 +1,6 @@
 #include "material/material_texts.h"
 
-#include "material/cell_values.h"
+#include "data/cell_values.h"
 #include "platform/dao/recordset.h"
 
 QString textWithNotes(const QString &present, const QStringList &notes) {

@@ -1,7 +1,7 @@
 #include "material/temperature_columns.h"
 
+#include "data/cell_values.h"
 #include "data/table_vocabulary.h"
-#include "material/cell_values.h"
 #include "platform/dao/recordset.h"
 
 namespace {
@@ -26,10 +26,6 @@ QVector<TemperatureColumn> temperatureColumns(const QString &key) {
         return {{"SpecThermCap", lines("Cp20, t", "[J/kgK]")},
                 {"SpecThermCapDiff", lines("Cp diff, t", "[J/kgK]")}};
     return {{key, TableVocabulary::GetCaption(key)}};
-}
-
-bool isElevatedKey(const QString &key) {
-    return key == QLatin1String("Rp02") || key == QLatin1String("Rp10") || key == QLatin1String("Rm");
 }
 
 QVector<qint16> bandLimits(Recordset &rows) {

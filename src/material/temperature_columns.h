@@ -15,8 +15,6 @@ struct TemperatureColumn {
 /// One to three columns. A table with thickness bands has others: see bandHeading.
 QVector<TemperatureColumn> temperatureColumns(const QString &key);
 
-bool isElevatedKey(const QString &key);
-
 /// The distinct values of `thickness` in the order of the rows, each compared with the one before it only.
 /// The first band is element 1; element 0 is not used.
 QVector<qint16> bandLimits(Recordset &rows);

@@ -1,6 +1,6 @@
 #include "material/unbound_columns.h"
 
-#include "material/cell_values.h"
+#include "data/cell_values.h"
 #include "platform/dao/recordset.h"
 #include "platform/runtime/runtime_error.h"
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+
 class QWidget;
 
 namespace modDocument {
@@ -10,9 +11,8 @@ namespace modDocument {
 bool FileExists(const QString &path);
 
 /// Opens the file by its association. Returns the error's text, which a message box has shown, or an empty
-/// text. Where no application is associated the desktop's choice of applications is asked for, and the text
-/// is empty.
-/// `window` is the one above which that choice shows.
+/// text. Where no application is associated the desktop's choice of applications shows above `window`, and
+/// the text is empty.
 QString OpenDocument(QWidget *window, const QString &fileName);
 
 } // namespace modDocument

@@ -1,5 +1,6 @@
 #include "reports/actRepBound.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/modVelmar.h"
@@ -178,7 +179,7 @@ void actRepBound::fillNotes() {
     const QString tableNotes = m_material->TableNotes(mdiVelmar::instance().GetTableIndex(m_key));
     if (!tableNotes.isEmpty()) notes += (notes.isEmpty() ? QString() : EmptyLine) + tableNotes;
     Sections("gfNotes").Controls.Item<Field>("txtNotes").Text = notes;
-    if (notes.isEmpty() || notes == QLatin1String("-")) Sections("gfNotes").Visible = false;
+    if (isNoValue(notes)) Sections("gfNotes").Visible = false;
 }
 
 void actRepBound::fillTitle() {

@@ -1,5 +1,6 @@
 #include "reports/actRepUnBound.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "design/CreepColumns.h"
 #include "platform/runtime/runtime_error.h"
@@ -119,7 +120,7 @@ void actRepUnBound::prepareComposition() {
     Section &title = section("ghTitle");
     title.Controls.Item("lblTitle").Visible = false;
     const QString others = mMaterial->OthersText();
-    if (mMaterial->OthersElement() && !others.isEmpty() && others != QLatin1String("-")) {
+    if (mMaterial->OthersElement() && !isNoValue(others)) {
         section("gfOther").Visible = true;
         section("gfOther").Controls.Item<Field>("txtOther").Text = others;
     }
@@ -324,7 +325,7 @@ void actRepUnBound::bindFields() {
 void actRepUnBound::fillNotes() {
     const QString notes = mMaterial->TableNotes(mdiVelmar::instance().GetTableIndex(strKey));
     section("gfNotes").Controls.Item<Field>("txtNotes").Text = notes;
-    if (notes.isEmpty() || notes == QLatin1String("-")) section("gfNotes").Visible = false;
+    if (isNoValue(notes)) section("gfNotes").Visible = false;
 }
 
 /// The values of a block stay in their fields until it is printed, after the last row.

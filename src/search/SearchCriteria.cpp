@@ -15,8 +15,6 @@ const QString CodeWord = QStringLiteral("ZORBALTIKREMO");
 /// What fitting the window to a small screen gives the second of its two buttons.
 constexpr int FittedBatchHeight = 375;
 
-const QString DefaultOrder = QStringLiteral("standard,name");
-
 /// What a standards system leaves of boxes and columns.
 struct KindLayout {
     const char *kind;
@@ -88,7 +86,7 @@ void SearchCriteria::chooseStandard() {
         setBackColor(box, box->isEnabled() ? vbInfoBackground : vbButtonFace);
         box->clear();
     }
-    SearchMaterials(DefaultOrder);
+    SearchMaterials(SearchStatements::DefaultOrder);
 }
 
 void SearchCriteria::applyKind() {
@@ -113,7 +111,7 @@ void SearchCriteria::boxChanged() {
     const bool filled = anyBoxFilled();
     if (filled == m_search.chkListAll->isChecked()) m_search.chkListAll->setChecked(!filled);
     m_search.tdbMaterials->HoldFields();
-    SearchMaterials(DefaultOrder);
+    SearchMaterials(SearchStatements::DefaultOrder);
 }
 
 void SearchCriteria::clearBoxes() {

@@ -190,9 +190,7 @@ void SelectedList::openWindows() {
 
 void SelectedList::showMaterialCommands() {
     mdiVelmar &main = mdiVelmar::instance();
-    main.menu.mnuFileElem(1).setEnabled(true);
-    main.menu.mnuFileElem(3).setEnabled(true);
-    main.menu.mnuFileElem(0).setCaption("Select &Material(s)");
+    main.menu.mnuFileElem(0).setCaption(SelectCaption);
     // a bar that the user has hidden stays hidden
     main.Toolbar1->setVisible(!main.menu.mnuSettingsToolElem(0).Enabled());
     MainToolbar::showMaterialButtons(*main.Toolbar1, true);

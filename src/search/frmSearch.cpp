@@ -24,8 +24,6 @@ constexpr int Height1024 = 10020;
 constexpr int Width800 = 11700;
 constexpr int Height800 = 7470;
 
-const QString DefaultOrder = QStringLiteral("standard,name");
-
 } // namespace
 
 frmSearch::frmSearch()
@@ -76,7 +74,7 @@ void frmSearch::Form_Load() {
     tdbSelected->HoldFields();
     modToolTips::InitToolTips();
     orderTabs();
-    SearchMaterials(DefaultOrder);
+    SearchMaterials(SearchStatements::DefaultOrder);
     restoreCriteria();
     // this empties the boxes again, so that the window always opens on the whole list: it is meant so
     cmbChooseStd->setCurrentIndex(0);

@@ -1,8 +1,8 @@
 #include "search/frmSelectStand.h"
 
+#include "data/cell_values.h"
 #include "data/queries.h"
 #include "platform/dao/recordset.h"
-#include "platform/runtime/conversions.h"
 
 namespace {
 
@@ -11,10 +11,6 @@ constexpr int Width = 10230;
 constexpr int Height = 6300;
 constexpr int ListWidth = 3330;
 constexpr int ListHeight = 4170;
-
-QString textOf(const QVariant &value) {
-    return IsNull(value) ? QString() : CStr(value);
-}
 
 } // namespace
 
@@ -94,8 +90,8 @@ void frmSelectStand::moved() {
 void frmSelectStand::showBoundFields() {
     const auto rows = dtaSelect->recordset();
     const bool onRow = rows->AbsolutePosition() >= 0;
-    txtDescription->setPlainText(onRow ? textOf(rows->Fields("description")) : QString());
-    txtRevisionDate->setText(onRow ? textOf(rows->Fields("revision_date")) : QString());
+    txtDescription->setPlainText(onRow ? cellText(rows->Fields("description")) : QString());
+    txtRevisionDate->setText(onRow ? cellText(rows->Fields("revision_date")) : QString());
 }
 
 /// A standard without product forms leaves those of the one before: the text is only written where there are

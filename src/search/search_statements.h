@@ -38,6 +38,9 @@ struct MainQuery {
     QString mWhereClause;
 };
 
+/// What the list is ordered by until a heading is clicked.
+inline const QString DefaultOrder = QStringLiteral("standard,name");
+
 /// `orderBy` is what follows " order by ".
 MainQuery mainQuery(const Criteria &criteria, const QString &orderBy);
 

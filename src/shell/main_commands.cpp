@@ -27,9 +27,6 @@
 
 namespace {
 
-const QString ShowCaption = QStringLiteral("Show Selected &Material(s)");
-const QString SelectCaption = QStringLiteral("Select &Material(s)");
-
 /// A table that a View command shows, and the status message that goes with it.
 struct TableCommand {
     const char *key;
@@ -129,7 +126,7 @@ void MainCommands::showSelectedOrSearch() {
 
 void MainCommands::backToSearch() {
     MainMenu &menu = m_window.menu;
-    menu.mnuFileElem(0).setCaption(ShowCaption);
+    menu.mnuFileElem(0).setCaption(ShowSelectedCaption);
     for (FormBase &form : Forms())
         if (form.Name() == QLatin1String("frmMaterial2")) form.Unload();
 

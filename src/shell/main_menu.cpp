@@ -24,7 +24,7 @@ void addSeparator(MenuArray &array, MenuEntry *menu, int index) {
 }
 
 void buildFile(MainMenu &menu) {
-    menu.mnuFileElem.add(menu.mnuFile, 0, "Show Selected &Material(s)", ctrl('M'));
+    menu.mnuFileElem.add(menu.mnuFile, 0, ShowSelectedCaption, ctrl('M'));
     addSeparator(menu.mnuFileElem, menu.mnuFile, 1);
     menu.mnuFileElem.add(menu.mnuFile, 2, "&Save Report For Current Material To File...", ctrl('S'));
     menu.mnuFileElem.add(menu.mnuFile, 3, "&Print (Preview) Report For Current Material...", ctrl('P'));

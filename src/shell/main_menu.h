@@ -5,6 +5,10 @@
 
 class MDIForm;
 
+/// The first File entry with the search before the user, and with material windows: the caption is the mode.
+inline const QString ShowSelectedCaption = QStringLiteral("Show Selected &Material(s)");
+inline const QString SelectCaption = QStringLiteral("Select &Material(s)");
+
 /// Made with the captions, short cuts and states that hold at the program's start.
 struct MainMenu {
     explicit MainMenu(MDIForm &window);

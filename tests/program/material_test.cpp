@@ -6,54 +6,23 @@
 #include "data/CompatibleGroup.h"
 #include "data/Material.h"
 #include "data/modVelmar.h"
-#include "platform/dao/recordset.h"
-#include "platform/dao/recordset_rows.h"
 #include "platform/runtime/runtime_error.h"
 #include "tests/support/error_of.h"
+#include "tests/support/given_rows.h"
 
 namespace {
-
-// One row with the given cells.
-class OneRow : public RecordsetRows {
-public:
-    explicit OneRow(std::vector<std::pair<QString, QVariant>> cells) {
-        for (const auto &[name, value] : cells) {
-            m_fields.append({name, FieldType::Text, 0});
-            m_values.append(value);
-        }
-    }
-    const FieldDefinitions &fields() const override { return m_fields; }
-    int count() const override { return 1; }
-    QVariant value(int, int column) const override { return m_values[column]; }
-    int find(const QString &, int, int) const override { return -1; }
-
-private:
-    FieldDefinitions m_fields;
-    QVector<QVariant> m_values;
-};
-
-Recordset rowOf(std::vector<std::pair<QString, QVariant>> cells) {
-    return Recordset(std::make_shared<OneRow>(std::move(cells)));
-}
 
 const QDateTime GradeDate(QDate(2003, 4, 5), QTime(0, 0));
 const QDateTime StandardDate(QDate(2001, 2, 3), QTime(0, 0));
 
 Recordset gradeRow(const QVariant &name, const QVariant &description, const QVariant &groups) {
-    return rowOf({{"matID", qint16(265)},
-                  {"name", name},
-                  {"numbr", "1.0425"},
-                  {"description", description},
-                  {"groups", groups},
-                  {"revision_date", GradeDate}});
+    return givenRows({"matID", "name", "numbr", "description", "groups", "revision_date"},
+                     {{qint16(265), name, "1.0425", description, groups, GradeDate}});
 }
 
 Recordset standardRow() {
-    return rowOf({{"stID", qint16(3)},
-                  {"standard", "EN 10028-2"},
-                  {"description", QVariant()},
-                  {"revision_date", StandardDate},
-                  {"otherElem", true}});
+    return givenRows({"stID", "standard", "description", "revision_date", "otherElem"},
+                     {{qint16(3), "EN 10028-2", QVariant(), StandardDate, true}});
 }
 
 TEST(MaterialTest, TakesItsPropertiesFromBothRows) {

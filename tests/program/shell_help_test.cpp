@@ -17,6 +17,7 @@
 #include <QTextBrowser>
 #include <QTextEdit>
 #include <QToolButton>
+#include <QWindow>
 
 #include "platform/desktop/help_viewer.h"
 #include "platform/forms/default_instance.h"
@@ -133,6 +134,27 @@ TEST_F(HelpFile, AWordIsFoundInTheTopicsThatHoldIt) {
         return engine().searchEngine()->searchResultCount() > 0;
     }));
     EXPECT_EQ(engine().searchEngine()->searchResults(0, 1).value(0).title(), "Design values");
+}
+
+TEST_F(HelpFile, ItsKeysDoWhatTheKeyboardTopicSays) {
+    HTMLHelp::ShowHelpTopic(1, "Start.htm");
+    HTMLHelp::ShowHelpTopic(1, "Keyboard.htm");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(viewer()));
+    const auto press = [](Qt::Key key, Qt::KeyboardModifiers held = Qt::AltModifier) {
+        QTest::keyClick(viewer()->windowHandle(), key, held);
+    };
+    press(Qt::Key_Left);
+    EXPECT_EQ(topic(), "Start.htm");
+    press(Qt::Key_Right);
+    EXPECT_EQ(topic(), "Keyboard.htm");
+    const std::pair<Qt::Key, const char *> pages[] = {
+        {Qt::Key_I, "Index"}, {Qt::Key_S, "Search"}, {Qt::Key_C, "Contents"}};
+    for (const auto &[letter, name] : pages) {
+        press(letter);
+        EXPECT_EQ(page(), name);
+    }
+    press(Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_FALSE(viewer() != nullptr && viewer()->isVisible());
 }
 
 TEST_F(HelpFile, AMissingFileIsToldWithItsNameAndNothingElseHappens) {

@@ -1,29 +1,13 @@
 // Reports on the screen and in files.
-#include <QAbstractButton>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 
 #include "platform/forms/form.h"
-#include "platform/forms/forms.h"
 #include "platform/forms/msg_box.h"
 #include "tests/tour/tour.h"
 
 namespace {
-
-void press(Tour &tour, FormBase &form, const QString &button) {
-    tour.click(tour.control<QAbstractButton>(form, button));
-}
-
-FormBase &selectGrade(Tour &tour, const QString &grade) {
-    for (FormBase &form : Forms()) {
-        if (form.Name() != QLatin1String("frmMaterial2") || !form.Caption().contains(grade)) continue;
-        form.SetFocus();
-        tour.settle();
-        return form;
-    }
-    return tour.form("frmMaterial2");
-}
 
 /// The pages of a saved file, where the tool for it is installed.
 void pagePictures(const QString &pdf) {
@@ -35,8 +19,8 @@ QString save(Tour &tour, const QString &name, int format) {
     const QString file = tour.folder() + '/' + name;
     tour.boxes().driveForm([&, format](Form &form) {
         if (format == 1) tour.picture("save-selection", form);
-        press(tour, form, QStringLiteral("optFormat(%1)").arg(format));
-        press(tour, form, "cmdSavePrint");
+        tour.click(form, QStringLiteral("optFormat(%1)").arg(format));
+        tour.click(form, "cmdSavePrint");
     });
     tour.boxes().chooseFile(file);
     tour.boxes().answerMsgBox(vbOK);
@@ -46,38 +30,38 @@ QString save(Tour &tour, const QString &name, int format) {
 
 /// More columns than fit across the page.
 void saveDesignValues(Tour &tour) {
-    FormBase &window = selectGrade(tour, "EN 10216-2");
+    FormBase &window = tour.windowOf("EN 10216-2");
     const QString file = tour.folder() + "/design-values.pdf";
     tour.boxes().driveForm([&](Form &form) {
         tour.picture("save-design-values", form);
-        press(tour, form, "cmdSave(0)");
+        tour.click(form, "cmdSave(0)");
     });
     tour.boxes().chooseFile(file);
     tour.boxes().answerMsgBox(vbOK);
-    press(tour, window, "cmdPrintSave(4)");
+    tour.click(window, "cmdPrintSave(4)");
     pagePictures(file);
 }
 
 void saveGraph(Tour &tour) {
-    FormBase &window = selectGrade(tour, "P265GH");
+    FormBase &window = tour.windowOf("P265GH");
     tour.menu("mnuViewMechElem(1)");
-    press(tour, window, "CommandShowGraph");
+    tour.click(window, "CommandShowGraph");
     const QString file = tour.folder() + "/graph.pdf";
     tour.boxes().chooseFile(file);
     tour.boxes().answerMsgBox(vbOK);
-    press(tour, window, "cmdPrintSave(0)");
+    tour.click(window, "cmdPrintSave(0)");
     pagePictures(file);
-    press(tour, window, "CommandShowTable");
+    tour.click(window, "CommandShowTable");
 }
 
 } // namespace
 
 void printAndSave(Tour &tour) {
     tour.menu("mnuWindowElem(0)");
-    selectGrade(tour, "P265GH");
+    tour.windowOf("P265GH");
     tour.boxes().driveForm([&](Form &form) {
         tour.picture("print-selection", form);
-        press(tour, form, "cmdSavePrint");
+        tour.click(form, "cmdSavePrint");
     });
     tour.boxes().driveForm([&](Form &form) {
         tour.picture("preview", form);
@@ -88,7 +72,7 @@ void printAndSave(Tour &tour) {
     pagePictures(save(tour, "P265GH.pdf", 0));
     save(tour, "P265GH.rtf", 1);
     save(tour, "P265GH.txt", 2);
-    selectGrade(tour, "X2CrNiMo17-12-2");
+    tour.windowOf("X2CrNiMo17-12-2");
     pagePictures(save(tour, "X2CrNiMo17-12-2.pdf", 0));
     saveDesignValues(tour);
     saveGraph(tour);

@@ -1,27 +1,12 @@
 // Every table of a rich grade, graphs, and design values.
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
 
 #include "platform/forms/form.h"
-#include "platform/forms/forms.h"
 #include "platform/forms/tdb_grid.h"
 #include "tests/tour/tour.h"
 
 namespace {
-
-FormBase &windowOf(Tour &tour, const QString &grade) {
-    for (FormBase &form : Forms())
-        if (form.Name() == QLatin1String("frmMaterial2") && form.Caption().contains(grade)) {
-            form.SetFocus();
-            return form;
-        }
-    return tour.form("frmMaterial2");
-}
-
-void press(Tour &tour, FormBase &form, const QString &button) {
-    tour.click(tour.control<QAbstractButton>(form, button));
-}
 
 void tables(Tour &tour, FormBase &window) {
     const std::pair<const char *, const char *> pages[] = {{"mnuViewMechElem(0)", "table-room-temperature"},
@@ -45,40 +30,40 @@ void tablesOfStainlessSteel(Tour &tour, FormBase &window) {
     tour.picture("table-of-twelve-columns", *window.asWidget());
     tour.menu("mnuViewMechElem(1)");
     for (int i : {1, 2}) {
-        press(tour, window, QStringLiteral("optMechProp(%1)").arg(i));
+        tour.click(window, QStringLiteral("optMechProp(%1)").arg(i));
         tour.picture(i == 1 ? "table-Rp10" : "table-Rm", *window.asWidget());
     }
 }
 
 void graphs(Tour &tour, FormBase &window) {
     tour.menu("mnuViewMechElem(1)");
-    press(tour, window, "CommandShowGraph");
+    tour.click(window, "CommandShowGraph");
     tour.picture("graph-bands", *window.asWidget());
     tour.boxes().driveForm([&](Form &form) {
         tour.picture("graph-enlarged", form);
         form.Unload();
     });
-    press(tour, window, "cmdPrintSave(2)");
-    press(tour, window, "CommandShowTable");
+    tour.click(window, "cmdPrintSave(2)");
+    tour.click(window, "CommandShowTable");
 
     tour.menu("mnuViewMechElem(3)");
-    press(tour, window, "cmdUnBoundGraph");
+    tour.click(window, "cmdUnBoundGraph");
     tour.picture("graph-creep", *window.asWidget());
-    press(tour, window, "cmdUnBoundTable");
+    tour.click(window, "cmdUnBoundTable");
 }
 
 } // namespace
 
 void showTablesAndGraphs(Tour &tour) {
-    tablesOfStainlessSteel(tour, windowOf(tour, "X2CrNiMo17-12-2"));
-    FormBase &window = windowOf(tour, "P265GH");
+    tablesOfStainlessSteel(tour, tour.windowOf("X2CrNiMo17-12-2"));
+    FormBase &window = tour.windowOf("P265GH");
     tables(tour, window);
     graphs(tour, window);
 }
 
 void designValues(Tour &tour) {
     tour.menu("mnuViewElem(6)");
-    FormBase &window = windowOf(tour, "P265GH");
+    FormBase &window = tour.windowOf("P265GH");
     auto &box = tour.control<QLineEdit>(window, "txtDesignTemp");
     tour.type(box, "425");
     tour.picture("design-values", *window.asWidget());

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -39,6 +40,17 @@ FormBase &Tour::form(const QString &name, int index) const {
     for (FormBase &form : Forms())
         if (form.Name() == name && index-- == 0) return form;
     giveUp("there is no form " + name);
+}
+
+FormBase &Tour::windowOf(const QString &grade) {
+    const QString materialWindow = QStringLiteral("frmMaterial2");
+    for (FormBase &form : Forms()) {
+        if (form.Name() != materialWindow || !form.Caption().contains(grade)) continue;
+        form.SetFocus();
+        settle();
+        return form;
+    }
+    return form(materialWindow);
 }
 
 void Tour::picture(const QString &name) {
@@ -82,6 +94,10 @@ void Tour::click(QWidget &widget) {
     // an option is chosen at its mark: beside its text a click does nothing
     QTest::mouseClick(&widget, Qt::LeftButton, {}, {8, widget.height() / 2});
     settle();
+}
+
+void Tour::click(FormBase &form, const QString &button) {
+    click(control<QAbstractButton>(form, button));
 }
 
 void Tour::menu(const QString &entry) {

@@ -28,6 +28,9 @@ public:
     QWidget &main() const;
     /// The loaded form of that name; `index` counts several from 0.
     FormBase &form(const QString &name, int index = 0) const;
+    /// The window of the first grade whose caption holds the text, brought to the front; the first one of all
+    /// where none does.
+    FormBase &windowOf(const QString &grade);
     template <class W>
     W &control(FormBase &form, const QString &name) const {
         return *static_cast<W *>(find(*form.asWidget(), name, &W::staticMetaObject));
@@ -38,6 +41,8 @@ public:
     void retype(QWidget &box, const QString &text);
     void press(QWidget &widget, Qt::Key key);
     void click(QWidget &widget);
+    /// A button of the form by its name.
+    void click(FormBase &form, const QString &button);
     void menu(const QString &entry);
     void settle();
 

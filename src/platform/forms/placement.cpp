@@ -18,6 +18,10 @@ void place(QWidget *widget, int left, int top, int width, int height) {
     widget->setGeometry(toPixels(left), toPixels(top), toPixels(width), toPixels(height));
 }
 
+void place(QWidget *widget, const QRect &twips) {
+    place(widget, twips.left(), twips.top(), twips.width(), twips.height());
+}
+
 void moveTo(QWidget *widget, int left, int top) {
     widget->move(toPixels(left), toPixels(top));
 }

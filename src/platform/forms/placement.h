@@ -21,6 +21,7 @@ QString elementName(const QString &array, int index);
 
 /// In twips inside the parent.
 void place(QWidget *widget, int left, int top, int width, int height);
+void place(QWidget *widget, const QRect &twips);
 void moveTo(QWidget *widget, int left, int top);
 void resizeTo(QWidget *widget, int width, int height);
 /// Left, top, width and height in twips.

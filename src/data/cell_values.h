@@ -1,4 +1,4 @@
-// How a value from the database becomes a text of the window.
+// How a value from the database becomes a text.
 #pragma once
 
 #include <QString>
@@ -16,7 +16,7 @@ inline QVariant cellValue(const QVariant &value) {
     return IsNull(value) ? QVariant(QString()) : value;
 }
 
-/// A value that a table writes where it has none.
+/// What a table, or a text beside it, holds where there is nothing to say.
 inline bool isNoValue(const QString &text) {
     return text.isEmpty() || text == QLatin1String("-");
 }
