@@ -5,8 +5,7 @@
 #include "platform/runtime/runtime_error.h"
 
 int ImageList::Add(const QString &picture) {
-    if (!QFileInfo::exists(picture))
-        throw RuntimeError::ofFile(53, picture);
+    if (!QFileInfo::exists(picture)) throw RuntimeError::ofFile(53, picture);
     m_pictures.push_back(picture);
     return Count();
 }

@@ -4,8 +4,8 @@
 #include <QCursor>
 #include <QList>
 
-/// While it lives the hourglass is gone, for whoever has opened a modal window in the middle of its work: what
-/// shows there waits for a person. Afterwards the hourglass is back.
+/// While it lives the hourglass is gone, for whoever has opened a modal window in the middle of its work:
+/// what shows there waits for a person. Afterwards the hourglass is back.
 class PointerPause {
 public:
     PointerPause();
