@@ -1,6 +1,7 @@
 #include "platform/desktop/help_viewer.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QHelpContentModel>
 #include <QHelpContentWidget>
@@ -22,7 +23,7 @@
 #include "platform/runtime/app.h"
 
 namespace {
-constexpr int LongestSearch = 2000; // milliseconds; one that fails does not say so
+constexpr int LongestWork = 2000; // milliseconds; a search that fails does not say that it has ended
 }
 
 HelpViewer::HelpViewer(const QString &file)
@@ -42,11 +43,17 @@ HelpViewer::HelpViewer(const QString &file)
 }
 
 HelpViewer::~HelpViewer() {
-    // A search runs in a thread, which the search engine must not take apart before it has got going.
-    while (m_searching && !m_longestSearch.hasExpired())
+    // The engine reads in threads of its own, and cannot be taken apart while one is at work.
+    const QDeadlineTimer deadline(LongestWork);
+    while (isAtWork() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
     delete takeCentralWidget(); // shows the engine's models
     delete m_engine;            // writes into the folder
+}
+
+bool HelpViewer::isAtWork() const {
+    return m_searching || m_engine->contentModel()->isCreatingContents() ||
+           m_engine->indexModel()->isCreatingIndex();
 }
 
 void HelpViewer::build() {
@@ -128,7 +135,6 @@ QWidget *HelpViewer::buildSearchPage() {
     layout->addWidget(search->resultWidget(), 1);
     connect(search->queryWidget(), &QHelpSearchQueryWidget::search, this, [this, search] {
         m_searching = true;
-        m_longestSearch.setRemainingTime(LongestSearch);
         search->search(search->queryWidget()->searchInput());
     });
     connect(search, &QHelpSearchEngine::searchingFinished, this, [this] { m_searching = false; });

@@ -1,7 +1,6 @@
 // The window in which help is read.
 #pragma once
 
-#include <QDeadlineTimer>
 #include <QMainWindow>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -26,6 +25,7 @@ public:
     void open(HelpCommand command, const QString &topic);
 
 private:
+    bool isAtWork() const;
     void build();
     QWidget *buildIndexPage();
     QWidget *buildSearchPage();
@@ -43,5 +43,4 @@ private:
     QTabWidget *m_pages = nullptr;
     HelpBrowser *m_browser = nullptr;
     bool m_searching = false;
-    QDeadlineTimer m_longestSearch;
 };
