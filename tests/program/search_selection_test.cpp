@@ -9,6 +9,7 @@
 #include "tests/program/search_statement_log.h"
 #include "tests/support/gui.h"
 #include "tests/support/program_fixture.h"
+#include "tests/support/raising_through_qt.h"
 #include "tests/support/small_database.h"
 
 namespace {
@@ -86,7 +87,7 @@ TEST_F(SearchSelectionTest, AMaterialOfAnUnknownStandardGetsNoOther) {
                                        "'Unknown', null, null, null)"});
     start(given);
     type(search().txtSearch(1), "Lost");
-    click(search().cmdSelectMat);
+    raisingThroughQt([&] { click(search().cmdSelectMat); });
     const QList<RuntimeError> faults = takeFaults();
     ASSERT_EQ(faults.size(), 1);
     EXPECT_EQ(faults.first().number(), 3021);
