@@ -117,6 +117,7 @@ void frmMaterial2::Form_Load() {
 
 void frmMaterial2::Form_Activate() {
     mdiVelmar::instance().SetCurrentMaterial(m_material);
+    keepFocus();
 }
 
 /// The user cannot resize the window, only maximise or minimise it.
@@ -259,8 +260,10 @@ void frmMaterial2::focusMechOption() {
 /// The control that had the focus may have gone with its page.
 void frmMaterial2::keepFocus() {
     const QWidget *focused = window()->focusWidget();
-    if (mdiVelmar::instance().activeChild() != this || (focused != nullptr && focused->isVisible())) return;
-    if (framDesign->isVisible())
+    // Of a page that goes the focus falls back to the frame around the window.
+    const bool kept = focused != nullptr && focused->isVisible() && isAncestorOf(focused);
+    if (kept || mdiVelmar::instance().activeChild() != this) return;
+    if (framDesign->isVisible() && txtDesignTemp->isEnabled())
         txtDesignTemp->setFocus();
     else
         focusNextChild();

@@ -1,7 +1,7 @@
 // The program by keys alone, sent to whatever window has the focus.
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTest>
 
 #include "data/modDBase.h"
@@ -75,6 +75,23 @@ TEST(KeysOnly, FromTheStartWindowToAComposition) {
     EXPECT_TRUE(search.Visible());
     menuKeys("FX");
     EXPECT_EQ(Forms::Count(), 0);
+}
+
+TEST(KeysOnly, ATemperatureIsTypedWithoutLookingForItsBox) {
+    const TestProgram program;
+    DefaultInstance<frmSearch>().Hide();
+    frmMaterial2 &first = program.open(program.material(1));
+    frmMaterial2 &second = program.open(program.material(2));
+    mdiVelmar::instance().menu.mnuView->setVisible(true);
+    menuKeys("VC");
+    EXPECT_TRUE(second.tdbTable->isAncestorOf(QApplication::focusWidget()));
+    menuKeys("VD");
+    type("30");
+    EXPECT_EQ(second.txtDesignTemp->text(), "30");
+    key(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_TRUE(first.txtDesignTemp->hasFocus());
+    type("0");
+    EXPECT_EQ(second.txtDesignTemp->text(), "300");
 }
 
 TEST(KeysOnly, EveryMenuEntryHasItsLettersAndShortCut) {
