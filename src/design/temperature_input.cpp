@@ -1,5 +1,7 @@
 #include "design/temperature_input.h"
 
+#include "platform/runtime/regional_settings.h"
+
 namespace {
 
 constexpr QChar Backspace(u'\b');
@@ -57,8 +59,11 @@ void TemperatureInput::deleteDown() {
 }
 
 void TemperatureInput::textReplaced() {
-    // A point would be a group sign to some systems, and 12.5 a hundred and twenty-five.
-    text = text.trimmed().replace(Point, Comma);
+    text = text.trimmed();
+    // A point would be a group sign to some systems, and 12.5 a hundred and twenty-five. Where a comma is no
+    // sign of a number at all, the point stays: it is the one that converts.
+    const RegionalSettings &settings = RegionalSettings::current();
+    if (settings.decimalSign == Comma || settings.groupSign == Comma) text.replace(Point, Comma);
     if (!text.contains(Comma)) forgetDecimals();
 }
 

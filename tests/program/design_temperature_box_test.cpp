@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "design/TemperatureBox.h"
+#include "tests/support/pinned_settings.h"
 
 namespace {
 
@@ -181,6 +182,13 @@ TEST(TemperatureBoxTest, APasteIsFreeAndLeadsTheOthers) {
     EXPECT_EQ(typed.box.text(), QStringLiteral("37,5"));
     QTest::keyClick(&typed.box, Qt::Key_Backspace, Qt::ControlModifier);
     EXPECT_EQ(typed.box.text(), QStringLiteral("37,5"));
+}
+
+TEST(TemperatureBoxTest, APastedPointStaysWhereOnlyItConverts) {
+    const PinnedSettings settings(u'.', u'\'');
+    TypedBox typed;
+    typed.paste(QStringLiteral("212.5"));
+    EXPECT_EQ(typed.box.text(), QStringLiteral("212.5"));
 }
 
 TEST(TemperatureBoxTest, TheMouseSelectsAllAndTheMenuLeads) {
