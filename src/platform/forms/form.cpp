@@ -206,7 +206,10 @@ void Form::keyPressEvent(QKeyEvent *event) {
         return true;
     };
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (press(qobject_cast<QAbstractButton *>(focusWidget())) || press(m_defaultButton)) return;
+        // Enter does not tick a box or choose an option
+        auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
+        if (focused && focused->isCheckable()) focused = nullptr;
+        if (press(focused) || press(m_defaultButton)) return;
     } else if (event->key() == Qt::Key_Escape && press(m_cancelButton)) {
         return;
     }
