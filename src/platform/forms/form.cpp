@@ -131,7 +131,8 @@ void Form::ShowModal(QWidget *owner) {
         if (!drive) return;
     }
 
-    standAbove(owner != nullptr ? owner : QApplication::activeWindow());
+    const QPointer<QWidget> below = QApplication::activeWindow();
+    standAbove(owner != nullptr ? owner : below.data());
     const PointerPause pause;
     QEventLoop loop;
     QPointer<Form> self(this);
@@ -152,6 +153,9 @@ void Form::ShowModal(QWidget *owner) {
         });
     }
     if (self && m_modalLoop != nullptr) loop.exec(QEventLoop::DialogExec);
+    // Where two windows close at once, some desktops would leave the keyboard to none.
+    if (below && below->isVisible() && QApplication::applicationState() == Qt::ApplicationActive)
+        below->activateWindow();
 }
 
 void Form::standAbove(QWidget *owner) {
