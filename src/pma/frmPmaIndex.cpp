@@ -96,6 +96,7 @@ void frmPmaIndex::Form_Load() {
     tdbIndex->setEvenRowStyle({toQColor(main.cBlue)});
     tdbIndex->setOddRowStyle({toQColor(main.cInfoBack)});
     tdbIndex->setAlternatingRowStyle(true);
+    txtSearchString->setFocus();
     setWidth(11280);
     setHeight(5040);
 }

@@ -1,6 +1,7 @@
 // The life of a form: the order of its events, its place, the collection.
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QTest>
@@ -184,6 +185,7 @@ TEST_F(FormTest, HourglassEndsWithItsForm) {
 TEST_F(FormTest, EnterAndEscapePressTheirButtons) {
     auto *form = NewForm<RecordingForm>();
     auto *ok = new QPushButton(form), *cancel = new QPushButton(form), *other = new QPushButton(form);
+    auto *tick = new QCheckBox(form);
     QStringList pressed;
     QObject::connect(ok, &QPushButton::clicked, [&] { pressed.append("ok"); });
     QObject::connect(cancel, &QPushButton::clicked, [&] { pressed.append("cancel"); });
@@ -196,9 +198,13 @@ TEST_F(FormTest, EnterAndEscapePressTheirButtons) {
     QTest::keyClick(form, Qt::Key_Escape);
     other->setFocus();
     QTest::keyClick(other, Qt::Key_Enter);
+    tick->setFocus();
+    QTest::keyClick(tick, Qt::Key_Return);
+    EXPECT_FALSE(tick->isChecked());
+    other->setFocus();
     ok->setEnabled(false);
     QTest::keyClick(form, Qt::Key_Return);
-    EXPECT_EQ(pressed, QStringList({"ok", "cancel", "other", "other"}));
+    EXPECT_EQ(pressed, QStringList({"ok", "cancel", "other", "ok", "other"}));
 }
 
 } // namespace

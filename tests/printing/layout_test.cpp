@@ -99,6 +99,33 @@ TEST_F(Layout, ATextThatMayNotGrowEndsInAnEllipsis) {
     }
 }
 
+TEST_F(Layout, AWordIsBrokenAtBlanksOnlyAndDrawnSmallerInANarrowCell) {
+    struct Case {
+        QString text;
+        int width;
+        QStringList lines;
+        double fontSize;
+    };
+    const QString longWord(70, QLatin1Char('W'));
+    const Case cases[] = {{"180", 250, {"180"}, 6.5},
+                          {"180", 1155, {"180"}, 10},
+                          {"[MPa] min", 350, {"[MPa]", "min"}, 6},
+                          {"Cp20, t [J/kgK]", 1155, {"Cp20, t", "[J/kgK]"}, 10},
+                          {"of X5CrNi18-10", 1300, {"of", "X5CrNi18-10"}, 10},
+                          {longWord, 900, {longWord.left(4)}, 10}};
+    for (const Case &given : cases)
+        place<Field>(detail, QString::number(detail.Controls.Count()), {0, 0, given.width, 283}, given.text)
+            .Border = BorderStyles::all();
+    report.Run();
+    const auto &elements = report.document().pages[0].elements;
+    ASSERT_EQ(elements.size(), std::size(cases));
+    for (std::size_t i = 0; i < std::size(cases); ++i) {
+        for (qsizetype line = 0; line < cases[i].lines.size(); ++line)
+            EXPECT_EQ(elements[i].lines.at(std::size_t(line)).text, cases[i].lines[line]);
+        EXPECT_EQ(elements[i].Font.Size, cases[i].fontSize) << qPrintable(cases[i].text);
+    }
+}
+
 TEST_F(Layout, TextsStandInTheirBoxAsTheAlignmentsSay) {
     const auto add = [this](int alignment, int vertical, bool frame) {
         auto &label =

@@ -136,6 +136,22 @@ TEST(Rtf, ATableThatAPageCanHoldStaysOnOne) {
     }
 }
 
+TEST(Rtf, ATitleStaysWithItsKeptTextAndAShortRowKeepsItsCellsWidths) {
+    TestReport report;
+    Section &detail = report.AddSection(SectionType::Detail, "Detail");
+    detail.KeepTogether = true;
+    place<Label>(detail, "title", {0, 0, 5000, 250}, "Notes");
+    place<Label>(detail, "text", {0, 300, 5000, 250}, "None.");
+    for (const QRect &box : {QRect(0, 600, 900, 283), QRect(900, 600, 900, 283), QRect(0, 883, 900, 283)})
+        place<Field>(detail, QString::number(detail.Controls.Count()), box, "cell").Border =
+            BorderStyles::all();
+    const QByteArray rtf = rtfText(report.Run());
+    EXPECT_TRUE(QRegularExpression("\\\\keepn[^\n]* Notes\\\\par").match(rtf).hasMatch());
+    const RtfContent content = RtfReader::read(rtf);
+    EXPECT_EQ(content.edges, (std::vector<std::vector<int>>{{900, 1800}, {900, 1800}}));
+    EXPECT_EQ(content.rows[1], QStringList({"cell", ""}));
+}
+
 TEST(Rtf, APictureLeavesTheFrameOfItsCellFree) {
     TestReport report;
     Section &detail = report.AddSection(SectionType::Detail, "Detail");

@@ -236,6 +236,36 @@ TEST(Paging, ATableKeptTogetherBelowADistanceMovesAsAWhole) {
     }
 }
 
+TEST(Paging, ATableCutWithinASectionHasItsCaptionsOnEachPage) {
+    TestReport report;
+    Section &block = report.AddSection(SectionType::ReportHeader, "block");
+    block.KeepTogether = true;
+    for (int column = 0; column < 2; ++column) {
+        const QRect box(column * 1155, 0, 1155, 400);
+        auto &caption = place<Label>(block, QStringLiteral("c%1").arg(column), box, "caption");
+        caption.Border = BorderStyles::all();
+        caption.BackStyle = 1;
+        for (int row = 0; row < 120; ++row)
+            place<Field>(block, QStringLiteral("%1_%2").arg(column).arg(row),
+                         {box.left(), 400 + row * RowHeight, 1155, RowHeight}, QString::number(row))
+                .Border = BorderStyles::all();
+    }
+    report.Run();
+    const auto &pages = report.document().pages;
+    ASSERT_EQ(pages.size(), 3U);
+    QStringList rows;
+    for (const Page &page : pages) {
+        const QStringList texts = textsOf(page);
+        EXPECT_EQ(texts.mid(0, 2), QStringList({"caption", "caption"}));
+        EXPECT_EQ(page.elements[0].box, QRect(Left, Top, 1155, 400));
+        EXPECT_EQ(page.elements[2].box.top(), Top + 400);
+        rows += texts.mid(2);
+    }
+    EXPECT_EQ(rows.size(), 240);
+    EXPECT_EQ(rows.last(), "119");
+    EXPECT_EQ(report.document().blocks[0].rows.size(), 121U); // the files have them once
+}
+
 TEST(Paging, TheOutlineMayCallAHeadingByAnotherName) {
     TestReport report;
     Section &section = addTextSection(report, SectionType::ReportHeader, "Title", 300);

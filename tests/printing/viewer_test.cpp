@@ -11,10 +11,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/forms/msg_box.h"
 #include "platform/printing/page_painter.h"
 #include "platform/printing/page_view.h"
 #include "platform/printing/viewer.h"
 #include "tests/printing/test_report.h"
+#include "tests/support/gui.h"
 #include "tests/support/pdf_tool.h"
 
 using namespace Printing;
@@ -184,6 +186,20 @@ TEST_F(ViewerTest, PrintsAndSavesThroughItsHooks) {
     });
     press(Qt::Key_P, Qt::ControlModifier);
     EXPECT_TRUE(pdfTool("pdfinfo", {file}).contains("Pages:           3\n"));
+}
+
+TEST_F(ViewerTest, TellsThatThePrinterFailed) {
+    QTemporaryDir folder;
+    for (const QString &file : {folder.filePath("missing/a.pdf"), QStringLiteral("/dev/full")}) {
+        viewer.setPrinterChooser([&](QPrinter &printer) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(file);
+            return true;
+        });
+        modal().answerMsgBox(vbOK);
+        press(Qt::Key_P, Qt::ControlModifier);
+        EXPECT_EQ(modal().lastAsked().text, "Printer error") << qPrintable(file);
+    }
 }
 
 TEST_F(ViewerTest, CanBeKeptFromStayingMinimised) {

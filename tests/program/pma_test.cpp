@@ -70,6 +70,7 @@ protected:
 TEST_F(PmaTest, OpensOnTheWholeIndexInTheSizeThatItsCallerGives) {
     open([](frmPmaIndex &window) {
         EXPECT_EQ(window.Caption(), "PMA Index");
+        EXPECT_EQ(window.focusWidget(), window.txtSearchString);
         EXPECT_NEAR(window.Width(), 12800, 15);
         EXPECT_NEAR(window.Height(), 8500, 15);
         EXPECT_EQ(window.tdbIndex->RowCount(), 12);

@@ -131,7 +131,8 @@ void Form::ShowModal(QWidget *owner) {
         if (!drive) return;
     }
 
-    standAbove(owner != nullptr ? owner : QApplication::activeWindow());
+    const QPointer<QWidget> below = QApplication::activeWindow();
+    standAbove(owner != nullptr ? owner : below.data());
     const PointerPause pause;
     QEventLoop loop;
     QPointer<Form> self(this);
@@ -152,6 +153,9 @@ void Form::ShowModal(QWidget *owner) {
         });
     }
     if (self && m_modalLoop != nullptr) loop.exec(QEventLoop::DialogExec);
+    // Where two windows close at once, some desktops would leave the keyboard to none.
+    if (below && below->isVisible() && QApplication::applicationState() == Qt::ApplicationActive)
+        below->activateWindow();
 }
 
 void Form::standAbove(QWidget *owner) {
@@ -206,7 +210,10 @@ void Form::keyPressEvent(QKeyEvent *event) {
         return true;
     };
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (press(qobject_cast<QAbstractButton *>(focusWidget())) || press(m_defaultButton)) return;
+        // Enter does not tick a box or choose an option
+        auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
+        if (focused && focused->isCheckable()) focused = nullptr;
+        if (press(focused) || press(m_defaultButton)) return;
     } else if (event->key() == Qt::Key_Escape && press(m_cancelButton)) {
         return;
     }

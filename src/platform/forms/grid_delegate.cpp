@@ -1,5 +1,6 @@
 #include "platform/forms/grid_delegate.h"
 
+#include <QApplication>
 #include <QPainter>
 
 #include "platform/forms/grid_model.h"
@@ -15,6 +16,19 @@ QColor mixed(const QColor &under, const QColor &over, double share) {
 }
 
 constexpr double CurrentRowShare = 0.4;
+
+/// Where not even the mark of a cut text has room, the cell would look empty, as if it held no value.
+void makeRoomForEllipsis(QStyleOptionViewItem &option) {
+    const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
+    const int room = option.rect.width() - 2 * margin;
+    const QFontMetrics metrics(option.font);
+    const int needed = metrics.horizontalAdvance(QChar(0x2026));
+    const bool wraps = option.features.testFlag(QStyleOptionViewItem::WrapText);
+    if (wraps || room <= 0 || room >= needed || metrics.horizontalAdvance(option.text) <= room) return;
+    option.font.setPixelSize(std::max(1, QFontInfo(option.font).pixelSize() * room / needed));
+    option.fontMetrics = QFontMetrics(option.font);
+}
 
 } // namespace
 
@@ -42,6 +56,7 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
     QStyledItemDelegate::initStyleOption(option, index);
     option->features.setFlag(QStyleOptionViewItem::WrapText, m_model.column(index.column()).WordWrap());
     if (!m_view->rowsGrow()) option->text.replace(QChar::LineSeparator, QLatin1Char(' '));
+    makeRoomForEllipsis(*option);
 
     // One cell is always selected, the current one: while the keyboard is elsewhere it would read as a
     // choice.

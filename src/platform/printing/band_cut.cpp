@@ -15,6 +15,10 @@ int bottomOf(const Element &element) {
     return element.box.top() + element.box.height();
 }
 
+bool isCaption(const Element &element) {
+    return element.Border.any() && element.BackStyle != 0;
+}
+
 int nextTop(const Band &band, const Element &heading) {
     int top = bottomOf(heading);
     int found = band.height;
@@ -29,8 +33,12 @@ std::vector<Span> solidSpans(const Band &band) {
     for (const Element &element : band.elements) {
         const int top = element.box.top();
         const std::size_t count = element.lines.size();
+        if (element.HeadingLevel > 0 || isCaption(element)) {
+            spans.push_back({top, nextTop(band, element)});
+            continue;
+        }
         if (count < 4) {
-            spans.push_back({top, element.HeadingLevel > 0 ? nextTop(band, element) : bottomOf(element)});
+            spans.push_back({top, bottomOf(element)});
             continue;
         }
         for (std::size_t i = 0; i < count; ++i) {
@@ -43,6 +51,36 @@ std::vector<Span> solidSpans(const Band &band) {
     }
     std::sort(spans.begin(), spans.end(), [](const Span &a, const Span &b) { return a.top < b.top; });
     return spans;
+}
+
+// The captions right above the cells that go on; none where a cell has none of its own width.
+std::vector<Element> captionsOf(const Band &above, const Band &below) {
+    std::vector<Element> captions;
+    for (const Element &cell : below.elements) {
+        if (cell.box.top() != 0) continue;
+        const Element *nearest = nullptr;
+        for (const Element &element : above.elements)
+            if (isCaption(element) && element.box.left() == cell.box.left() &&
+                element.box.width() == cell.box.width() &&
+                (!nearest || element.box.top() > nearest->box.top()))
+                nearest = &element;
+        if (!cell.Border.any() || isCaption(cell) || !nearest) return {};
+        captions.push_back(*nearest);
+        captions.back().box.moveTop(0);
+    }
+    return captions;
+}
+
+void repeatCaptions(const Band &above, Band &below) {
+    const std::vector<Element> captions = captionsOf(above, below);
+    // a row for which a page has no room beside its captions goes without them
+    const bool hasRows = !above.elements.empty() && !isCaption(above.elements.back());
+    if (captions.empty() || !hasRows) return;
+    const int height = captions.front().box.height();
+    for (Element &element : below.elements)
+        element.box.translate(0, height);
+    below.elements.insert(below.elements.begin(), captions.begin(), captions.end());
+    below.height += height;
 }
 
 } // namespace
@@ -93,6 +131,7 @@ std::pair<Band, Band> cutBand(const Band &band, int place) {
             below.elements.push_back(lower);
         }
     }
+    repeatCaptions(above, below);
     return {above, below};
 }
 

@@ -8,10 +8,10 @@
 namespace Printing {
 
 /// Ascending distances from the band's top: between lines of text and between elements, but behind no heading
-/// and not so that one line of several stands alone. Empty for what has no such place.
+/// or caption and not so that one line of several stands alone. Empty for what has no such place.
 std::vector<int> cutPlaces(const Band &band);
 
-/// The parts above and below `place`.
+/// The parts above and below `place`. Where rows of cells go on below, their captions are there again.
 std::pair<Band, Band> cutBand(const Band &band, int place);
 
 } // namespace Printing

@@ -64,6 +64,8 @@ struct Row {
     std::vector<Element> cells;
     /// Repeated at the top of each page that the table goes over to.
     bool isHeading = false;
+    /// Belongs on one page with the row below it.
+    bool keepWithNext = false;
 
     int left() const;
     int right() const;

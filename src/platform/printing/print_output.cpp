@@ -1,5 +1,6 @@
 #include "platform/printing/print_output.h"
 
+#include <QFileInfo>
 #include <QPageLayout>
 #include <QPrinter>
 
@@ -8,6 +9,18 @@
 #include "platform/runtime/twips.h"
 
 namespace Printing {
+
+namespace {
+
+// A printer that writes a file says nothing of a full disk.
+bool isWhole(const QString &path) {
+    constexpr int TailLength = 16;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max(qint64(0), file.size() - TailLength)) &&
+           file.read(TailLength).contains("%%EOF");
+}
+
+} // namespace
 
 void printDocument(const Document &document, QPrinter &printer) {
     const PageSettings &paper = document.pageSettings;
@@ -30,6 +43,10 @@ void printDocument(const Document &document, QPrinter &printer) {
         paintPage(painter, document.pages[std::size_t(page - 1)]);
     }
     if (!painter.end() || printer.printerState() == QPrinter::Error) throw RuntimeError(482);
+    const QString path = printer.outputFileName();
+    if (path.isEmpty() || isWhole(path)) return;
+    if (QFileInfo(path).isFile()) QFile::remove(path);
+    throw RuntimeError(482);
 }
 
 } // namespace Printing

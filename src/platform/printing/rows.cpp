@@ -156,7 +156,9 @@ std::vector<Block> blocksOf(const Bands &bands) {
     int bandTop = 0;
     for (const auto &band : bands) {
         if (band->pageBreakBefore) blocks.push_back({Block::Kind::PageBreak, {}});
-        for (Row &row : rowsOf(band->elements)) {
+        std::vector<Row> rows = rowsOf(band->elements);
+        for (Row &row : rows) {
+            row.keepWithNext = band->keepHeight > 0 && &row != &rows.back();
             for (Element &cell : row.cells)
                 cell.box.translate(0, bandTop);
             row.isHeading = band->isRepeatedHeading;

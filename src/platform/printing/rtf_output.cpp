@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 
+#include "platform/printing/text_layout.h"
 #include "platform/runtime/whole_file.h"
 
 namespace Printing {
@@ -60,8 +61,8 @@ public:
 private:
     void writeBlock(const Block &block);
     void writeTable(const Block &block);
-    void writeRow(const Row &row, int left, int height, bool keepWithNext);
-    void writeParagraph(const Element &element, int spaceBefore);
+    void writeRow(const Row &row, int left, int right, int height, bool keepWithNext);
+    void writeParagraph(const Row &row);
     int pageHeight() const;
     void writePageRows(const char *destination, const std::vector<Row> &rows);
     QByteArray content(const Element &element);
@@ -156,23 +157,25 @@ void RtfWriter::writeBlock(const Block &block) {
     }
     if (block.kind == Block::Kind::Paragraph)
         for (const Row &row : block.rows)
-            writeParagraph(row.cells.front(), row.top() - m_bottom);
+            writeParagraph(row);
     else
         writeTable(block);
     m_bottom = block.rows.back().bottom();
 }
 
-void RtfWriter::writeParagraph(const Element &element, int spaceBefore) {
+void RtfWriter::writeParagraph(const Row &row) {
+    const Element &element = row.cells.front();
     const int right = std::max(0, m_document.printWidth() - element.box.left() - element.box.width());
     m_body += "\\pard\\plain";
     if (m_pageBreak) m_body += "\\pagebb";
     if (element.HeadingLevel > 0) {
         const int level = std::min(element.HeadingLevel, HeadingLevels);
-        m_body += "\\s" + number(level) + "\\keepn\\outlinelevel" + number(level - 1);
+        m_body += "\\s" + number(level) + "\\outlinelevel" + number(level - 1);
     }
+    if (element.HeadingLevel > 0 || row.keepWithNext) m_body += "\\keepn";
     m_body += alignment(element);
     m_body += "\\li" + number(element.box.left()) + "\\ri" + number(right) + "\\sb" +
-              number(std::max(0, spaceBefore)) + ' ' + content(element) + "\\par\n";
+              number(std::max(0, row.top() - m_bottom)) + ' ' + content(element) + "\\par\n";
     m_pageBreak = false;
     m_afterTable = false;
 }
@@ -185,8 +188,11 @@ void RtfWriter::writeTable(const Block &block) {
                   number(std::max(gap, 20)) + "\\slmult0\\par\n";
     m_pageBreak = false;
     int left = block.rows.front().left();
-    for (const Row &row : block.rows)
+    int right = 0;
+    for (const Row &row : block.rows) {
         left = std::min(left, row.left());
+        right = std::max(right, row.right());
+    }
     const bool fitsOnPage = block.rows.back().bottom() - block.rows.front().top() <= pageHeight();
     for (std::size_t i = 0; i < block.rows.size(); ++i) {
         const Row &row = block.rows[i];
@@ -194,7 +200,7 @@ void RtfWriter::writeTable(const Block &block) {
         // Without a frame, the distance to the next row may be the row's.
         const bool takesGap = block.kind == Block::Kind::Aligned && !isLast;
         const int height = (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top();
-        writeRow(row, left, height, fitsOnPage && !isLast);
+        writeRow(row, left, right, height, fitsOnPage && !isLast);
     }
     m_afterTable = true;
 }
@@ -223,27 +229,31 @@ QByteArray RtfWriter::filler(int right) const {
     return "\\clvertalt\\cellx" + number(right);
 }
 
-// All rows of a table begin at its left edge; a gap before an element becomes an empty cell.
-void RtfWriter::writeRow(const Row &row, int left, int height, bool keepWithNext) {
+// All rows of a table go from its left to its right edge; a gap becomes an empty cell.
+void RtfWriter::writeRow(const Row &row, int left, int right, int height, bool keepWithNext) {
     // The distance to the frame is the paragraphs' own: readers disagree on where a padded cell begins.
     m_body += "\\trowd\\trgaph0\\trleft" + number(left) + "\\trkeep";
     if (row.isHeading) m_body += "\\trhdr";
     m_body += "\\trrh" + number(height);
     QByteArray contents;
-    int right = left;
+    int reached = left;
+    const auto fill = [&](int edge) {
+        if (edge - reached <= TouchingDistance) return;
+        m_body += filler(edge);
+        contents += "\\pard\\plain\\intbl\\cell\n";
+    };
     for (const Element &cell : row.cells) {
-        if (cell.box.left() - right > TouchingDistance) {
-            m_body += filler(cell.box.left());
-            contents += "\\pard\\plain\\intbl\\cell\n";
-        }
+        fill(cell.box.left());
         m_body += cellDefinition(cell);
         contents += QByteArray("\\pard\\plain\\intbl") + (keepWithNext ? "\\keepn" : "") + alignment(cell);
-        if (cell.Border.any()) contents += "\\li" + number(CellPadding) + "\\ri" + number(CellPadding);
+        if (cell.Border.any() && !isNarrow(cell))
+            contents += "\\li" + number(CellPadding) + "\\ri" + number(CellPadding);
         if (cell.HeadingLevel > 0)
             contents += "\\s" + number(std::min(cell.HeadingLevel, HeadingLevels)) + "\\keepn";
         contents += content(cell) + "\\cell\n";
-        right = cell.box.left() + cell.box.width();
+        reached = cell.box.left() + cell.box.width();
     }
+    fill(right);
     m_body += '\n' + contents + "\\row\n";
 }
 

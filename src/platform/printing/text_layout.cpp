@@ -14,6 +14,9 @@ namespace {
 // Between a frame or a filled ground and the text in it.
 constexpr int SidePadding = 60;
 constexpr int TopPadding = 25;
+constexpr int NarrowBox = 500;
+constexpr int NarrowPadding = 15;
+constexpr double SmallestFont = 4;
 constexpr QChar Ellipsis(0x2026);
 
 bool isFramed(const Element &element) {
@@ -21,7 +24,8 @@ bool isFramed(const Element &element) {
 }
 
 int sidePadding(const Element &element) {
-    return isFramed(element) ? SidePadding : 0;
+    if (!isFramed(element)) return 0;
+    return isNarrow(element) ? NarrowPadding : SidePadding;
 }
 
 int topPadding(const Element &element) {
@@ -32,7 +36,36 @@ int innerWidth(const Element &element) {
     return std::max(1, element.box.width() - 2 * sidePadding(element));
 }
 
+double widestWord(const QString &text, const TextFont &font) {
+    const QFontMetricsF metrics(twipsFont(font));
+    double widest = 0;
+    for (const QString &word : text.simplified().split(QLatin1Char(' ')))
+        widest = std::max(widest, metrics.horizontalAdvance(word));
+    return widest;
+}
+
+// A figure broken into its digits can't be read: in a cell, a word that is too wide is drawn smaller instead.
+void shrinkToWords(Element &element) {
+    if (!isFramed(element)) return;
+    const double widest = widestWord(element.text, element.Font);
+    if (widest <= innerWidth(element)) return;
+    const double size = std::floor(2 * element.Font.Size * innerWidth(element) / widest) / 2;
+    if (size >= SmallestFont) element.Font.Size = size;
+}
+
+// The layout would also break behind a hyphen or a slash: "[J/" and "kgK]".
+void endAtBlank(QTextLine &line, const QString &text) {
+    const int end = line.textStart() + line.textLength();
+    if (end == text.size() || text[end - 1].isSpace()) return;
+    const qsizetype blank = text.lastIndexOf(QLatin1Char(' '), end - 1);
+    if (blank > line.textStart()) line.setNumColumns(int(blank) + 1 - line.textStart());
+}
+
 } // namespace
+
+bool isNarrow(const Element &element) {
+    return element.box.width() < NarrowBox;
+}
 
 QFont twipsFont(const TextFont &font) {
     QFont result;
@@ -49,6 +82,7 @@ void breakLines(Element &element, bool wordWrap) {
         .replace(QLatin1Char('\r'), QLatin1Char('\n'));
     element.lines.clear();
     if (element.text.isEmpty()) return;
+    if (wordWrap) shrinkToWords(element);
 
     QString laidOut = element.text;
     laidOut.replace(QLatin1Char('\n'), QChar::LineSeparator);
@@ -60,6 +94,7 @@ void breakLines(Element &element, bool wordWrap) {
     int top = 0;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(innerWidth(element));
+        endAtBlank(line, laidOut);
         TextLine broken;
         broken.start = line.textStart();
         broken.text = laidOut.mid(line.textStart(), line.textLength());

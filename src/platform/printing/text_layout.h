@@ -10,8 +10,12 @@ namespace Printing {
 /// One pixel of the font is one twip.
 QFont twipsFont(const TextFont &font);
 
-/// Breaks the element's text to the width of its box, at words if `wordWrap` and inside a word only where it
-/// is wider than the box. The lines wait at the box's upper left corner until arrangeLines().
+/// Whether the element needs its width for the text and has none to leave beside it.
+bool isNarrow(const Element &element);
+
+/// Breaks the element's text to the width of its box, at blanks if `wordWrap`. In a cell the font gets
+/// smaller where a word is wider than the box, as long as it stays readable; otherwise such a word is broken.
+/// The lines wait at the box's upper left corner until arrangeLines().
 void breakLines(Element &element, bool wordWrap);
 
 /// The height that the lines and the space around them take; 0 without text.

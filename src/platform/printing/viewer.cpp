@@ -16,9 +16,11 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "platform/forms/msg_box.h"
 #include "platform/printing/arrow_icon.h"
 #include "platform/printing/page_view.h"
 #include "platform/printing/print_output.h"
+#include "platform/runtime/runtime_error.h"
 
 namespace Printing {
 
@@ -198,7 +200,12 @@ void Viewer::setPrinterChooser(std::function<bool(QPrinter &)> chooser) {
 void Viewer::print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(m_document.title);
-    if (m_choosePrinter(printer)) printDocument(m_document, printer);
+    if (!m_choosePrinter(printer)) return;
+    try {
+        printDocument(m_document, printer);
+    } catch (const RuntimeError &error) {
+        MsgBox(error.description(), vbExclamation, windowTitle());
+    }
 }
 
 void Viewer::search(const QString &text) {
