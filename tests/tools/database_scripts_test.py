@@ -233,6 +233,27 @@ class Scripts(unittest.TestCase):
                                      "ProdForm.csv: the first line must name each column once, as name:TYPE",
                                      "Units.csv, line 2: 3 cells under 2 columns"])
 
+    def test_text_of_another_form_is_told_and_not_guessed_at(self):
+        for old, new, told in (
+                ("matID:INT,temp:SINGLE,thickness:INT,ordering:LONG,Rm:TEXT(40)", "matID;temp;thickness;ordering;Rm",
+                 "Rm.csv: semicolons or tabs stand between the cells; commas are expected"),
+                ("temp:SINGLE", "temp:SINGLE(1",
+                 "Rm.csv: the first line has a type SINGLE(1; INT and TEXT(80) are types"),
+                ("11,50,-1", "11,nan,-1", "Rm: row 1, temp: 'nan' is no SINGLE"),
+                ("11,50,-1", "11,5_0,-1", "Rm: row 1, temp: '5_0' is no SINGLE"),
+                ("11,50,-1", "1" + "0" * 30 + ",50,-1",
+                 "Rm: row 1, matID: 1e+30 is beyond the range of INT, -32768 to 32767")):
+            with self.subTest(new):
+                shutil.copy(SAMPLE / "csv" / "Rm.csv", self.texts)
+                self.change("Rm", old, new)
+                status, lines = self.run_script("make_database", "csv")
+                self.assertEqual((status, lines[0]), (1, told))
+
+    def test_second_text_for_a_table_is_told(self):
+        shutil.copy(self.texts / "Rm.csv", self.texts / "rM.CSV")
+        status, lines = self.run_script("check_database", "csv")
+        self.assertEqual((status, lines[0].lower()), (1, 'rm.csv: table "rm" already exists'))
+
     def test_types_may_be_left_out_and_marks_of_spreadsheets_are_taken(self):
         heads = "matID:INT,temp:INT,ModElast:DOUBLE"
         self.change("ModElast", heads, "matid,Temp,modelast")
