@@ -256,10 +256,11 @@ void frmMaterial2::focusMechOption() {
         if (option->isChecked() && !framOptions->isHidden()) option->setFocus();
 }
 
-/// The control that had the focus may have gone with its page.
+/// The control that had the focus may have gone with its page, and left it to the frame around this window.
 void frmMaterial2::keepFocus() {
+    if (mdiVelmar::instance().activeChild() != this) return;
     const QWidget *focused = window()->focusWidget();
-    if (mdiVelmar::instance().activeChild() != this || (focused != nullptr && focused->isVisible())) return;
+    if (focused != nullptr && focused->isVisible() && !focused->isAncestorOf(this)) return;
     if (framDesign->isVisible())
         txtDesignTemp->setFocus();
     else
