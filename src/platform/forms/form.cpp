@@ -131,7 +131,8 @@ void Form::ShowModal(QWidget *owner) {
         if (!drive) return;
     }
 
-    standAbove(owner != nullptr ? owner : QApplication::activeWindow());
+    const QPointer<QWidget> below = owner != nullptr ? owner : QApplication::activeWindow();
+    standAbove(below);
     const PointerPause pause;
     QEventLoop loop;
     QPointer<Form> self(this);
@@ -152,6 +153,12 @@ void Form::ShowModal(QWidget *owner) {
         });
     }
     if (self && m_modalLoop != nullptr) loop.exec(QEventLoop::DialogExec);
+    // Of two modal windows that close in one go, some window managers leave the keyboard to the lower one.
+    if (!below || QGuiApplication::applicationState() != Qt::ApplicationActive) return;
+    QTimer::singleShot(0, below, [below] {
+        const QWidget *modal = QApplication::activeModalWidget();
+        if (below->isVisible() && (modal == nullptr || modal == below->window())) below->activateWindow();
+    });
 }
 
 void Form::standAbove(QWidget *owner) {
