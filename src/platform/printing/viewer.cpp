@@ -16,6 +16,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "platform/forms/busy_pointer.h"
 #include "platform/printing/arrow_icon.h"
 #include "platform/printing/page_view.h"
 #include "platform/printing/print_output.h"
@@ -198,7 +199,9 @@ void Viewer::setPrinterChooser(std::function<bool(QPrinter &)> chooser) {
 void Viewer::print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(m_document.title);
-    if (m_choosePrinter(printer)) printDocument(m_document, printer);
+    if (!m_choosePrinter(printer)) return;
+    const BusyPointer busy;
+    printDocument(m_document, printer);
 }
 
 void Viewer::search(const QString &text) {
