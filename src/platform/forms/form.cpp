@@ -214,8 +214,12 @@ void Form::keyPressEvent(QKeyEvent *event) {
     };
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (press(qobject_cast<QAbstractButton *>(focusWidget())) || press(m_defaultButton)) return;
-    } else if (event->key() == Qt::Key_Escape && press(m_cancelButton)) {
-        return;
+    } else if (event->key() == Qt::Key_Escape) {
+        if (press(m_cancelButton)) return;
+        if (m_cancelButton == nullptr && m_modalLoop != nullptr) {
+            close();
+            return;
+        }
     }
     QWidget::keyPressEvent(event);
 }
