@@ -112,6 +112,8 @@ BROKEN_ROWS = [
     # tables over temperature
     ("UPDATE Rp02 SET thickness = -1 WHERE matID = 1 AND thickness = 16",
      ["Rp02: matID 1: thickness -1 is for no bands, but there is also a band to 250 mm"]),
+    ("UPDATE Rm SET Rm = NULL, temp = NULL WHERE matID = 11 AND temp = 50",
+     ["Rm: matID 11, thickness -1, ordering 1: no temp; the design values cannot be found without one"]),
     ("UPDATE Rm SET thickness = 0 WHERE matID = 11",
      ["Rm: matID 11: thickness 0 is neither the limit of a band nor -1, which is for no bands"]),
     ("UPDATE Rp10 SET ordering = 300 - ordering WHERE matID = 11 AND temp < 150",
@@ -143,7 +145,7 @@ HARMLESS = [
     "UPDATE MatNotes SET tableName = lower(tableName)",
     "UPDATE CreepProperties SET val = '-' WHERE ordering = 3",
     "UPDATE Rm SET Rm = '(' || Rm || ') *' WHERE matID = 11",
-    "UPDATE Rm SET Rm = NULL, temp = NULL WHERE matID = 11 AND temp = 50",
+    "UPDATE Rm SET Rm = NULL WHERE matID = 11 AND temp = 50",
     "UPDATE standard SET otherElem = 'Yes' WHERE otherElem",
     "ALTER TABLE Rp02 ADD COLUMN remark TEXT",
     "CREATE TABLE Remarks (a)",
