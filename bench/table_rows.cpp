@@ -72,7 +72,8 @@ void summary(benchmark::State &state, const std::vector<std::shared_ptr<Showing>
         const Samples &shown = (*showing).*samples;
         if (shown.clock().empty()) continue;
         ours.add(median(shown.clock()), median(shown.cpu()));
-        if (!showing->other.clock().empty()) others.add(median(showing->other.clock()), 0);
+        if (!showing->other.clock().empty())
+            others.add(median(showing->other.clock()), median(showing->other.cpu()));
         if (slowest == nullptr || median(shown.clock()) > median((slowest->*samples).clock()))
             slowest = showing.get();
     }

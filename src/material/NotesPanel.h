@@ -34,8 +34,6 @@ public:
     /// A click on the button, and a tick of the timer.
     void Toggle();
     void Flash();
-    /// Which of the three pictures the button has.
-    int buttonPicture() const { return m_picture; }
 
 private:
     void setButtonPicture(int index);

@@ -257,12 +257,11 @@ void frmMaterial2::focusMechOption() {
         if (option->isChecked() && !framOptions->isHidden()) option->setFocus();
 }
 
-/// The control that had the focus may have gone with its page.
+/// The control that had the focus may have gone with its page, and left it to the frame around this window.
 void frmMaterial2::keepFocus() {
+    if (mdiVelmar::instance().activeChild() != this) return;
     const QWidget *focused = window()->focusWidget();
-    // Of a page that goes the focus falls back to the frame around the window.
-    const bool kept = focused != nullptr && focused->isVisible() && isAncestorOf(focused);
-    if (kept || mdiVelmar::instance().activeChild() != this) return;
+    if (focused != nullptr && focused->isVisible() && isAncestorOf(focused)) return;
     if (framDesign->isVisible() && txtDesignTemp->isEnabled())
         txtDesignTemp->setFocus();
     else

@@ -1,5 +1,6 @@
 #include "reports/report_export.h"
 
+#include "platform/forms/busy_pointer.h"
 #include "platform/forms/common_dialog.h"
 #include "platform/forms/msg_box.h"
 #include "platform/printing/pdf_output.h"
@@ -31,7 +32,9 @@ void saveAsking(const Printing::Document &document, int format, const QString &n
     dialog.CancelError = true;
     dialog.ShowSave();
     MsgBox(dialog.FileName);
-    if (!dialog.FileName.isEmpty()) chosen.save(document, dialog.FileName);
+    if (dialog.FileName.isEmpty()) return;
+    const BusyPointer busy;
+    chosen.save(document, dialog.FileName);
 }
 
 } // namespace ReportExport

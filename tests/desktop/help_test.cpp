@@ -127,6 +127,20 @@ TEST_F(HelpTest, ContentsIndexAndSearchLeadToTheTopic) {
     EXPECT_EQ(search->searchResults(0, 1).value(0).title(), "Contact");
 }
 
+TEST_F(HelpTest, KeysLeadIntoAPageAndTheContentsFollowTheTopic) {
+    show(HelpContents);
+    auto *contents = viewer()->findChild<QHelpContentWidget *>();
+    const auto marked = [&] { return contents->currentIndex().data().toString(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return marked() == "Start"; }));
+    viewer()->findChild<QTextBrowser *>("HelpText")->anchorClicked(QUrl("How_To.htm"));
+    EXPECT_EQ(marked(), "Contact");
+
+    viewer()->findChild<QTextBrowser *>("HelpText")->setFocus();
+    QTest::keyClick(viewer(), Qt::Key_S, Qt::AltModifier);
+    QTest::keyClicks(viewer()->focusWidget(), "pipe");
+    EXPECT_EQ(viewer()->findChild<QHelpSearchQueryWidget *>()->findChild<QLineEdit *>()->text(), "pipe");
+}
+
 TEST_F(HelpTest, MayBeClosedWhileItReadsOrSearches) {
     for (int i = 0; i < 40; ++i) {
         show(HelpSearch);

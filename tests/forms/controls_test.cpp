@@ -44,7 +44,7 @@ TEST(Colours, NumbersAreBlueGreenRed) {
     EXPECT_EQ(toQColor(16697253), QColor(165, 199, 254));
     EXPECT_EQ(vbInfoBackground, -2147483624);
     EXPECT_EQ(toQColor(-2147483624), QApplication::palette().color(QPalette::ToolTipBase));
-    EXPECT_EQ(toQColor(vbButtonFace), QApplication::palette().color(QPalette::Button));
+    EXPECT_EQ(toQColor(vbButtonFace), QApplication::palette().color(QPalette::Window));
 }
 
 TEST(Colours, TextCanBeReadOnEveryBackInLightAndDark) {

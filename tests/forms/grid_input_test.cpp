@@ -64,6 +64,16 @@ protected:
 
 } // namespace
 
+TEST_F(GridInput, TheFocusCanBeSeenEvenWithoutARow) {
+    for (const int rows : {200, 0}) {
+        source.setRecordset(madeRecordset(rows));
+        view->setFocus();
+        const QImage focused = view->viewport()->grab().toImage();
+        view->clearFocus();
+        EXPECT_NE(view->viewport()->grab().toImage(), focused) << rows << " rows";
+    }
+}
+
 TEST_F(GridInput, HeadingsAndFootersTellTheirColumn) {
     QSignalSpy heads(&grid, &TDBGrid::HeadClick);
     QSignalSpy foots(&grid, &TDBGrid::FootClick);

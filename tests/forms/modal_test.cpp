@@ -80,6 +80,14 @@ TEST(ModalForm, KeepsThePlaceItWasGivenOrStandsOverItsOwner) {
     other->ShowModal(owner);
 }
 
+TEST(ModalForm, ClosesByEscapeEvenWithoutACancelButton) {
+    modal().driveForm([](Form &form) {
+        QTest::keyClick(&form, Qt::Key_Escape);
+        EXPECT_FALSE(form.isVisible());
+    });
+    NewForm<RecordingForm>()->ShowModal();
+}
+
 TEST(ModalForm, TheHourglassIsGoneWhileItWaitsForAPerson) {
     auto *working = NewForm<RecordingForm>();
     working->setMousePointer(vbHourglass);

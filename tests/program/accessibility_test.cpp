@@ -105,7 +105,6 @@ protected:
         });
         action();
         deleteUnloaded();
-        main().activateWindow(); // as a window manager does
     }
 };
 
@@ -166,6 +165,5 @@ TEST_F(Accessibility, OfTheReportsAndTheAboutWindow) {
     });
     command(main().menu.mnuFileElem, 3);
     deleteUnloaded();
-    main().activateWindow();
     checkModal("about", [&] { command(main().menu.mnuHelpElem, 4); });
 }

@@ -68,6 +68,9 @@ TEST(KeysOnly, FromTheStartWindowToAComposition) {
     EXPECT_EQ(window->tdbTable->Columns(1).Caption().left(1), "C");
     menuKeys("VMC");
     EXPECT_EQ(window->strCurrentTable, "CreepProp");
+    menuKeys("VD"); // the page that had the focus goes, and the box for the temperature takes it
+    type("100");
+    EXPECT_EQ(window->txtDesignTemp->text(), "100");
 
     key(Qt::Key_M, Qt::ControlModifier);
     deleteUnloaded();

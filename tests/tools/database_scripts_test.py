@@ -112,6 +112,8 @@ BROKEN_ROWS = [
     # tables over temperature
     ("UPDATE Rp02 SET thickness = -1 WHERE matID = 1 AND thickness = 16",
      ["Rp02: matID 1: thickness -1 is for no bands, but there is also a band to 250 mm"]),
+    ("UPDATE Rm SET Rm = NULL, temp = NULL WHERE matID = 11 AND temp = 50",
+     ["Rm: matID 11, thickness -1, ordering 1: no temp; the design values cannot be found without one"]),
     ("UPDATE Rm SET thickness = 0 WHERE matID = 11",
      ["Rm: matID 11: thickness 0 is neither the limit of a band nor -1, which is for no bands"]),
     ("UPDATE Rp10 SET ordering = 300 - ordering WHERE matID = 11 AND temp < 150",
@@ -143,7 +145,7 @@ HARMLESS = [
     "UPDATE MatNotes SET tableName = lower(tableName)",
     "UPDATE CreepProperties SET val = '-' WHERE ordering = 3",
     "UPDATE Rm SET Rm = '(' || Rm || ') *' WHERE matID = 11",
-    "UPDATE Rm SET Rm = NULL, temp = NULL WHERE matID = 11 AND temp = 50",
+    "UPDATE Rm SET Rm = NULL WHERE matID = 11 AND temp = 50",
     "UPDATE standard SET otherElem = 'Yes' WHERE otherElem",
     "ALTER TABLE Rp02 ADD COLUMN remark TEXT",
     "CREATE TABLE Remarks (a)",
@@ -232,6 +234,27 @@ class Scripts(unittest.TestCase):
         self.assertEqual(lines[:3], ["InfoTitle.csv: not in UTF-8",
                                      "ProdForm.csv: the first line must name each column once, as name:TYPE",
                                      "Units.csv, line 2: 3 cells under 2 columns"])
+
+    def test_text_of_another_form_is_told_and_not_guessed_at(self):
+        for old, new, told in (
+                ("matID:INT,temp:SINGLE,thickness:INT,ordering:LONG,Rm:TEXT(40)", "matID;temp;thickness;ordering;Rm",
+                 "Rm.csv: semicolons or tabs stand between the cells; commas are expected"),
+                ("temp:SINGLE", "temp:SINGLE(1",
+                 "Rm.csv: the first line has a type SINGLE(1; INT and TEXT(80) are types"),
+                ("11,50,-1", "11,nan,-1", "Rm: row 1, temp: 'nan' is no SINGLE"),
+                ("11,50,-1", "11,5_0,-1", "Rm: row 1, temp: '5_0' is no SINGLE"),
+                ("11,50,-1", "1" + "0" * 30 + ",50,-1",
+                 "Rm: row 1, matID: 1e+30 is beyond the range of INT, -32768 to 32767")):
+            with self.subTest(new):
+                shutil.copy(SAMPLE / "csv" / "Rm.csv", self.texts)
+                self.change("Rm", old, new)
+                status, lines = self.run_script("make_database", "csv")
+                self.assertEqual((status, lines[0]), (1, told))
+
+    def test_second_text_for_a_table_is_told(self):
+        shutil.copy(self.texts / "Rm.csv", self.texts / "rM.CSV")
+        status, lines = self.run_script("check_database", "csv")
+        self.assertEqual((status, lines[0].lower()), (1, 'rm.csv: table "rm" already exists'))
 
     def test_types_may_be_left_out_and_marks_of_spreadsheets_are_taken(self):
         heads = "matID:INT,temp:INT,ModElast:DOUBLE"

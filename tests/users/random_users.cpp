@@ -1,6 +1,7 @@
 // random_users [ACTIONS] [SEED]: sets random users to the program until they have done so much, in runs of
 // their own, and tells of each run-time error that ended one, with what led to it. The only errors that may
-// are those of a statement that a typed or pasted quotation mark or bracket has spoilt.
+// are those of a statement that a typed or pasted quotation mark or bracket has spoilt. The users have the
+// seeds SEED, SEED + 1 and so on, so that a seed near another one brings the same users again.
 #include <cstdio>
 #include <map>
 

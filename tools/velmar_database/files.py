@@ -11,6 +11,7 @@ from .schema import schema_for, type_of
 
 NULL = r"\N"
 KEYS = ("matid", "mid", "stid")  # what the program asks for the rows of a table by
+DECLARATION = re.compile(r"[A-Z][A-Z0-9/ _]*(\([0-9 ,]+\))?")
 ROWS_AT_ONCE = 5000
 
 
@@ -20,7 +21,8 @@ class Unreadable(Exception):
 
 def read_folder(folder):
     """An SQLite database in memory with the tables of the folder's texts, and the faults of the texts themselves."""
-    texts = sorted(Path(folder).glob("*.csv"), key=lambda path: path.name.lower())
+    texts = sorted((path for path in Path(folder).glob("*") if path.suffix.lower() == ".csv"),
+                   key=lambda path: path.name.lower())
     if not texts:
         raise Unreadable(f"{folder}: no texts here; one NAME.csv for each table is expected")
     database = connect(":memory:")
@@ -103,15 +105,24 @@ def _read_text(database, path, schema):
 
 def _read_lines(database, table, file_name, usual, lines):
     heads = next(lines, [])
+    if len(heads) == 1 and re.search("[;\t]", heads[0]):
+        return [f"{file_name}: semicolons or tabs stand between the cells; commas are expected"]
     columns = [_column(head, usual) for head in heads]
     names = [name.lower() for name, _ in columns]
     if not all(names) or len(set(names)) < len(names) or not names:
         return [f"{file_name}: the first line must name each column once, as name:TYPE"]
+    unclear = [f"{file_name}: the first line has a type {declaration}; INT and TEXT(80) are types"
+               for _, declaration in columns if not DECLARATION.fullmatch(declaration)]
+    if unclear:
+        return unclear
 
     # Memo texts are declared so that SQLite does not take a number-like one for a number.
     declared = ", ".join(f"{quoted(name)} {re.sub('^MEMO$', 'LONGTEXT', declaration)}"
                          for name, declaration in columns)
-    database.execute(f"CREATE TABLE {quoted(table)} ({declared})")
+    try:
+        database.execute(f"CREATE TABLE {quoted(table)} ({declared})")
+    except sqlite3.Error as error:  # a second text for one table, a name that SQLite keeps for itself
+        return [f"{file_name}: {error}"]
     insert = f"INSERT INTO {quoted(table)} VALUES ({', '.join('?' * len(columns))})"
     types = [type_of(declaration) for _, declaration in columns]
     faults, rows = [], []

@@ -210,6 +210,8 @@ def _elevated_rules(table):
     return [
         reference(table, ["matID"], "materials"),
         _calculable(table, table),
+        Rule(table, f"SELECT matID, thickness, ordering FROM {table} WHERE temp IS NULL",
+             "matID {0}, thickness {1}, ordering {2}: no temp; the design values cannot be found without one"),
         unique(table, ["matID", "thickness", "temp"], "a temperature has one value in each band"),
         Rule(table, f"SELECT DISTINCT matID, thickness FROM {table} WHERE thickness < 1 AND thickness <> -1",
              "matID {0}: thickness {1} is neither the limit of a band nor -1, which is for no bands"),

@@ -6,6 +6,8 @@ import re
 
 from .schema import INTEGER_TYPES, TYPE_RANGES
 
+PLAIN_NUMBER = re.compile(r"[+-]?([0-9]+(\.[0-9]*)?|\.[0-9]+)([eE][+-]?[0-9]+)?")
+LARGEST_WHOLE = 2**63 - 1  # of SQLite
 LARGEST_SINGLE = 3.4028234663852886e38
 TRUTHS = {"1": 1, "-1": 1, "true": 1, "yes": 1, "0": 0, "false": 0, "no": 0}
 
@@ -32,10 +34,11 @@ def value_of(text, type_name):
         return TRUTHS.get(text.lower(), text)
     if type_name == "DATE":
         return text
-    try:
-        return int(text) if type_name in INTEGER_TYPES else float(text)
-    except ValueError:
+    if not PLAIN_NUMBER.fullmatch(text):
         return text
+    number = float(text)
+    is_whole = type_name in INTEGER_TYPES and number.is_integer() and abs(number) < LARGEST_WHOLE
+    return int(number) if is_whole else number
 
 
 def number_of(value):
@@ -104,10 +107,8 @@ def _text_misfit(text, type_name):
             return f"'{text}' is no date; 2017-09-30 is one"
     if type_name == "BOOLEAN" and text.strip().lower() in TRUTHS:
         return None
-    try:
+    if PLAIN_NUMBER.fullmatch(text.strip()):
         return misfit(float(text), type_name)
-    except ValueError:
-        pass
     if number_of(text) is not None:
         return f"'{text}': a column of numbers takes a decimal point, no comma"
     return f"'{text}' is no {type_name}"

@@ -9,8 +9,9 @@ HelpBrowser::HelpBrowser(const QHelpEngineCore &engine, QWidget *parent)
     QPalette paper = palette();
     paper.setColor(QPalette::Base, Qt::white);
     paper.setColor(QPalette::Text, Qt::black);
-    paper.setColor(QPalette::Link, QColor(0x0b57a4));
     setPalette(paper);
+    // A link takes the desktop's colour at the reading of the page, not that of this palette.
+    document()->setDefaultStyleSheet(QStringLiteral("a { color: #0b57a4; }"));
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name) {

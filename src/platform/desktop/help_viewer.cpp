@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -64,14 +65,23 @@ void HelpViewer::build() {
     auto *contents = m_engine->contentWidget();
     named(contents, QStringLiteral("HelpContents"), QStringLiteral("Contents"));
     connect(contents, &QHelpContentWidget::linkActivated, this, &HelpViewer::followLink);
-    connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, this, [this, contents] {
+    const auto markTopic = [contents](const QUrl &topic) {
+        contents->setCurrentIndex(contents->indexOf(topic));
+    };
+    connect(m_browser, &QTextBrowser::sourceChanged, this, markTopic);
+    connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, this, [this, contents, markTopic] {
         contents->expandAll();
         if (m_browser->source().isEmpty()) m_browser->setSource(firstTopic());
+        markTopic(m_browser->source());
     });
     m_pages = named(new QTabWidget, QStringLiteral("HelpPages"), tr("Contents, index and search"));
     m_pages->addTab(contents, QStringLiteral("&Contents"));
     m_pages->addTab(buildIndexPage(), QStringLiteral("&Index"));
     m_pages->addTab(buildSearchPage(), QStringLiteral("&Search"));
+    connect(m_pages, &QTabWidget::currentChanged, this, [this] {
+        // Arrows go from tab to tab; a page that is asked for by its letter is to be used.
+        if (!m_pages->tabBar()->hasFocus()) m_pages->currentWidget()->setFocus();
+    });
 
     auto *splitter = new QSplitter;
     splitter->addWidget(m_pages);

@@ -22,7 +22,7 @@ constexpr QPalette::ColorRole systemRoles[] = {
     QPalette::Dark,            // application workspace
     QPalette::Highlight,       // highlight
     QPalette::HighlightedText, // highlighted text
-    QPalette::Button,          // button face
+    QPalette::Window,          // button face, which dialogs have too
     QPalette::Mid,             // button shadow
     QPalette::PlaceholderText, // grey text
     QPalette::ButtonText,      // button text

@@ -131,8 +131,8 @@ void Form::ShowModal(QWidget *owner) {
         if (!drive) return;
     }
 
-    const QPointer<QWidget> below = QApplication::activeWindow();
-    standAbove(owner != nullptr ? owner : below.data());
+    const QPointer<QWidget> below = owner != nullptr ? owner : QApplication::activeWindow();
+    standAbove(below);
     const PointerPause pause;
     QEventLoop loop;
     QPointer<Form> self(this);
@@ -153,9 +153,12 @@ void Form::ShowModal(QWidget *owner) {
         });
     }
     if (self && m_modalLoop != nullptr) loop.exec(QEventLoop::DialogExec);
-    // Where two windows close at once, some desktops would leave the keyboard to none.
-    if (below && below->isVisible() && QApplication::applicationState() == Qt::ApplicationActive)
-        below->activateWindow();
+    // Of two modal windows that close in one go, some window managers leave the keyboard to the lower one.
+    if (!below || QGuiApplication::applicationState() != Qt::ApplicationActive) return;
+    QTimer::singleShot(0, below, [below] {
+        const QWidget *modal = QApplication::activeModalWidget();
+        if (below->isVisible() && (modal == nullptr || modal == below->window())) below->activateWindow();
+    });
 }
 
 void Form::standAbove(QWidget *owner) {
@@ -214,8 +217,12 @@ void Form::keyPressEvent(QKeyEvent *event) {
         auto *focused = qobject_cast<QAbstractButton *>(focusWidget());
         if (focused && focused->isCheckable()) focused = nullptr;
         if (press(focused) || press(m_defaultButton)) return;
-    } else if (event->key() == Qt::Key_Escape && press(m_cancelButton)) {
-        return;
+    } else if (event->key() == Qt::Key_Escape) {
+        if (press(m_cancelButton)) return;
+        if (m_cancelButton == nullptr && m_modalLoop != nullptr) {
+            close();
+            return;
+        }
     }
     QWidget::keyPressEvent(event);
 }

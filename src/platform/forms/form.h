@@ -37,7 +37,8 @@ public:
     void setBorderless();
     void setIcon(const QIcon &icon);
 
-    /// The buttons that Enter and Escape press when the control in use has no use for the key.
+    /// The buttons that Enter and Escape press when the control in use has no use for the key. Without a
+    /// cancel button Escape closes a modal form.
     void setDefaultButton(QAbstractButton *button);
     void setCancelButton(QAbstractButton *button);
 

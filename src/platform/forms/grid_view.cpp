@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStringList>
 
@@ -167,6 +168,15 @@ void GridView::resizeEvent(QResizeEvent *event) {
 void GridView::verticalScrollbarValueChanged(int value) {
     QTableView::verticalScrollbarValueChanged(value);
     fitVisibleRows();
+}
+
+/// Without a row no cell can show that the keyboard is here.
+void GridView::paintEvent(QPaintEvent *event) {
+    QTableView::paintEvent(event);
+    if (!hasFocus() || m_model.rowCount() > 0) return;
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -2, -2));
 }
 
 void GridView::startCellDrag() {

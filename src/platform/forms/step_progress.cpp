@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QGuiApplication>
 #include <QProgressBar>
 
 namespace {
@@ -11,7 +10,6 @@ constexpr int BarWidth = 180;
 
 StepProgress::StepProgress(QWidget &place, int steps)
     : m_bar(std::make_unique<QProgressBar>(&place)) {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     m_bar->setObjectName(QStringLiteral("StepProgress"));
     m_bar->setRange(0, steps);
     m_bar->setValue(0);
@@ -23,9 +21,7 @@ StepProgress::StepProgress(QWidget &place, int steps)
     m_bar->repaint();
 }
 
-StepProgress::~StepProgress() {
-    QGuiApplication::restoreOverrideCursor();
-}
+StepProgress::~StepProgress() = default;
 
 void StepProgress::step() {
     m_bar->setValue(m_bar->value() + 1);

@@ -3,6 +3,8 @@
 
 #include <memory>
 
+#include "platform/forms/busy_pointer.h"
+
 class QProgressBar;
 class QWidget;
 
@@ -19,5 +21,6 @@ public:
     void step();
 
 private:
+    BusyPointer m_busy;
     std::unique_ptr<QProgressBar> m_bar;
 };

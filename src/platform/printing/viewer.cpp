@@ -16,6 +16,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "platform/forms/busy_pointer.h"
 #include "platform/forms/msg_box.h"
 #include "platform/printing/arrow_icon.h"
 #include "platform/printing/page_view.h"
@@ -202,6 +203,7 @@ void Viewer::print() {
     printer.setDocName(m_document.title);
     if (!m_choosePrinter(printer)) return;
     try {
+        const BusyPointer busy;
         printDocument(m_document, printer);
     } catch (const RuntimeError &error) {
         MsgBox(error.description(), vbExclamation, windowTitle());
