@@ -6,6 +6,7 @@
 #include "platform/forms/grid_model.h"
 #include "platform/forms/grid_view.h"
 #include "platform/forms/legible_text.h"
+#include "platform/forms/number_blanks.h"
 
 namespace {
 
@@ -17,15 +18,18 @@ QColor mixed(const QColor &under, const QColor &over, double share) {
 
 constexpr double CurrentRowShare = 0.4;
 
-/// Where not even the mark of a cut text has room, the cell would look empty, as if it held no value.
-void makeRoomForEllipsis(QStyleOptionViewItem &option) {
+int textWidth(const QStyleOptionViewItem &option) {
     const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, option.widget) + 1;
-    const int room = option.rect.width() - 2 * margin;
+    return option.rect.width() - 2 * margin;
+}
+
+/// Where not even the mark of a cut text has room, the cell would look empty, as if it held no value.
+void makeRoomForEllipsis(QStyleOptionViewItem &option) {
+    const int room = textWidth(option);
     const QFontMetrics metrics(option.font);
     const int needed = metrics.horizontalAdvance(QChar(0x2026));
-    const bool wraps = option.features.testFlag(QStyleOptionViewItem::WrapText);
-    if (wraps || room <= 0 || room >= needed || metrics.horizontalAdvance(option.text) <= room) return;
+    if (room <= 0 || room >= needed || metrics.horizontalAdvance(option.text) <= room) return;
     option.font.setPixelSize(std::max(1, QFontInfo(option.font).pixelSize() * room / needed));
     option.fontMetrics = QFontMetrics(option.font);
 }
@@ -54,9 +58,13 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 
 void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
     QStyledItemDelegate::initStyleOption(option, index);
-    option->features.setFlag(QStyleOptionViewItem::WrapText, m_model.column(index.column()).WordWrap());
+    const bool wraps = m_model.column(index.column()).WordWrap();
+    option->features.setFlag(QStyleOptionViewItem::WrapText, wraps);
     if (!m_view->rowsGrow()) option->text.replace(QChar::LineSeparator, QLatin1Char(' '));
-    makeRoomForEllipsis(*option);
+    if (wraps)
+        option->text = withUnbrokenNumbers(option->text, option->fontMetrics, textWidth(*option));
+    else
+        makeRoomForEllipsis(*option);
 
     // One cell is always selected, the current one: while the keyboard is elsewhere it would read as a
     // choice.

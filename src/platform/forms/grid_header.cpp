@@ -6,6 +6,7 @@
 #include <QSvgRenderer>
 
 #include "platform/forms/grid_model.h"
+#include "platform/forms/number_blanks.h"
 
 namespace {
 constexpr int Margin = 4;
@@ -62,7 +63,8 @@ void GridHeader::paintSection(QPainter *painter, const QRect &rect, int index) c
     } else {
         painter->setPen(colour);
         const Qt::Alignment alignment = m_model.column(index).HeadAlignment() | Qt::AlignVCenter;
-        painter->drawText(inner, int(alignment) | Qt::TextWordWrap, text(index));
+        painter->drawText(inner, int(alignment) | Qt::TextWordWrap,
+                          withUnbrokenNumbers(text(index), fontMetrics(), inner.width()));
     }
     painter->restore();
 }
@@ -98,8 +100,8 @@ QSize GridHeader::headingSize(int index, int width) const {
     Measured &measured = m_measured[static_cast<std::size_t>(index)];
     if (const QString heading = text(index); measured.width != width || measured.text != heading) {
         const QRect bounds(0, 0, qMax(width, 1), QWIDGETSIZE_MAX);
-        const QRect place =
-            fontMetrics().boundingRect(bounds, int(Qt::AlignLeft) | Qt::TextWordWrap, heading);
+        const QRect place = fontMetrics().boundingRect(bounds, int(Qt::AlignLeft) | Qt::TextWordWrap,
+                                                       withUnbrokenNumbers(heading, fontMetrics(), width));
         measured = {heading, width, place.size()};
     }
     return measured.size;

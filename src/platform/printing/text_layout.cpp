@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QTextLayout>
 
+#include "platform/forms/number_blanks.h"
 #include "platform/runtime/twips.h"
 
 namespace Printing {
@@ -86,7 +87,8 @@ void breakLines(Element &element, bool wordWrap) {
 
     QString laidOut = element.text;
     laidOut.replace(QLatin1Char('\n'), QChar::LineSeparator);
-    QTextLayout layout(laidOut, twipsFont(element.Font));
+    const QFont font = twipsFont(element.Font);
+    QTextLayout layout(withUnbrokenNumbers(laidOut, QFontMetricsF(font), innerWidth(element)), font);
     QTextOption option;
     option.setWrapMode(wordWrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::ManualWrap);
     layout.setTextOption(option);
@@ -94,7 +96,7 @@ void breakLines(Element &element, bool wordWrap) {
     int top = 0;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(innerWidth(element));
-        endAtBlank(line, laidOut);
+        endAtBlank(line, layout.text());
         TextLine broken;
         broken.start = line.textStart();
         broken.text = laidOut.mid(line.textStart(), line.textLength());

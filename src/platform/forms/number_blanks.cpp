@@ -1,0 +1,16 @@
+#include "platform/forms/number_blanks.h"
+
+#include <QRegularExpression>
+
+QString withUnbrokenNumbers(const QString &text, const QFontMetricsF &metrics, double width) {
+    if (!text.contains(QLatin1Char(' '))) return text;
+    static const QRegularExpression groups(QStringLiteral("(?<!\\d)\\d{1,3}(?: \\d{3})+(?!\\d)"));
+    QString result = text;
+    for (auto found = groups.globalMatch(text); found.hasNext();) {
+        const QRegularExpressionMatch number = found.next();
+        if (metrics.horizontalAdvance(number.captured()) > width) continue;
+        for (qsizetype i = number.capturedStart(); i < number.capturedEnd(); ++i)
+            if (text[i] == QLatin1Char(' ')) result[i] = QChar::Nbsp;
+    }
+    return result;
+}
