@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QThread>
 
 #include "platform/desktop/help.h"
 #include "platform/desktop/help_viewer.h"
@@ -149,6 +150,24 @@ TEST_F(HelpTest, MayBeClosedWhileItReadsOrSearches) {
         if (i % 2 == 0) Q_EMIT query->search();
         delete viewer();
     }
+}
+
+/// The engine cannot be closed in the second of two searches at a time: the end of the first looks like
+/// both's.
+TEST_F(HelpTest, ASearchWaitsForTheOneBefore) {
+    show(HelpSearch);
+    auto *query = viewer()->findChild<QHelpSearchQueryWidget *>();
+    int ended = 0;
+    QObject::connect(viewer()->findChild<QHelpSearchEngine *>(), &QHelpSearchEngine::searchingFinished,
+                     [&] { ++ended; });
+    query->setSearchInput("crankshafts");
+    for (int i = 0; i < 3; ++i) {
+        Q_EMIT query->search();
+        QThread::msleep(20); // long enough for a search
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ended == 2; })) << "the first and the last";
+    QTest::qWait(50);
+    EXPECT_EQ(ended, 2);
 }
 
 TEST_F(HelpTest, AMissingOrDamagedFileIsToldAndNothingElseHappens) {

@@ -1,7 +1,6 @@
 #include "platform/desktop/help_viewer.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QHelpContentModel>
 #include <QHelpContentWidget>
@@ -45,6 +44,7 @@ HelpViewer::HelpViewer(const QString &file)
 
 HelpViewer::~HelpViewer() {
     // The engine reads in threads of its own, and cannot be taken apart while one is at work.
+    m_searchesAgain = false;
     const QDeadlineTimer deadline(LongestWork);
     while (isAtWork() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
@@ -143,15 +143,26 @@ QWidget *HelpViewer::buildSearchPage() {
     named(search->resultWidget(), QStringLiteral("HelpSearchResult"), QStringLiteral("Topics found"));
     layout->addWidget(search->queryWidget());
     layout->addWidget(search->resultWidget(), 1);
-    connect(search->queryWidget(), &QHelpSearchQueryWidget::search, this, [this, search] {
-        m_searching = true;
-        search->search(search->queryWidget()->searchInput());
-    });
-    connect(search, &QHelpSearchEngine::searchingFinished, this, [this] { m_searching = false; });
+    connect(search->queryWidget(), &QHelpSearchQueryWidget::search, this, &HelpViewer::search);
+    connect(search, &QHelpSearchEngine::searchingFinished, this, &HelpViewer::searchEnded);
     connect(search->resultWidget(), &QHelpSearchResultWidget::requestShowLink, this, &HelpViewer::followLink);
     page->setFocusProxy(search->queryWidget());
     search->reindexDocumentation();
     return page;
+}
+
+/// Of two searches at a time one would end unseen: a search that is cancelled in time says nothing.
+void HelpViewer::search() {
+    m_searchesAgain = m_searching && !m_searchDeadline.hasExpired();
+    if (m_searchesAgain) return;
+    m_searching = true;
+    m_searchDeadline.setRemainingTime(LongestWork);
+    m_engine->searchEngine()->search(m_engine->searchEngine()->queryWidget()->searchInput());
+}
+
+void HelpViewer::searchEnded() {
+    m_searching = false;
+    if (m_searchesAgain) search();
 }
 
 void HelpViewer::open(HelpCommand command, const QString &topic) {

@@ -1,6 +1,7 @@
 // The window in which help is read.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -33,6 +34,9 @@ private:
     QUrl urlOfTopic(const QString &topic) const;
     QUrl firstTopic() const;
     void followLink(const QUrl &url);
+    /// For what the search page asks, as soon as the search before has ended.
+    void search();
+    void searchEnded();
 
     QString m_file;
     QString m_failure;
@@ -43,4 +47,6 @@ private:
     QTabWidget *m_pages = nullptr;
     HelpBrowser *m_browser = nullptr;
     bool m_searching = false;
+    QDeadlineTimer m_searchDeadline;
+    bool m_searchesAgain = false;
 };
