@@ -16,8 +16,8 @@ namespace {
 
 const QString Contact =
     QStringLiteral("Harmotek\r\n\r\nQuestions, and errors that you find, are welcome: please tell the "
-                   "version and the date of the "
-                   "last update above, and where an error log was written, send a copy of it.");
+                   "version and the date of the last update above, and where an error log was written, "
+                   "send a copy of it.");
 
 } // namespace
 

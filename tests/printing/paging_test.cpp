@@ -266,6 +266,24 @@ TEST(Paging, ATableCutWithinASectionHasItsCaptionsOnEachPage) {
     EXPECT_EQ(report.document().blocks[0].rows.size(), 121U); // the files have them once
 }
 
+TEST(Paging, ARowAsHighAsAPageGoesWithoutItsCaptions) {
+    TestReport report;
+    Section &block = report.AddSection(SectionType::ReportHeader, "block");
+    const int highest = 16838 - 2 * 850;
+    const std::pair<const char *, QRect> cells[] = {{"caption", {0, 0, 1155, 400}},
+                                                    {"first", {0, 400, 1155, RowHeight}},
+                                                    {"high", {0, 400 + RowHeight, 1155, highest - 200}}};
+    for (const auto &[text, box] : cells) {
+        auto &cell = place<Label>(block, text, box, text);
+        cell.Border = BorderStyles::all();
+        cell.BackStyle = box.top() == 0 ? 1 : 0;
+    }
+    const auto &pages = report.Run().pages;
+    ASSERT_EQ(pages.size(), 2U);
+    ASSERT_EQ(textsOf(pages[1]), QStringList({"high"}));
+    EXPECT_EQ(pages[1].elements[0].box.top(), Top);
+}
+
 TEST(Paging, TheOutlineMayCallAHeadingByAnotherName) {
     TestReport report;
     Section &section = addTextSection(report, SectionType::ReportHeader, "Title", 300);

@@ -71,18 +71,6 @@ std::vector<Element> captionsOf(const Band &above, const Band &below) {
     return captions;
 }
 
-void repeatCaptions(const Band &above, Band &below) {
-    const std::vector<Element> captions = captionsOf(above, below);
-    // a row for which a page has no room beside its captions goes without them
-    const bool hasRows = !above.elements.empty() && !isCaption(above.elements.back());
-    if (captions.empty() || !hasRows) return;
-    const int height = captions.front().box.height();
-    for (Element &element : below.elements)
-        element.box.translate(0, height);
-    below.elements.insert(below.elements.begin(), captions.begin(), captions.end());
-    below.height += height;
-}
-
 } // namespace
 
 std::vector<int> cutPlaces(const Band &band) {
@@ -131,8 +119,19 @@ std::pair<Band, Band> cutBand(const Band &band, int place) {
             below.elements.push_back(lower);
         }
     }
-    repeatCaptions(above, below);
     return {above, below};
+}
+
+Band withCaptions(const Band &above, const Band &below) {
+    const std::vector<Element> captions = captionsOf(above, below);
+    Band result = below;
+    if (captions.empty()) return result;
+    const int height = captions.front().box.height();
+    for (Element &element : result.elements)
+        element.box.translate(0, height);
+    result.elements.insert(result.elements.begin(), captions.begin(), captions.end());
+    result.height += height;
+    return result;
 }
 
 } // namespace Printing

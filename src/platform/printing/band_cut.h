@@ -11,7 +11,10 @@ namespace Printing {
 /// or caption and not so that one line of several stands alone. Empty for what has no such place.
 std::vector<int> cutPlaces(const Band &band);
 
-/// The parts above and below `place`. Where rows of cells go on below, their captions are there again.
+/// The parts above and below `place`.
 std::pair<Band, Band> cutBand(const Band &band, int place);
+
+/// The part below, where rows of cells go on in it with their captions once more.
+Band withCaptions(const Band &above, const Band &below);
 
 } // namespace Printing

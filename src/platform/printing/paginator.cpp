@@ -9,10 +9,13 @@ namespace Printing {
 
 namespace {
 
-int firstPiece(const Band &band) {
-    if (!band.isBreakable) return band.height;
+int smallestPiece(const Band &band) {
     const std::vector<int> places = cutPlaces(band);
     return places.empty() ? band.height : places.front();
+}
+
+int firstPiece(const Band &band) {
+    return band.isBreakable ? smallestPiece(band) : band.height;
 }
 
 int heightOfHeadings(const Band &band) {
@@ -106,12 +109,15 @@ void Paginator::place(const Band &band) {
             if (candidate <= room) place = candidate;
         if (place == 0) {
             if (m_isFresh) break;
-        } else {
-            auto [above, below] = cutBand(rest, place);
-            placeElements(above, false);
-            rest = std::move(below);
+            continueOnNewPage(rest);
+            continue;
         }
-        continueOnNewPage(rest);
+        auto [above, below] = cutBand(rest, place);
+        placeElements(above, false);
+        continueOnNewPage(below);
+        // A row for which the page has no room beside its captions goes without them.
+        const Band captioned = withCaptions(above, below);
+        rest = m_y + smallestPiece(captioned) <= m_bottom ? captioned : below;
     }
     placeElements(rest, false);
 }
