@@ -148,11 +148,11 @@ void SelectedList::showCount() {
 
 void SelectedList::show() {
     if (mdiVelmar::instance().colMaterials.Count() == 0) return;
-    open();
+    OpenSelectedMaterials();
     mdiVelmar::instance().ShowStatus(1);
 }
 
-void SelectedList::open() {
+void SelectedList::OpenSelectedMaterials() {
     mdiVelmar &main = mdiVelmar::instance();
     main.setMousePointer(vbHourglass);
     openWindows();
@@ -172,7 +172,7 @@ void SelectedList::printAll() {
     mdiVelmar &main = mdiVelmar::instance();
     if (main.colMaterials.Count() == 0) return;
     main.bBatchPrint = true;
-    open();
+    OpenSelectedMaterials();
     main.DoBatchPrint();
     main.bBatchPrint = false;
     main.SelectMaterials();

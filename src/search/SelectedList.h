@@ -22,13 +22,14 @@ public:
 
     void refresh(const QString &order);
     void show();
-    void open();
     /// In one document, by windows that stay invisible.
     void printAll();
 
 private:
     bool batchOffered() const;
     bool mayAdd() const;
+    /// Each in a window, in the place of the search.
+    void OpenSelectedMaterials();
     void fillBin();
     void showCount();
     void openWindows();

@@ -135,7 +135,3 @@ void frmSearch::RefreshSelected(const QString &order) {
 void frmSearch::ShowSelections() {
     m_selected->show();
 }
-
-void frmSearch::OpenSelectedMaterials() {
-    m_selected->open();
-}

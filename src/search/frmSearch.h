@@ -28,8 +28,6 @@ public:
     void RefreshSelected(const QString &order);
     /// Opens the selected materials, each in a window, in the place of this one. Without any nothing happens.
     void ShowSelections();
-    /// The same without a look at whether there are any, and without a status message.
-    void OpenSelectedMaterials();
 
     /// The newest revision of a standard; invalid where there is no standard.
     QDateTime mLatestRevision;

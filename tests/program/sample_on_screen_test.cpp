@@ -1,95 +1,99 @@
-// Every value of every grade of the sample, as it stands on the screen, against the texts it was made from.
+// Everything that the sample holds of every grade, as it stands on the screen, against the texts it was made
+// from.
 #include <gtest/gtest.h>
 
 #include "data/cell_values.h"
 #include "data/table_vocabulary.h"
 #include "material/frmMaterial2.h"
-#include "tests/support/csv_table.h"
 #include "tests/support/gui.h"
 #include "tests/support/program.h"
+#include "tests/support/sample_pages.h"
 
 namespace {
 
 constexpr int Grades = 38;
 
-/// Place and value of each cell that says something, in an order of their own.
-QStringList sorted(QStringList cells) {
-    cells.sort();
-    return cells;
-}
-
-void addCell(QStringList &cells, const QString &row, const QString &column, const QString &value) {
-    if (!isNoValue(value)) cells << row + " / " + column + ": " + value;
-}
-
-/// A table over temperature: its other columns are values, or one of them is and `thickness` names its place.
-QMap<int, QStringList> valuesOverTemperature(const CsvTable &text) {
-    QMap<int, QStringList> cells;
-    for (const QVector<QVariant> &row : text.rows) {
-        QString band;
-        for (qsizetype i = 2; i < row.size(); ++i) {
-            const QString &name = text.fields[i].name;
-            if (name == "thickness" && row[i].toInt() != -1) band = row[i].toString();
-            if (name == "thickness" || name == "ordering") continue;
-            addCell(cells[row[0].toInt()], cellText(row[1]), band.isEmpty() ? name : band, cellText(row[i]));
-        }
+SamplePage shown(const TDBGrid &grid) {
+    SamplePage page;
+    if (grid.isHidden()) return page;
+    QList<int> columns;
+    for (int column = 0; column < grid.ColumnCount(); ++column) {
+        if (!grid.Columns(column).Visible()) continue;
+        columns << column;
+        page.headings << grid.Columns(column).Caption();
     }
-    return cells;
-}
-
-/// The rows of the text stand in their order, and so do the cells of a row.
-QMap<int, QStringList> valuesByPlace(const CsvTable &text) {
-    QMap<int, QStringList> cells;
-    int grade = 0, rowNo = 0, row = 0, column = 0;
-    for (const QVector<QVariant> &cell : text.rows) {
-        const bool newGrade = cell[0].toInt() != grade;
-        const bool newRow = newGrade || cell[1].toInt() != rowNo;
-        row = newGrade ? 0 : newRow ? row + 1 : row;
-        column = newRow ? 0 : column + 1;
-        grade = cell[0].toInt();
-        rowNo = cell[1].toInt();
-        addCell(cells[grade], QString::number(row), QString::number(column), cellText(cell[4]));
-    }
-    return cells;
-}
-
-QStringList shown(TDBGrid &grid, bool overTemperature) {
-    QStringList cells;
     for (int row = 0; row < grid.RowCount(); ++row) {
-        for (int column = overTemperature ? 1 : 0; column < grid.ColumnCount(); ++column) {
-            if (!grid.Columns(column).Visible()) continue;
-            addCell(cells, overTemperature ? grid.CellText(row, 0) : QString::number(row),
-                    overTemperature ? grid.Columns(column).DataField() : QString::number(column),
-                    grid.CellText(row, column));
-        }
+        page.rows << QStringList();
+        for (const int column : columns)
+            page.rows.last() << grid.CellText(row, column);
     }
-    return cells;
+    return page;
 }
+
+std::string told(const SamplePage &page) {
+    QString text = page.headings.join(" | ").replace("\r\n", "/");
+    for (const QStringList &row : page.rows)
+        text += '\n' + row.join(" | ");
+    return text.toStdString();
+}
+
+class SampleOnScreen : public ::testing::Test {
+protected:
+    frmMaterial2 &open(int matID) { return m_program.open(m_program.material(matID)); }
+    static void close(frmMaterial2 &window) {
+        window.Unload();
+        deleteUnloaded();
+    }
+
+    SamplePages sample{SOURCE_FOLDER "/sample/csv", cellText};
+
+private:
+    TestProgram m_program;
+};
 
 } // namespace
 
-TEST(SampleOnScreen, EveryPropertyValueStandsInItsPlace) {
-    const TestProgram program;
-    const auto text = [](const QString &table) {
-        return CsvTable::read(SOURCE_FOLDER "/sample/csv/" + table + ".csv");
-    };
-    QMap<QString, QMap<int, QStringList>> expected{{"MechProp", valuesByPlace(text("MechPropData"))},
-                                                   {"CreepProp", valuesByPlace(text("CreepProperties"))}};
-    for (const char *key : {"ImpEnergy", "Rp02", "Rp10", "Rm", "ModElast", "ThermExp", "ThermCond",
-                            "SpecThermCap", "SpecElecRes"})
-        expected[key] = valuesOverTemperature(text(key));
-
+TEST_F(SampleOnScreen, EveryTableHasItsHeadingsRowsAndNotes) {
     for (int matID = 1; matID <= Grades; ++matID) {
-        frmMaterial2 &window = program.open(program.material(matID));
-        for (auto table = expected.cbegin(); table != expected.cend(); ++table) {
-            window.ShowTable(table.key());
-            const bool unbound = TableVocabulary::isUnbound(table.key());
-            TDBGrid &grid = unbound ? *window.tdbTable : *window.tdbBoundTable;
-            EXPECT_EQ(sorted(grid.isHidden() ? QStringList() : shown(grid, !unbound)),
-                      sorted(table->value(matID)))
-                << matID << ' ' << table.key().toStdString();
+        frmMaterial2 &window = open(matID);
+        for (int i = 1; i < TableVocabulary::TableCount - 1; ++i) {
+            const QString key = TableVocabulary::GetShortTableName(i);
+            window.ShowTable(key);
+            const TDBGrid &grid = TableVocabulary::isUnbound(key) ? *window.tdbTable : *window.tdbBoundTable;
+            const SamplePage page = shown(grid);
+            const SamplePage expected = sample.page(matID, key);
+            EXPECT_TRUE(page == expected) << matID << ' ' << key.toStdString() << "\nis\n"
+                                          << told(page) << "\nand not\n"
+                                          << told(expected);
+            EXPECT_EQ(window.txtNotes->toPlainText(), sample.notes(matID, key))
+                << matID << ' ' << key.toStdString();
         }
-        window.Unload();
-        deleteUnloaded();
+        close(window);
+    }
+}
+
+TEST_F(SampleOnScreen, EveryGradeHasItsReferencesAndInformation) {
+    for (int matID = 1; matID <= Grades; ++matID) {
+        frmMaterial2 &window = open(matID);
+        const SamplePages::Row grade = sample.grade(matID);
+        const SamplePages::Row standard = sample.standardOf(matID);
+        const QStringList forms = sample.productForms(matID);
+        const QStringList boxes{sample.text(standard, "standard"),
+                                sample.text(standard, "description"),
+                                sample.text(grade, "name"),
+                                sample.text(grade, "description"),
+                                sample.text(grade, "numbr"),
+                                sample.text(grade, "groups"),
+                                sample.text(grade, "revision_date"),
+                                forms.join(", "),
+                                sample.text(standard, "revision_date")};
+        for (int i = 0; i < boxes.size(); ++i) {
+            const bool leftEmpty = i == 7 && forms.isEmpty();
+            EXPECT_EQ(window.txtMainData(i)->toPlainText(), leftEmpty ? QString() : " " + boxes[i])
+                << matID << " box " << i;
+        }
+        window.ShowTable("AddInfo");
+        EXPECT_EQ(window.txtNotes->toPlainText(), sample.additionalInfo(matID)) << matID;
+        close(window);
     }
 }
