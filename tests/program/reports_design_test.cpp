@@ -115,3 +115,34 @@ TEST_F(DesignReport, WhateverATablesWidthNoValueLeavesThePage) {
                 EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
     }
 }
+
+TEST_F(DesignReport, ACreepColumnWiderThanThePageStaysOnIt) {
+    frmMaterial2 &window = open(SampleGrades::P265GH);
+    window.ShowTable("Design");
+    window.txtDesignTemp->setText("100");
+    for (int wide : {0, 1, 3}) {
+        QVector<float> sizes(5, 1250);
+        sizes[wide] = 30000;
+        material->setMechCreepColSize("CreepProp", sizes);
+        actRepDesign made;
+        made.Run();
+        const QString printed = gridText(made.document());
+        for (const char *value : {"241", "232", "223", "196", "182", "169"})
+            EXPECT_EQ(printed.count(value), 1) << value << ' ' << wide;
+        for (const Page &page : made.document().pages)
+            for (const Element &element : page.elements)
+                EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+    }
+}
+
+TEST_F(DesignReport, ABlockThatBeginsAPageTellsTheTemperature) {
+    const int row = 283;
+    run(SampleGrades::TubeMo3, "500");
+    actRepDesign pushed;
+    pushed.PageSetup.PaperHeight = pushed.PageSetup.TopMargin + pushed.PageSetup.BottomMargin + 13 * row;
+    pushed.Run();
+    ASSERT_GT(pushed.document().pages.size(), 1U);
+    for (const Page &page : pushed.document().pages)
+        EXPECT_TRUE(std::any_of(page.elements.begin(), page.elements.end(),
+                                [](const Element &element) { return element.text == "500 °C"; }));
+}
