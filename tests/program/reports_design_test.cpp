@@ -1,4 +1,6 @@
 // The sub-report of design values.
+#include <QRegularExpression>
+
 #include "platform/printing/text_output.h"
 #include "reports/actRepDesign.h"
 #include "tests/program/reports_fixture.h"
@@ -29,7 +31,11 @@ TEST_F(DesignReport, ShowsTheTablesTheTemperatureAndTheKey) {
     run(SampleGrades::P265GH, "100");
     EXPECT_EQ(text("ghDesignTemp", "txtDesignTemp"), "100 °C");
     EXPECT_FALSE(report.Sections("gfExtended").Visible);
-    const QString printed = gridText(report.document()).simplified();
+    const QString lines = gridText(report.document());
+    EXPECT_EQ(lines.count(QRegularExpression("\n-[-+]+\n")), 5)
+        << "between six tables: " << qPrintable(lines);
+    EXPECT_TRUE(lines.contains("(  ) - 16mm")) << qPrintable(lines);
+    const QString printed = lines.simplified();
     EXPECT_TRUE(printed.contains("(16) - 40mm")) << qPrintable(printed);
     EXPECT_TRUE(printed.contains("| 241 | 232 | 223 | 196 | 182 | 169 |")) << qPrintable(printed);
     EXPECT_EQ(printed.count("KEY"), 1);
