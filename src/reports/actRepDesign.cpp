@@ -52,7 +52,7 @@ actRepDesign::actRepDesign() {
     header.Height = 600;
     addLabel(header, "lblDesignTemp", "Temperature", 0, 0, LabelWidth, TitleHeight);
     addField(header, "txtDesignTemp", LabelWidth + 60, 0, 3000, TitleHeight).Font.Bold = true;
-    addLabel(header, "lblTable", "Table", 0, 300, LabelWidth, TitleHeight).Alignment = 2;
+    addLabel(header, "lblTable", "Table", 0, 300, LabelWidth, TitleHeight);
 
     AddSection(SectionType::GroupHeader, "ghExtended");
     Section &detail = AddSection(SectionType::Detail, "Detail");
@@ -67,12 +67,13 @@ actRepDesign::actRepDesign() {
 
     Section &block = AddSection(SectionType::GroupFooter, "gfExtended");
     block.Visible = false;
-    block.KeepTogether = true;
+    block.KeepTogether = block.BelowHeadings = true;
     Label &continued = addLabel(block, "lblContinued", "Continued...", 0, 150, PageWidth, TitleHeight);
     asHeading(continued, 2);
     continued.HeadingLevel = 0;
+    continued.KeepWithNext = true;
     Section &key = AddSection(SectionType::GroupFooter, "gfDesignValuesKey");
-    key.KeepTogether = true;
+    key.KeepTogether = key.BelowHeadings = true;
     addField(key, "txtKey", 0, 60, PageWidth, TitleHeight).Font.Size = FontSize;
     AddSection(SectionType::PageFooter, "PageFooter");
 }
@@ -97,7 +98,7 @@ void actRepDesign::DataInitialize() {
     if (bCreep) {
         aColSize = material.MechCreepColSize("CreepProp");
         bEmptyCol = window->EmptyCreepCols();
-        templateField("txtField1").Width = qRound(columnSize(1));
+        templateField("txtField1").Width = printedSize(1);
     }
     bExtended = testWidth();
     if (bExtended) {
@@ -108,6 +109,7 @@ void actRepDesign::DataInitialize() {
         addNamesToBlock(NamesColumn, bottomEdge(heading) + BlockGap);
     }
     m_lastField = &templateField("txtField1");
+    m_lastField->Visible = !isInBlock(1);
     for (int column = 2; column <= iLastCol && !isInBlock(column); ++column)
         addColumn(column);
     if (iFirstExtRow > 0) addBlockColumns();
@@ -127,6 +129,11 @@ float actRepDesign::columnSize(int column) const {
     return std::max(aColSize.value(column), static_cast<float>(SmallestColumn));
 }
 
+/// The same, but no wider than the page beside the tables' names.
+int actRepDesign::printedSize(int column) const {
+    return std::min(qRound(columnSize(column)), PageWidth - LabelWidth);
+}
+
 bool actRepDesign::testWidth() {
     int width = bCreep ? 0 : templateField("txtField0").Width;
     const int last = bCreep ? static_cast<int>(aColSize.size()) - 1 : iLastCol;
@@ -138,6 +145,8 @@ bool actRepDesign::testWidth() {
             iFirstExtCol = column;
             // empty creep columns have no column in the design table
             m_firstBlockColumn = column - static_cast<int>(bEmptyCol.mid(0, column).count(true));
+            // the tables' names stay where they are, whatever the width of the creep table's first column
+            m_firstBlockColumn = std::max(m_firstBlockColumn, 1);
             return true;
         }
     }
@@ -197,7 +206,7 @@ void actRepDesign::addNamesToBlock(const QString &column, int y) {
         asCell(cell);
         cell.VerticalAlignment = 0;
         cell.Font = label.Font;
-        cell.Font.Bold = true;
+        cell.Font.Bold = cell.KeepWithNext = true;
         cell.Visible = kind == RowKind::Caption && row <= LastLaidOutRow;
         cell.DataField = blockCellName(row, NamesColumn);
         if (column == NamesColumn) Fields.Add(cell.DataField);
@@ -208,12 +217,10 @@ void actRepDesign::addNamesToBlock(const QString &column, int y) {
 
 /// The width of the block's next column. Flagged creep columns have none.
 int actRepDesign::nextBlockWidth() {
-    if (m_creepColumn < 0)
-        m_creepColumn = iFirstExtCol;
-    else
-        while (bEmptyCol.value(m_creepColumn))
-            ++m_creepColumn;
-    return bCreep ? qRound(columnSize(m_creepColumn++)) : SmallestColumn;
+    if (m_creepColumn < 0) m_creepColumn = std::max(iFirstExtCol, 1);
+    while (bEmptyCol.value(m_creepColumn))
+        ++m_creepColumn;
+    return bCreep ? printedSize(m_creepColumn++) : SmallestColumn;
 }
 
 /// Columns for which the page has no more room stand further down, beside the names again, unless they are
@@ -268,6 +275,7 @@ void actRepDesign::placeBlockCell(Field &cell, int row, const Control *above, co
     switch (kindOf(row)) {
     case RowKind::Caption:
         cell.Height = CaptionHeight;
+        cell.KeepWithNext = true;
         frameRight(cell);
         break;
     case RowKind::Value:
@@ -316,6 +324,7 @@ void actRepDesign::Format(Section &section) {
         field.Font.Size = fontSize;
         if (row <= LastLaidOutRow) {
             field.Top = FieldTop;
+            field.KeepWithNext = kindOf(row) == RowKind::Caption;
             switch (kindOf(row)) {
             case RowKind::Caption:
                 field.Height = CaptionHeight;

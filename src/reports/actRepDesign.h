@@ -35,6 +35,7 @@ private:
                         const Printing::Control &previous, int width);
     int nextBlockWidth();
     float columnSize(int column) const;
+    int printedSize(int column) const;
 
     Printing::Field &templateField(const char *name) const;
     bool isExtendedRow(int row) const { return bExtRow.value(row); }

@@ -45,7 +45,7 @@ void addFirstColumnOfBlock(Section &block) {
 void addOtherElements(Section &section) {
     Label &label = addLabel(section, "lblOther", "Other Elements", 0, 90, PageWidth, 240);
     Field &text = addField(section, "txtOther", 0, 330, PageWidth, 240);
-    label.Font.Bold = true;
+    label.Font.Bold = label.KeepWithNext = true;
     label.Font.Size = text.Font.Size = 9;
 }
 
@@ -68,6 +68,7 @@ actRepUnBound::actRepUnBound() {
     Label &continued = addLabel(block, "lblExtended", {}, 0, BlockTitleTop, PageWidth, TitleHeight);
     asHeading(continued, 2);
     continued.HeadingLevel = 0;
+    continued.KeepWithNext = true;
     addFirstColumnOfBlock(block);
     Section &other = AddSection(SectionType::GroupFooter, "gfOther");
     other.Visible = false;
@@ -87,8 +88,8 @@ bool actRepUnBound::isExtended(int column) const {
 
 int actRepUnBound::widthOf(int column) const {
     if (isComposition()) return section("ghTitle").Controls.Item("lblCaption0").Width;
-    if (column >= aWidths.size()) throw RuntimeError(9);
-    return qRound(aWidths[column]);
+    if (column >= m_widths.size()) throw RuntimeError(9);
+    return m_widths[column];
 }
 
 void actRepUnBound::DataInitialize() {
@@ -142,11 +143,27 @@ void actRepUnBound::prepareComposition() {
 
 void actRepUnBound::prepareByWidth() {
     aWidths = mMaterial->MechCreepColSize(strKey);
-    m_lastCaption->Width = m_lastField->Width = widthOf(0);
     // the same flags that the window has; the window itself is gone when a batch is printed
     if (strKey == QLatin1String("CreepProp")) bEmptyCol = emptyCreepColumns(aTable);
+    fitWidths();
+    m_lastCaption->Width = m_lastField->Width = widthOf(0);
     m_tooWide = testWidth();
     if (m_tooWide) beginBlock();
+}
+
+/// So that every column has room on the page beside the first.
+void actRepUnBound::fitWidths() {
+    m_widths.clear();
+    for (const float width : aWidths)
+        m_widths << qRound(width);
+    if (m_widths.isEmpty()) return;
+    int widest = 0;
+    for (int column = 1; column < m_widths.size(); ++column)
+        if (!isEmptyColumn(column)) widest = std::max(widest, m_widths[column]);
+    int &first = m_widths.first();
+    first = std::min(first, std::max(PageWidth - widest, PageWidth / 2));
+    for (int column = 1; column < m_widths.size(); ++column)
+        m_widths[column] = std::min(m_widths[column], PageWidth - first);
 }
 
 bool actRepUnBound::testWidth() {

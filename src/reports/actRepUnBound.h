@@ -26,6 +26,7 @@ private:
     void takeTable();
     void prepareComposition();
     void prepareByWidth();
+    void fitWidths();
     bool testWidth();
     void beginBlock();
     void fillTitle();
@@ -52,6 +53,8 @@ private:
     XArrayDB aTable;
     /// Twips; not used for the composition.
     QVector<float> aWidths;
+    /// As printed, in whole twips.
+    QVector<int> m_widths;
     /// Of creep properties only.
     QVector<bool> bEmptyCol;
     int iRow = 0;

@@ -25,6 +25,7 @@ const OutputFormat Formats[] = {{"Portable Document Format (*.pdf)|*.pdf", ".pdf
 
 void saveAsking(const Printing::Document &document, int format, const QString &name, CommonDialog &dialog) {
     const OutputFormat &chosen = Formats[format];
+    dialog.DialogTitle = "Save Report...";
     dialog.FileName = "c:\\" + name + chosen.extension;
     dialog.InitDir = "c:\\";
     dialog.Filter = chosen.filter;

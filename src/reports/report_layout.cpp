@@ -64,6 +64,7 @@ void addNotes(Section &section) {
     Label &label = addLabel(section, "lblNotes", "Notes", 0, 90, PageWidth, 240);
     label.Font.Bold = true;
     label.Font.Size = TableFontSize;
+    label.KeepWithNext = true;
     addField(section, "txtNotes", 0, 330, PageWidth, 240).Font.Size = TableFontSize;
 }
 

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -163,8 +164,48 @@ TEST(CommonDialogs, CancelRaisesOnlyWhenAsked) {
     modal().chooseFile("");
     EXPECT_EQ(errorOf([&] { dialog.ShowSave(); }), 32755);
     modal().chooseFile("/data/b.mdb");
-    dialog.ShowSave();
+    dialog.ShowOpen();
     EXPECT_EQ(dialog.FileName, QDir::toNativeSeparators("/data/b.mdb"));
+}
+
+TEST(CommonDialogs, SavingCompletesTheNameAndAsksAgainForAFolderOrBeforeReplacing) {
+    const QTemporaryDir folder;
+    const auto put = [&](const char *name) { QFile(folder.filePath(name)).open(QIODevice::WriteOnly); };
+    put("there.5415.pdf");
+    CommonDialog dialog;
+    dialog.DialogTitle = "Save";
+    dialog.DefaultExt = ".pdf";
+    for (const auto &[chosen, saved] :
+         {std::pair("16Mo3_1.5415", "16Mo3_1.5415.pdf"), std::pair("a.PDF", "a.PDF"),
+          std::pair("a.txt", "a.txt.pdf"), std::pair("there.5415.pdf", "there.5415.pdf")}) {
+        modal().clear();
+        modal().chooseFile(folder.filePath(chosen));
+        dialog.ShowSave();
+        EXPECT_EQ(dialog.FileName, folder.filePath(saved));
+        EXPECT_EQ(modal().asked().size(), 1);
+    }
+    // A name that the person has not seen in full.
+    modal().clear();
+    modal().chooseFile(folder.filePath("there.5415"));
+    modal().answerMsgBox(vbNo);
+    modal().chooseFile(folder.filePath("there.5415"));
+    modal().answerMsgBox(vbYes);
+    dialog.ShowSave();
+    EXPECT_EQ(dialog.FileName, folder.filePath("there.5415.pdf"));
+    EXPECT_EQ(modal().asked()[1].text,
+              folder.filePath("there.5415.pdf") + "\r\n\r\nalready exists. Do you want to replace it?");
+
+    modal().clear();
+    modal().chooseFile(folder.filePath("no/such/a"));
+    modal().answerMsgBox(vbOK);
+    modal().chooseFile([&](const ModalSeam::Request &request) {
+        EXPECT_EQ(request.initDir, folder.path());
+        EXPECT_EQ(request.fileName, folder.filePath("no/such/a"));
+        return folder.filePath("a");
+    });
+    dialog.ShowSave();
+    EXPECT_EQ(dialog.FileName, folder.filePath("a.pdf"));
+    EXPECT_EQ(modal().asked()[1].text, folder.filePath("no/such") + "\r\n\r\nThis folder does not exist.");
 }
 
 TEST(CommonDialogs, FiltersAndDrivesBecomeTheSystemsOwn) {
@@ -189,20 +230,29 @@ TEST(CommonDialogs, TheRealDialogOffersNameFilterAndExtension) {
     dialog.Filter = "Rich Text Format (*.rtf)|*.rtf";
     dialog.DefaultExt = ".rtf";
     dialog.CancelError = true;
-    QString offered, suffix;
+    QString offered;
     QStringList filters;
     QTimer::singleShot(0, [&] {
         auto *box = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
         offered = box->findChild<QLineEdit *>("fileNameEdit")->text();
         filters = box->nameFilters();
-        suffix = box->defaultSuffix();
         box->reject();
     });
     EXPECT_THROW(dialog.ShowSave(), RuntimeError);
     EXPECT_EQ(offered, "P235GH / 1.0345.rtf") << "a name is offered as it stands";
     EXPECT_EQ(filters, QStringList({"Rich Text Format (*.rtf)"}));
-    EXPECT_EQ(suffix, "rtf");
+
+    const QTemporaryDir folder;
+    dialog.InitDir = folder.path();
+    QTimer::singleShot(0, [] {
+        auto *box = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        box->findChild<QLineEdit *>("fileNameEdit")->setText("16Mo3_1.5415");
+        QTest::keyClick(box->findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
+    });
+    dialog.ShowSave();
+    EXPECT_EQ(dialog.FileName, folder.filePath("16Mo3_1.5415.rtf"));
 }
 
 TEST(Faults, AnErrorInAHandlerIsCaughtAtTheEvent) {

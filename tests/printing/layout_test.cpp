@@ -113,7 +113,7 @@ TEST_F(Layout, AWordIsBrokenAtBlanksOnlyAndDrawnSmallerInANarrowCell) {
                           {"Cp20, t [J/kgK]", 1155, {"Cp20, t", "[J/kgK]"}, 10},
                           {"of X5CrNi18-10", 1300, {"of", "X5CrNi18-10"}, 10},
                           {"Rm / 100 000 h", 1155, {"Rm /", "100 000 h"}, 10},
-                          {"Rm / 100 000 h", 640, {"Rm /", "100", "000 h"}, 10},
+                          {"Rm / 100 000 h", 640, {"Rm /", "100 000", "h"}, 7},
                           {longWord, 900, {longWord.left(4)}, 10}};
     for (const Case &given : cases)
         place<Field>(detail, QString::number(detail.Controls.Count()), {0, 0, given.width, 283}, given.text)

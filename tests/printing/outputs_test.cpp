@@ -171,20 +171,23 @@ TEST_F(Outputs, RtfHoldsTheTablesAsTables) {
     EXPECT_TRUE(
         rtf.paragraphs.contains("All temperatures in the shade.\nPressures are not reduced to sea level."));
     EXPECT_EQ(rtf.pictures, 2);
+    EXPECT_TRUE(
+        QRegularExpression("\\\\brdrb[^\n]*Weather office").match(contentOf(path("a.rtf"))).hasMatch());
     EXPECT_TRUE(rtf.pageText.contains("<PAGE>"));
     EXPECT_TRUE(rtf.pageText.contains("<NUMPAGES>"));
     EXPECT_TRUE(rtf.pageText.contains(QStringLiteral("Weather office – yearbook")));
 }
 
-TEST(Rtf, ATableThatAPageCanHoldStaysOnOne) {
-    for (const auto &[rows, kept] : {std::pair(3, 2), std::pair(200, 0)}) {
+TEST(Rtf, AShortTableStaysOnOnePage) {
+    // Of a long one, its first rows.
+    for (const auto &[rows, kept] : {std::pair(3, 2), std::pair(30, 1)}) {
         TestReport report;
         report.countRows(rows);
         Section &detail = report.AddSection(SectionType::Detail, "Detail");
         place<Field>(detail, "cell", {0, 0, 1155, 283}).Border = BorderStyles::all();
         const QByteArray rtf = rtfText(report.Run());
         EXPECT_EQ(rtf.count("\\row\n"), rows);
-        EXPECT_EQ(rtf.count("\\intbl\\keepn"), kept); // every row but the last
+        EXPECT_EQ(rtf.count("\\intbl\\keepn"), kept);
     }
 }
 
@@ -290,14 +293,96 @@ TEST(TextGrid, RunningTextIsBrokenAtWordsAndALongWordKeptWhole) {
     EXPECT_EQ(wrapText("a " + longWord + " b", 10), QStringList({"a", longWord, "b"}));
 }
 
-TEST_F(Outputs, ThePrinterGetsThePagesAskedFor) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path("printed.pdf"));
-    printer.setFromTo(2, 3);
-    printDocument(document, printer);
-    EXPECT_TRUE(pdfTool("pdfinfo", {path("printed.pdf")}).contains("Pages:           2\n"));
-    EXPECT_TRUE(pdfTool("pdftotext", {path("printed.pdf"), "-"}).contains("Course of the year"));
+TEST(TextGrid, ANumberIsOneWordAndOtherBlanksStay) {
+    EXPECT_EQ(wrapText("Rp1,0 / 100 000 h", 12), QStringList({"Rp1,0 /", "100 000 h"}));
+    EXPECT_EQ(wrapText("(   ) -", 20), QStringList("(   ) -"));
+    EXPECT_EQ(
+        gridLines(tableOf({{"n", "100 000 h"}, {"1", QString(200, QLatin1Char('x'))}}, {900, 900})).size(),
+        3);
+}
+
+TEST(TextGrid, ARowThatLacksItsFirstCellsHasItsBars) {
+    Block block = tableOf({{"a", "b", "c"}, {"1", "2", "3"}}, {1000, 1000, 1000});
+    block.rows[1].cells.erase(block.rows[1].cells.begin(), block.rows[1].cells.begin() + 2);
+    EXPECT_EQ(gridLines(block).last(), "  |   | 3");
+}
+
+TEST(Files, AnEmptyFieldStaysInItsBlockAndNoControlCharacterComesThrough) {
+    TestReport report;
+    Section &header = report.AddSection(SectionType::ReportHeader, "header");
+    const QChar controls[] = {'x', QChar(0), QChar(1), QChar(0x7f), QChar(0x85), 'y'};
+    const QString texts[] = {"100 000 h", {}, QString(controls, std::size(controls))};
+    for (int row = 0; row < 3; ++row) {
+        place<Label>(header, QStringLiteral("l%1").arg(row), {0, 300 * row, 1200, 270}, "caption");
+        place<Field>(header, QStringLiteral("t%1").arg(row), {1200, 300 * row, 1200, 270}, texts[row]);
+    }
+    auto &rule = header.Controls.Add<Line>("rule");
+    rule.Top = 880;
+    rule.Width = 3000;
+    const Document &document = report.Run();
+    EXPECT_EQ(gridText(document), "caption  100 000 h\ncaption\ncaption  xy\n");
+    const QByteArray rtf = rtfText(document);
+    EXPECT_TRUE(rtf.contains(" 100\\~000 h\\cell"));
+    EXPECT_TRUE(rtf.contains(" xy\\cell"));
+    EXPECT_EQ(rtf.count("\\clbrdrb"), 2) << "the rule is the last row's";
+}
+
+struct PrintCase {
+    int from, to, copies;
+    bool collate, reverse;
+    const char *pages;
+};
+
+class Prints : public Outputs {
+protected:
+    Prints() {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path("printed.pdf"));
+    }
+    QString printed(const QStringList &how) {
+        printDocument(document, printer);
+        return pdfTool(how.first(), how.mid(1) + QStringList({path("printed.pdf"), "-"}));
+    }
+
+    QPrinter printer{QPrinter::HighResolution};
+};
+
+TEST_F(Prints, PagesComeAsTheDialogWasSet) {
+    const PrintCase cases[] = {{2, 3, 1, true, false, "2 3"},
+                               {0, 0, 2, true, false, "1 2 3 1 2 3"},
+                               {0, 0, 2, false, false, "1 1 2 2 3 3"},
+                               {0, 0, 1, true, true, "3 2 1"},
+                               {2, 3, 2, true, true, "3 2 3 2"}};
+    for (const PrintCase &c : cases) {
+        printer.setFromTo(c.from, c.to);
+        printer.setCopyCount(c.copies);
+        printer.setCollateCopies(c.collate);
+        printer.setPageOrder(c.reverse ? QPrinter::LastPageFirst : QPrinter::FirstPageFirst);
+        QStringList pages;
+        static const QRegularExpression footer("Page +(\\d) +of");
+        const QString text = printed({"pdftotext", "-layout"});
+        for (auto found = footer.globalMatch(text); found.hasNext();)
+            pages += found.next().captured(1);
+        EXPECT_EQ(pages.join(' '), c.pages);
+    }
+}
+
+TEST_F(Prints, APageKeepsItsProportionsOnOtherPaper) {
+    static const QRegularExpression keeper("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>Keeper<");
+    const auto place = [&](QPageSize::PageSizeId paper) {
+        printer.setPageSize(QPageSize(paper));
+        const auto found = keeper.match(printed({"pdftotext", "-bbox"}));
+        return QPointF(found.captured(1).toDouble(), found.captured(2).toDouble());
+    };
+    const QPointF onA4 = place(QPageSize::A4);
+    EXPECT_NEAR(onA4.x(), 853 / 20.0, 0.5);
+    for (const auto paper : {QPageSize::A6, QPageSize::Letter, QPageSize::A3}) {
+        const QSizeF size = QPageSize(paper).size(QPageSize::Point);
+        const double scale = std::min(size.width() / 595.3, size.height() / 841.9);
+        const QPointF there = place(paper);
+        EXPECT_NEAR(there.x(), (size.width() - scale * 595.3) / 2 + scale * onA4.x(), 1) << paper;
+        EXPECT_NEAR(there.y(), (size.height() - scale * 841.9) / 2 + scale * onA4.y(), 1) << paper;
+    }
 }
 
 } // namespace

@@ -72,14 +72,16 @@ TEST(Paging, TheHeadingOfRowsIsRepeatedButNotAboveNotes) {
     addTextSection(report, SectionType::GroupHeader, "Heading", 400).RepeatOnNewPage = true;
     addRows(report, 2 * RowsOnPage);
     addTextSection(report, SectionType::GroupFooter, "Notes", 14500).KeepTogether = true;
+    addTextSection(report, SectionType::GroupFooter, "Block", 1000).BelowHeadings = true;
     const Document &document = report.Run();
-    ASSERT_EQ(document.pages.size(), 4u);
+    ASSERT_EQ(document.pages.size(), 5u);
     const int withHeading = (16838 - 2 * 850 - 400) / RowHeight;
     EXPECT_EQ(textsOf(document.pages[1]).mid(0, 2),
               QStringList({"Heading", QString::number(withHeading + 1)}));
     EXPECT_EQ(locate(document, QString::number(withHeading + 1)).box.top(), Top + 400);
     EXPECT_EQ(textsOf(document.pages[2])[0], "Heading");
     EXPECT_EQ(textsOf(document.pages[3]), QStringList({"Notes"}));
+    EXPECT_EQ(textsOf(document.pages[4]), QStringList({"Heading", "Block"}));
     // The content itself holds each heading once.
     int headings = 0;
     for (const Block &block : document.blocks)
@@ -222,32 +224,44 @@ TEST(Paging, AKeptSectionMovesAsAWholeAndAHeadingGoesWithItsText) {
     }
 }
 
-TEST(Paging, ATableKeptTogetherBelowADistanceMovesAsAWhole) {
-    for (const bool keepTogether : {false, true}) {
+TEST(Paging, AKeptTableMovesAsAWholeUnlessThatLeavesMuchOfThePageEmpty) {
+    struct Case {
+        bool keepTogether;
+        int rows;
+        int rowsThatFit;
+        int page; // of the first row
+    };
+    for (const Case &c :
+         {Case{true, 3, 2, 1}, Case{false, 3, 2, 0}, Case{true, 30, 10, 1}, Case{true, 30, 18, 0}}) {
         TestReport report;
         addTextSection(report, SectionType::ReportHeader, "above",
-                       16838 - 2 * 850 - 300 - 400 - 2 * RowHeight);
+                       16838 - 2 * 850 - 300 - 100 - 400 - c.rowsThatFit * RowHeight);
         Section &place = report.AddSection(SectionType::GroupHeader, "place");
-        place.KeepTogether = keepTogether;
-        addSubReport(place, "sub", {0, 300, 5000, 0}, table("Table", 3));
+        place.KeepTogether = c.keepTogether;
+        ::place<Label>(place, "group", {0, 100, 3000, 250}, "Group").HeadingLevel = 1;
+        addSubReport(place, "sub", {0, 400, 5000, 0}, table("Table", c.rows));
         const Document &document = report.Run();
-        EXPECT_EQ(locate(document, "1").page, keepTogether ? 1 : 0);
-        EXPECT_EQ(locate(document, "3").page, 1);
+        EXPECT_EQ(locate(document, "Group").page, c.page) << c.rows << ' ' << c.rowsThatFit;
+        EXPECT_EQ(locate(document, "1").page, c.page);
+        EXPECT_EQ(locate(document, QString::number(c.rows)).page, 1);
+        // The distance above is lost where the section begins the page.
+        EXPECT_EQ(locate(document, "Group").box.top() == Top, c.page == 1);
     }
 }
 
-TEST(Paging, ATableCutWithinASectionHasItsCaptionsOnEachPage) {
+TEST(Paging, ATableCutWithinASectionHasItsTitleAndCaptionsOnEachPage) {
     TestReport report;
     Section &block = report.AddSection(SectionType::ReportHeader, "block");
     block.KeepTogether = true;
+    place<Label>(block, "title", {0, 0, 5000, 270}, "Title").KeepWithNext = true;
     for (int column = 0; column < 2; ++column) {
-        const QRect box(column * 1155, 0, 1155, 400);
+        const QRect box(column * 1155, 300, 1155, 400);
         auto &caption = place<Label>(block, QStringLiteral("c%1").arg(column), box, "caption");
         caption.Border = BorderStyles::all();
         caption.BackStyle = 1;
         for (int row = 0; row < 120; ++row)
             place<Field>(block, QStringLiteral("%1_%2").arg(column).arg(row),
-                         {box.left(), 400 + row * RowHeight, 1155, RowHeight}, QString::number(row))
+                         {box.left(), 700 + row * RowHeight, 1155, RowHeight}, QString::number(row))
                 .Border = BorderStyles::all();
     }
     report.Run();
@@ -256,14 +270,15 @@ TEST(Paging, ATableCutWithinASectionHasItsCaptionsOnEachPage) {
     QStringList rows;
     for (const Page &page : pages) {
         const QStringList texts = textsOf(page);
-        EXPECT_EQ(texts.mid(0, 2), QStringList({"caption", "caption"}));
-        EXPECT_EQ(page.elements[0].box, QRect(Left, Top, 1155, 400));
-        EXPECT_EQ(page.elements[2].box.top(), Top + 400);
-        rows += texts.mid(2);
+        EXPECT_EQ(texts.mid(0, 3), QStringList({"Title", "caption", "caption"}));
+        EXPECT_EQ(page.elements[0].box.top(), Top);
+        EXPECT_EQ(page.elements[1].box, QRect(Left, Top + 300, 1155, 400));
+        EXPECT_EQ(page.elements[3].box.top(), Top + 700);
+        rows += texts.mid(3);
     }
     EXPECT_EQ(rows.size(), 240);
     EXPECT_EQ(rows.last(), "119");
-    EXPECT_EQ(report.document().blocks[0].rows.size(), 121U); // the files have them once
+    EXPECT_EQ(report.document().blocks[1].rows.size(), 121U); // the files have them once
 }
 
 TEST(Paging, ARowAsHighAsAPageGoesWithoutItsCaptions) {

@@ -80,7 +80,7 @@ TEST(Rows, TextsAreReadRowByRowWhateverTheOrderOfTheControls) {
     place<Label>(header, "empty", {4000, 0, 2000, 280});
     header.Controls.Add<PageBreak>("break").Top = 900;
     place<Label>(header, "6", {0, 900, 2000, 250}, "next page");
-    EXPECT_EQ(outline(report.Run()), "aligned name,value/left,right; text alone; break; text next page");
+    EXPECT_EQ(outline(report.Run()), "aligned name,value,/left,right; text alone; break; text next page");
     QStringList texts;
     for (const Element &element : report.document().pages[0].elements)
         texts += element.text;

@@ -1,15 +1,21 @@
 // The window that shows a document, driven as a user does.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "platform/forms/msg_box.h"
 #include "platform/printing/page_painter.h"
@@ -186,6 +192,28 @@ TEST_F(ViewerTest, PrintsAndSavesThroughItsHooks) {
     });
     press(Qt::Key_P, Qt::ControlModifier);
     EXPECT_TRUE(pdfTool("pdfinfo", {file}).contains("Pages:           3\n"));
+}
+
+TEST(PrintDialog, NamesTheFileInFull) {
+    const QTemporaryDir folder;
+    Document document = stationReport(1)->Run();
+    document.title = "PED_16Mo3 5/6_1.5415";
+    Viewer viewer(document);
+    viewer.show();
+    QString offered;
+    QTimer::singleShot(0, [&] {
+        auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        auto *name = dialog->findChild<QLineEdit *>("filename");
+        offered = name->text();
+        name->setText(folder.filePath("b_1.5415"));
+        Q_EMIT name->editingFinished();
+        for (QAbstractButton *button : dialog->findChild<QDialogButtonBox *>()->buttons())
+            if (button->text().contains("Print")) return button->click();
+    });
+    viewer.findChild<QAction *>("print")->trigger();
+    EXPECT_EQ(QFileInfo(offered).fileName(), "PED_16Mo3 5_6_1.5415.pdf");
+    EXPECT_TRUE(pdfTool("pdfinfo", {folder.filePath("b_1.5415.pdf")}).contains("(A4)"));
 }
 
 TEST_F(ViewerTest, TellsThatThePrinterFailed) {

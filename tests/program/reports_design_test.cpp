@@ -1,4 +1,6 @@
 // The sub-report of design values.
+#include <QRegularExpression>
+
 #include "platform/printing/text_output.h"
 #include "reports/actRepDesign.h"
 #include "tests/program/reports_fixture.h"
@@ -29,7 +31,11 @@ TEST_F(DesignReport, ShowsTheTablesTheTemperatureAndTheKey) {
     run(SampleGrades::P265GH, "100");
     EXPECT_EQ(text("ghDesignTemp", "txtDesignTemp"), "100 °C");
     EXPECT_FALSE(report.Sections("gfExtended").Visible);
-    const QString printed = gridText(report.document()).simplified();
+    const QString lines = gridText(report.document());
+    EXPECT_EQ(lines.count(QRegularExpression("\n-[-+]+\n")), 5)
+        << "between six tables: " << qPrintable(lines);
+    EXPECT_TRUE(lines.contains("(  ) - 16mm")) << qPrintable(lines);
+    const QString printed = lines.simplified();
     EXPECT_TRUE(printed.contains("(16) - 40mm")) << qPrintable(printed);
     EXPECT_TRUE(printed.contains("| 241 | 232 | 223 | 196 | 182 | 169 |")) << qPrintable(printed);
     EXPECT_EQ(printed.count("KEY"), 1);
@@ -114,4 +120,35 @@ TEST_F(DesignReport, WhateverATablesWidthNoValueLeavesThePage) {
             for (const Element &element : page.elements)
                 EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
     }
+}
+
+TEST_F(DesignReport, ACreepColumnWiderThanThePageStaysOnIt) {
+    frmMaterial2 &window = open(SampleGrades::P265GH);
+    window.ShowTable("Design");
+    window.txtDesignTemp->setText("100");
+    for (int wide : {0, 1, 3}) {
+        QVector<float> sizes(5, 1250);
+        sizes[wide] = 30000;
+        material->setMechCreepColSize("CreepProp", sizes);
+        actRepDesign made;
+        made.Run();
+        const QString printed = gridText(made.document());
+        for (const char *value : {"241", "232", "223", "196", "182", "169"})
+            EXPECT_EQ(printed.count(value), 1) << value << ' ' << wide;
+        for (const Page &page : made.document().pages)
+            for (const Element &element : page.elements)
+                EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+    }
+}
+
+TEST_F(DesignReport, ABlockThatBeginsAPageTellsTheTemperature) {
+    const int row = 283;
+    run(SampleGrades::TubeMo3, "500");
+    actRepDesign pushed;
+    pushed.PageSetup.PaperHeight = pushed.PageSetup.TopMargin + pushed.PageSetup.BottomMargin + 13 * row;
+    pushed.Run();
+    ASSERT_GT(pushed.document().pages.size(), 1U);
+    for (const Page &page : pushed.document().pages)
+        EXPECT_TRUE(std::any_of(page.elements.begin(), page.elements.end(),
+                                [](const Element &element) { return element.text == "500 °C"; }));
 }

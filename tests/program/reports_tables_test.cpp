@@ -253,11 +253,18 @@ TEST_F(MadeTables, ATableOfExactlyThePagesWidthHasNoBlock) {
     EXPECT_FALSE(report->Sections("gfExtended").Visible);
 }
 
-TEST_F(MadeTables, AFirstColumnWiderThanThePageTakesAllOthersBelow) {
-    make("MechProp", 1, 2, {10201, 780});
-    run("MechProp");
-    EXPECT_EQ(textsOf(*report, "Detail", "Field"), QStringList("1.0"));
-    EXPECT_EQ(textsOf(*report, "gfExtended", "FieldX"), QStringList({"1.0", "1.1"}));
+TEST_F(MadeTables, AColumnWiderThanThePageLeavesRoomForTheOthers) {
+    make("MechProp", 1, 2);
+    for (const QVector<float> &widths :
+         {QVector<float>{10201, 780}, {9800, 780}, {30000, 30000}, {1250, 30000}}) {
+        material->setMechCreepColSize("MechProp", widths);
+        run("MechProp");
+        EXPECT_EQ(textsOf(*report, "Detail", "Field"), QStringList("1.0"));
+        EXPECT_EQ(textsOf(*report, "gfExtended", "FieldX"), QStringList({"1.0", "1.1"}));
+        for (const Page &page : report->document().pages)
+            for (const Element &element : page.elements)
+                EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+    }
 }
 
 TEST_F(MadeTables, EmptyCreepColumnsTakeNoPlace) {

@@ -74,7 +74,7 @@ private:
         const auto match = word.match(rest);
         if (!match.hasMatch()) {
             const char sign = m_rtf[m_at++];
-            if (sign != '*') addText(QLatin1Char(sign));
+            if (sign != '*') addText(QLatin1Char(sign == '~' ? ' ' : sign));
             return;
         }
         m_at += match.capturedLength();

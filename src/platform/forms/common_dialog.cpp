@@ -3,12 +3,48 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/msg_box.h"
 #include "platform/forms/pointer_pause.h"
 #include "platform/runtime/runtime_error.h"
+
+namespace {
+
+/// Qt puts its default suffix behind a name without a dot alone, and a number such as "1.0345" holds one. Put
+/// there in time, the whole name is what Qt asks about before it is replaced.
+class FileDialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    QString extension;
+
+    void accept() override {
+        auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        if (edit && !extension.isEmpty() && !QFileInfo(directory(), edit->text()).isDir())
+            edit->setText(CommonDialog::withExtension(edit->text(), extension));
+        QFileDialog::accept();
+    }
+};
+
+QString nearestFolder(const QString &path) {
+    QString folder = QFileInfo(path).path();
+    while (!QDir(folder).exists())
+        folder = QFileInfo(folder).path();
+    return folder;
+}
+
+bool mayReplace(const QString &path, const QString &title) {
+    if (!QFileInfo::exists(path)) return true;
+    const QString question = QStringLiteral("%1\r\n\r\nalready exists. Do you want to replace it?");
+    return MsgBox(question.arg(QDir::toNativeSeparators(path)), vbYesNo + vbExclamation, title) == vbYes;
+}
+
+} // namespace
 
 QString CommonDialog::localPath(const QString &path) {
 #ifdef Q_OS_WIN
@@ -38,37 +74,64 @@ QStringList CommonDialog::nameFilters(const QString &filter) {
     return result;
 }
 
-void CommonDialog::show(bool save) {
-    QString chosen;
-    if (ModalSeam *seam = ModalSeam::active()) {
-        ModalSeam::Request request;
-        request.kind = save ? ModalSeam::Kind::SaveFile : ModalSeam::Kind::OpenFile;
-        request.title = DialogTitle;
-        request.initDir = InitDir;
-        request.fileName = FileName;
-        request.filter = Filter;
-        request.defaultExt = DefaultExt;
-        chosen = seam->takeFile(request);
-    } else {
-        chosen = ask(save);
+QString CommonDialog::withExtension(const QString &name, const QString &extension) {
+    return name.isEmpty() || name.endsWith(extension, Qt::CaseInsensitive) ? name : name + extension;
+}
+
+void CommonDialog::ShowOpen() {
+    take(choose(false, InitDir, FileName));
+}
+
+void CommonDialog::ShowSave() {
+    QString folder = InitDir;
+    QString name = FileName;
+    for (;;) {
+        const QString chosen = choose(true, folder, name);
+        if (chosen.isEmpty()) return take(chosen);
+        const QString path = withExtension(chosen, DefaultExt);
+        const QString parent = QFileInfo(path).path();
+        if (!QDir(parent).exists())
+            MsgBox(QDir::toNativeSeparators(parent) + QStringLiteral("\r\n\r\nThis folder does not exist."),
+                   vbExclamation, DialogTitle);
+        else if (path == chosen || mayReplace(path, DialogTitle))
+            return take(path);
+        // The words of the person are offered again, in the folder that there is.
+        folder = nearestFolder(path);
+        name = chosen;
     }
+}
+
+QString CommonDialog::choose(bool save, const QString &folder, const QString &name) const {
+    ModalSeam *seam = ModalSeam::active();
+    if (!seam) return ask(save, localPath(folder), localPath(name));
+    ModalSeam::Request request;
+    request.kind = save ? ModalSeam::Kind::SaveFile : ModalSeam::Kind::OpenFile;
+    request.title = DialogTitle;
+    request.initDir = folder;
+    request.fileName = name;
+    request.filter = Filter;
+    request.defaultExt = DefaultExt;
+    return seam->takeFile(request);
+}
+
+void CommonDialog::take(const QString &chosen) {
     if (!chosen.isEmpty())
         FileName = QDir::toNativeSeparators(chosen);
     else if (CancelError)
         throw RuntimeError(32755, QStringLiteral("Cancel was selected."));
 }
 
-QString CommonDialog::ask(bool save) const {
-    const QString folder = localPath(InitDir);
-    QFileDialog dialog(QApplication::activeWindow(), DialogTitle, folder);
+QString CommonDialog::ask(bool save, const QString &folder, const QString &name) const {
+    FileDialog dialog(QApplication::activeWindow(), DialogTitle, folder);
     dialog.setObjectName(QStringLiteral("CommonDialog"));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (!Filter.isEmpty()) dialog.setNameFilters(nameFilters(Filter));
-    if (!DefaultExt.isEmpty())
+    if (save)
+        dialog.extension = DefaultExt;
+    else if (!DefaultExt.isEmpty())
         dialog.setDefaultSuffix(DefaultExt.startsWith(QLatin1Char('.')) ? DefaultExt.mid(1) : DefaultExt);
     // A name that holds separators is offered whole, not taken for a folder that would have to exist.
-    const QString name = localPath(FileName);
     const bool inFolder = !folder.isEmpty() && name.startsWith(folder + QLatin1Char('/'));
     if (!name.isEmpty()) dialog.selectFile(inFolder ? name.mid(folder.size() + 1) : name);
     const PointerPause pause;

@@ -15,20 +15,26 @@ public:
     QString FileName;
     /// Pairs of text and pattern such as "Text Format (*.txt)|*.txt".
     QString Filter;
-    /// Put behind a chosen name that has no extension.
+    /// Such as ".txt". To save, it is put behind every name that does not end in it; to open, behind a name
+    /// without any extension.
     QString DefaultExt;
     /// Cancel raises 32755; otherwise it leaves FileName as it was.
     bool CancelError = false;
 
-    void ShowOpen() { show(false); }
-    void ShowSave() { show(true); }
+    void ShowOpen();
+    /// Asks again where the folder does not exist, and before a file is replaced that the person did not
+    /// name in full.
+    void ShowSave();
 
     /// `path` as this system writes it: see InitDir.
     static QString localPath(const QString &path);
     /// The filter as one Qt name filter per pair.
     static QStringList nameFilters(const QString &filter);
+    /// `name` with `extension` (".txt") behind it, unless it ends in it already, in capitals or not.
+    static QString withExtension(const QString &name, const QString &extension);
 
 private:
-    void show(bool save);
-    QString ask(bool save) const;
+    QString choose(bool save, const QString &folder, const QString &name) const;
+    QString ask(bool save, const QString &folder, const QString &name) const;
+    void take(const QString &chosen);
 };

@@ -6,6 +6,9 @@ namespace Printing {
 
 namespace {
 
+// A cell up to this height is not cut: any page has room for it.
+constexpr int HighestWholeCell = 5000;
+
 struct Span {
     int top;
     int bottom;
@@ -19,12 +22,17 @@ bool isCaption(const Element &element) {
     return element.Border.any() && element.BackStyle != 0;
 }
 
-int nextTop(const Band &band, const Element &heading) {
-    int top = bottomOf(heading);
+bool isTitle(const Element &element) {
+    return element.KeepWithNext && !element.Border.any();
+}
+
+// Of what stands below; the band's end where nothing does.
+int topBelow(const Band &band, const Element &heading) {
+    const int top = bottomOf(heading);
     int found = band.height;
     for (const Element &element : band.elements)
         if (element.box.top() >= top) found = std::min(found, element.box.top());
-    return found + 1;
+    return found;
 }
 
 // What must not be cut, from top to bottom.
@@ -33,11 +41,11 @@ std::vector<Span> solidSpans(const Band &band) {
     for (const Element &element : band.elements) {
         const int top = element.box.top();
         const std::size_t count = element.lines.size();
-        if (element.HeadingLevel > 0 || isCaption(element)) {
-            spans.push_back({top, nextTop(band, element)});
+        if (element.HeadingLevel > 0 || element.KeepWithNext || isCaption(element)) {
+            spans.push_back({top, topBelow(band, element) + 1});
             continue;
         }
-        if (count < 4) {
+        if (count < 4 || (element.Border.any() && element.box.height() <= HighestWholeCell)) {
             spans.push_back({top, bottomOf(element)});
             continue;
         }
@@ -66,9 +74,18 @@ std::vector<Element> captionsOf(const Band &above, const Band &below) {
                 nearest = &element;
         if (!cell.Border.any() || isCaption(cell) || !nearest) return {};
         captions.push_back(*nearest);
-        captions.back().box.moveTop(0);
     }
     return captions;
+}
+
+// The title of the cells that go on.
+const Element *titleOf(const Band &above, const Band &below) {
+    const bool cellsGoOn = std::any_of(below.elements.begin(), below.elements.end(), [](const Element &cell) {
+        return cell.box.top() == 0 && cell.Border.any();
+    });
+    if (!cellsGoOn) return nullptr;
+    const auto title = std::find_if(above.elements.rbegin(), above.elements.rend(), isTitle);
+    return title == above.elements.rend() ? nullptr : &*title;
 }
 
 } // namespace
@@ -123,13 +140,22 @@ std::pair<Band, Band> cutBand(const Band &band, int place) {
 }
 
 Band withCaptions(const Band &above, const Band &below) {
-    const std::vector<Element> captions = captionsOf(above, below);
+    std::vector<Element> repeated = captionsOf(above, below);
+    int height = repeated.empty() ? 0 : repeated.front().box.height();
+    for (Element &caption : repeated)
+        caption.box.moveTop(0);
+    if (const Element *title = titleOf(above, below)) {
+        const int distance = topBelow(above, *title) - title->box.top();
+        for (Element &caption : repeated)
+            caption.box.moveTop(distance);
+        repeated.insert(repeated.begin(), *title);
+        repeated.front().box.moveTop(0);
+        height += distance;
+    }
     Band result = below;
-    if (captions.empty()) return result;
-    const int height = captions.front().box.height();
     for (Element &element : result.elements)
         element.box.translate(0, height);
-    result.elements.insert(result.elements.begin(), captions.begin(), captions.end());
+    result.elements.insert(result.elements.begin(), repeated.begin(), repeated.end());
     result.height += height;
     return result;
 }

@@ -14,7 +14,7 @@ std::vector<int> cutPlaces(const Band &band);
 /// The parts above and below `place`.
 std::pair<Band, Band> cutBand(const Band &band, int place);
 
-/// The part below, where rows of cells go on in it with their captions once more.
+/// The part below, where rows of cells go on in it with their title and their captions once more.
 Band withCaptions(const Band &above, const Band &below);
 
 } // namespace Printing

@@ -1,5 +1,7 @@
 #include "platform/printing/composer.h"
 
+#include <utility>
+
 #include "platform/dao/recordset.h"
 #include "platform/printing/rows.h"
 #include "platform/runtime/conversions.h"
@@ -44,8 +46,13 @@ void Composer::run() {
         eof = fetch(false);
     }
     // Notes that go over to a new page do so without the heading of the rows.
-    m_headings.clear();
-    addSections(SectionType::GroupFooter);
+    const auto headings = std::exchange(m_headings, {});
+    for (const auto &section : m_report.m_sections) {
+        if (section->Type != SectionType::GroupFooter) continue;
+        if (section->BelowHeadings) m_headings = headings;
+        addSection(*section);
+        m_headings.clear();
+    }
     addSections(SectionType::ReportFooter);
 }
 

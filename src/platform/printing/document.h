@@ -66,7 +66,12 @@ struct Row {
     bool isHeading = false;
     /// Belongs on one page with the row below it.
     bool keepWithNext = false;
+    /// A straight rule stands closely over or under the row.
+    bool ruleAbove = false;
+    bool ruleBelow = false;
 
+    /// Whether it holds captions of the row below it alone.
+    bool headsNext() const;
     int left() const;
     int right() const;
     int top() const;

@@ -9,13 +9,28 @@ namespace Printing {
 
 namespace {
 
+// What a section that is kept together may leave empty: this part of a page.
+constexpr int LargestEmptyShare = 3;
+
 int smallestPiece(const Band &band) {
     const std::vector<int> places = cutPlaces(band);
     return places.empty() ? band.height : places.front();
 }
 
 int firstPiece(const Band &band) {
-    return band.isBreakable ? smallestPiece(band) : band.height;
+    return band.isBreakable || band.keepHeight > 0 ? smallestPiece(band) : band.height;
+}
+
+// Distance above what begins a further page is lost.
+Band withoutSpaceAbove(Band band) {
+    if (band.elements.empty()) return band;
+    int space = band.height;
+    for (const Element &element : band.elements)
+        space = std::min(space, element.box.top());
+    for (Element &element : band.elements)
+        element.box.translate(0, -space);
+    band.height -= space;
+    return band;
 }
 
 int heightOfHeadings(const Band &band) {
@@ -48,9 +63,10 @@ void Paginator::run() {
             continue;
         }
         const int available = m_bottom - m_top - heightOfHeadings(band);
-        const int wanted = wished[i] <= available   ? wished[i]
-                           : needed[i] <= available ? needed[i]
-                                                    : firstPiece(band);
+        const bool leavesMuchEmpty = m_bottom - m_y > (m_bottom - m_top) / LargestEmptyShare;
+        const int wanted = wished[i] <= available && !leavesMuchEmpty ? wished[i]
+                           : needed[i] <= available                   ? needed[i]
+                                                                      : firstPiece(band);
         if (m_y + wanted > m_bottom && !m_isFresh) continueOnNewPage(band);
         place(band);
     }
@@ -101,7 +117,10 @@ void Paginator::continueOnNewPage(const Band &band) {
 }
 
 void Paginator::place(const Band &band) {
-    Band rest = band;
+    const auto atPlace = [this](const Band &piece) {
+        return m_isContinued && m_y == m_top ? withoutSpaceAbove(piece) : piece;
+    };
+    Band rest = atPlace(band);
     while (m_y + rest.height > m_bottom) {
         const int room = m_bottom - m_y;
         int place = 0;
@@ -110,6 +129,7 @@ void Paginator::place(const Band &band) {
         if (place == 0) {
             if (m_isFresh) break;
             continueOnNewPage(rest);
+            rest = atPlace(rest);
             continue;
         }
         auto [above, below] = cutBand(rest, place);

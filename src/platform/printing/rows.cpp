@@ -78,6 +78,22 @@ bool hasBorder(const Row &row) {
                        [](const Element &cell) { return cell.Border.any(); });
 }
 
+// To the row that it is nearest to.
+void joinRule(std::vector<Row> &rows, const QRect &rule) {
+    Row *nearest = nullptr;
+    int least = LargestRowGap + 1;
+    bool isAbove = false;
+    for (Row &row : rows)
+        for (const bool above : {true, false}) {
+            const int distance = above ? row.top() - rule.top() : rule.top() - row.bottom();
+            if (distance < 0 || distance >= least) continue;
+            nearest = &row;
+            least = distance;
+            isAbove = above;
+        }
+    if (nearest) (isAbove ? nearest->ruleAbove : nearest->ruleBelow) = true;
+}
+
 Block::Kind kindOf(const Row &row) {
     if (hasBorder(row)) return Block::Kind::Table;
     return row.cells.size() > 1 ? Block::Kind::Aligned : Block::Kind::Paragraph;
@@ -89,6 +105,10 @@ bool continues(const Block &block, Block::Kind kind, const Row &row) {
 }
 
 } // namespace
+
+bool Row::headsNext() const {
+    return std::any_of(cells.begin(), cells.end(), [](const Element &cell) { return cell.KeepWithNext; });
+}
 
 int Row::left() const {
     return cells.front().box.left();
@@ -131,8 +151,11 @@ std::vector<Row> rowsOf(const std::vector<Element> &elements) {
     QRect seed;
     int lastLeft = 0;
     for (const Element &element : elements) {
-        if (!isText(element) || (element.text.isEmpty() && !isFramed(element))) continue;
+        if (!isText(element)) continue;
         const bool sameRow = !rows.empty() && element.box.left() >= lastLeft && isBeside(seed, element.box);
+        // An empty field keeps its place beside its caption, so that the caption stays in line with others.
+        const bool isEmpty = element.text.isEmpty() && !isFramed(element);
+        if (isEmpty && (!sameRow || isStackedOn(rows.back().cells.back(), element))) continue;
         if (!sameRow) {
             rows.emplace_back();
             seed = element.box;
@@ -148,6 +171,8 @@ std::vector<Row> rowsOf(const std::vector<Element> &elements) {
                                         [&element](const Row &row) { return row.top() > element.box.top(); });
         rows.insert(below, Row{{element}});
     }
+    for (const Element &element : elements)
+        if (element.isRule) joinRule(rows, element.box);
     return rows;
 }
 

@@ -9,7 +9,7 @@ namespace Printing {
 void sortForReading(std::vector<Element> &elements);
 
 /// The rows of sorted elements. A picture that stands in a framed cell or beside a single text becomes
-/// that element's, any other a row of its own; rules are left out.
+/// that element's, any other a row of its own; a rule becomes the nearest row's.
 std::vector<Row> rowsOf(const std::vector<Element> &elements);
 
 /// The content in its logical order: rows with borders one below the other are a table.

@@ -12,6 +12,8 @@ namespace {
 constexpr int PictureDotsPerInch = 300;
 constexpr int CellPadding = 60;
 constexpr int HeadingLevels = 3;
+// A table up to this part of a page is not parted.
+constexpr int LargestWholeTable = 3;
 // Boxes that were meant to touch may be drawn some twips apart.
 constexpr int TouchingDistance = 20;
 
@@ -31,7 +33,9 @@ QByteArray escaped(const QString &text) {
             result += '\\' + QByteArray(1, char(code));
         else if (code >= 0x20 && code < 0x7F)
             result += char(code);
-        else if (code >= 0x7F)
+        else if (sign == QChar::Nbsp)
+            result += "\\~";
+        else if (code > 0xA0)
             result += "\\u" + number(qint16(code)) + '?';
     }
     return result;
@@ -67,7 +71,7 @@ private:
     void writePageRows(const char *destination, const std::vector<Row> &rows);
     QByteArray content(const Element &element);
     QByteArray characterFormat(const Element &element);
-    QByteArray cellDefinition(const Element &cell);
+    QByteArray cellDefinition(const Row &row, const Element &cell);
     QByteArray filler(int right) const;
     int colour(const QColor &value);
     int font(const QString &name);
@@ -138,7 +142,7 @@ QByteArray RtfWriter::content(const Element &element) {
     if (!element.picture.isNull()) result += pictureGroup(element);
     if (!element.picture.isNull() && !element.text.isEmpty()) result += ' ';
     if (element.pageValue == PageValue::None)
-        result += escaped(element.text);
+        result += escaped(unbrokenText(element));
     else
         result += QByteArray("{\\field{\\*\\fldinst ") +
                   (element.pageValue == PageValue::PageNumber ? "PAGE" : "NUMPAGES") + "}{\\fldrslt " +
@@ -148,6 +152,14 @@ QByteArray RtfWriter::content(const Element &element) {
 
 const char *alignment(const Element &element) {
     return element.Alignment == 1 ? "\\qr" : element.Alignment == 2 ? "\\qc" : "\\ql";
+}
+
+// Of a paragraph. A row of cells has its rules at the cells' borders.
+QByteArray rules(const Row &row) {
+    QByteArray result;
+    if (row.ruleAbove) result += "\\brdrt\\brdrs\\brdrw8\\brsp40";
+    if (row.ruleBelow) result += "\\brdrb\\brdrs\\brdrw8";
+    return result;
 }
 
 void RtfWriter::writeBlock(const Block &block) {
@@ -172,8 +184,8 @@ void RtfWriter::writeParagraph(const Row &row) {
         const int level = std::min(element.HeadingLevel, HeadingLevels);
         m_body += "\\s" + number(level) + "\\outlinelevel" + number(level - 1);
     }
-    if (element.HeadingLevel > 0 || row.keepWithNext) m_body += "\\keepn";
-    m_body += alignment(element);
+    if (element.HeadingLevel > 0 || element.KeepWithNext || row.keepWithNext) m_body += "\\keepn";
+    m_body += rules(row) + alignment(element);
     m_body += "\\li" + number(element.box.left()) + "\\ri" + number(right) + "\\sb" +
               number(std::max(0, row.top() - m_bottom)) + ' ' + content(element) + "\\par\n";
     m_pageBreak = false;
@@ -193,14 +205,17 @@ void RtfWriter::writeTable(const Block &block) {
         left = std::min(left, row.left());
         right = std::max(right, row.right());
     }
-    const bool fitsOnPage = block.rows.back().bottom() - block.rows.front().top() <= pageHeight();
+    // A longer one may leave too much of a page empty; its captions keep with its first row.
+    const bool staysWhole =
+        block.rows.back().bottom() - block.rows.front().top() <= pageHeight() / LargestWholeTable;
     for (std::size_t i = 0; i < block.rows.size(); ++i) {
         const Row &row = block.rows[i];
         const bool isLast = i + 1 == block.rows.size();
         // Without a frame, the distance to the next row may be the row's.
         const bool takesGap = block.kind == Block::Kind::Aligned && !isLast;
         const int height = (takesGap ? block.rows[i + 1].top() : row.bottom()) - row.top();
-        writeRow(row, left, right, height, fitsOnPage && !isLast);
+        const bool keeps = staysWhole || i == 0 || row.isHeading || row.headsNext();
+        writeRow(row, left, right, height, keeps && !isLast);
     }
     m_afterTable = true;
 }
@@ -212,15 +227,17 @@ int RtfWriter::pageHeight() const {
            m_document.pageFooterHeight;
 }
 
-QByteArray RtfWriter::cellDefinition(const Element &cell) {
+QByteArray RtfWriter::cellDefinition(const Row &row, const Element &cell) {
     const auto side = [](const char *word, int style) {
         return style == 0 ? QByteArray() : QByteArray(word) + "\\brdrs\\brdrw8";
     };
     QByteArray result = cell.VerticalAlignment == 1   ? "\\clvertalc"
                         : cell.VerticalAlignment == 2 ? "\\clvertalb"
                                                       : "\\clvertalt";
-    result += side("\\clbrdrt", cell.Border.TopStyle) + side("\\clbrdrl", cell.Border.LeftStyle) +
-              side("\\clbrdrb", cell.Border.BottomStyle) + side("\\clbrdrr", cell.Border.RightStyle);
+    result += side("\\clbrdrt", row.ruleAbove ? 1 : cell.Border.TopStyle) +
+              side("\\clbrdrl", cell.Border.LeftStyle) +
+              side("\\clbrdrb", row.ruleBelow ? 1 : cell.Border.BottomStyle) +
+              side("\\clbrdrr", cell.Border.RightStyle);
     if (cell.BackStyle != 0) result += "\\clcbpat" + number(colour(cell.BackColor));
     return result + "\\cellx" + number(cell.box.left() + cell.box.width());
 }
@@ -244,7 +261,7 @@ void RtfWriter::writeRow(const Row &row, int left, int right, int height, bool k
     };
     for (const Element &cell : row.cells) {
         fill(cell.box.left());
-        m_body += cellDefinition(cell);
+        m_body += cellDefinition(row, cell);
         contents += QByteArray("\\pard\\plain\\intbl") + (keepWithNext ? "\\keepn" : "") + alignment(cell);
         if (cell.Border.any() && !isNarrow(cell))
             contents += "\\li" + number(CellPadding) + "\\ri" + number(CellPadding);
@@ -277,8 +294,8 @@ void RtfWriter::writePageRows(const char *destination, const std::vector<Row> &r
             if (cell.Alignment != 0 || left > 0) texts += "\\tab ";
             texts += content(cell);
         }
-        m_body +=
-            "\\pard\\plain\\sb" + number(std::max(0, row.top() - bottom)) + stops + ' ' + texts + "\\par\n";
+        m_body += "\\pard\\plain" + rules(row) + "\\sb" + number(std::max(0, row.top() - bottom)) + stops +
+                  ' ' + texts + "\\par\n";
         bottom = row.bottom();
     }
     m_body += "}\n";

@@ -32,11 +32,14 @@ public:
     bool Visible = true;
     /// False keeps an instance at Height, whatever its controls need.
     bool CanGrow = true;
-    /// Stays on one page, sub-reports included, where a page can hold it. Without it a text may be broken
+    /// Stays on one page, sub-reports included, where a page can hold it and no more than a third of the page
+    /// before is left empty for it. Without it a text may be broken
     /// between two lines; a row with borders is only where no page can hold it.
     bool KeepTogether = false;
     /// For a group header: printed again where the rows go over to a new page.
     bool RepeatOnNewPage = false;
+    /// For a group footer: the repeated headings of the rows stand above it as well where it begins a page.
+    bool BelowHeadings = false;
     /// Never the last on a page while something follows; what group headers do.
     bool KeepWithNext;
     ControlList Controls;

@@ -24,7 +24,7 @@ Element pictureElement(const Control &control, const Picture &picture, const QSt
     Element element;
     element.picture = picture;
     element.pictureSize = QSize(control.Width, control.Height);
-    element.alternativeText = alternativeText;
+    element.alternativeText = printableText(alternativeText);
     return element;
 }
 

@@ -4,6 +4,8 @@
 #include <numeric>
 #include <span>
 
+#include "platform/forms/number_blanks.h"
+
 namespace Printing {
 
 namespace {
@@ -21,6 +23,7 @@ struct GridCell {
 struct GridRow {
     std::vector<GridCell> cells;
     bool isHeading = false;
+    bool headsNext = false;
 };
 
 int longest(const QStringList &pieces) {
@@ -34,8 +37,23 @@ int longestLine(const QString &text) {
     return longest(text.split(QLatin1Char('\n')));
 }
 
+// A number with blanks between its digits is one word.
+QStringList wordsOf(QString text) {
+    text.replace(QLatin1Char('\t'), QLatin1Char(' '));
+    return withUnbrokenNumbers(text).split(QLatin1Char(' '));
+}
+
 int longestWord(const QString &text) {
-    return longest(text.simplified().split(QLatin1Char(' ')));
+    int width = 0;
+    for (const QString &line : text.split(QLatin1Char('\n')))
+        width = std::max(width, longest(wordsOf(line)));
+    return width;
+}
+
+QString trimmedEnd(QString line) {
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    return line;
 }
 
 QString aligned(const QString &text, int width, int alignment) {
@@ -88,10 +106,16 @@ Grid::Grid(const Block &block)
     for (const Row &row : block.rows) {
         GridRow gridRow;
         gridRow.isHeading = row.isHeading || row.cells.front().BackStyle != 0;
+        gridRow.headsNext = row.headsNext();
+        int reached = 0;
         for (const Element &cell : row.cells) {
             const int column = columnAt(cell.box.left());
             const int end = columnAt(cell.box.left() + cell.box.width());
+            // A row that lacks cells still has its bars.
+            while (m_isTable && reached < column)
+                gridRow.cells.push_back({reached++, 1, 0, {}});
             gridRow.cells.push_back({column, std::max(1, end - column), cell.Alignment, textOf(cell)});
+            reached = std::max(column + 1, end);
         }
         m_rows.push_back(std::move(gridRow));
     }
@@ -191,8 +215,9 @@ QStringList Grid::partLines(const std::vector<int> &columns) const {
     int linesAbove = 0;
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         const QStringList lines = rowLines(m_rows[i], columns);
-        if (m_isTable && i > 0 &&
-            (m_rows[i].isHeading != m_rows[i - 1].isHeading || linesAbove > 1 || lines.size() > 1))
+        if (m_isTable && i > 0 && !m_rows[i - 1].headsNext &&
+            (m_rows[i].isHeading != m_rows[i - 1].isHeading || m_rows[i].headsNext || linesAbove > 1 ||
+             lines.size() > 1))
             result += rule(columns);
         result += lines;
         linesAbove = int(lines.size());
@@ -249,24 +274,25 @@ QStringList wrapText(const QString &text, int width) {
     QStringList result;
     for (const QString &paragraph : text.split(QLatin1Char('\n'))) {
         QString line;
-        for (const QString &word : paragraph.simplified().split(QLatin1Char(' '))) {
+        for (const QString &word : wordsOf(paragraph)) {
             if (!line.isEmpty() && line.size() + 1 + word.size() > width) {
-                result += line;
+                result += trimmedEnd(line);
                 line.clear();
             }
             if (!line.isEmpty()) line += QLatin1Char(' ');
             line += word;
         }
-        result += line;
+        result += trimmedEnd(line);
     }
+    for (QString &line : result)
+        line.replace(QChar::Nbsp, QLatin1Char(' '));
     return result;
 }
 
 QStringList gridLines(const Block &block) {
     QStringList lines = Grid(block).lines();
     for (QString &line : lines)
-        while (line.endsWith(QLatin1Char(' ')))
-            line.chop(1);
+        line = trimmedEnd(line);
     return lines;
 }
 

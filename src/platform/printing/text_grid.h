@@ -12,8 +12,8 @@ constexpr int LineCharacters = 132;
 /// Greedy, at blanks. A word that is wider stays whole.
 QStringList wrapText(const QString &text, int width);
 
-/// The lines of a table (bars between its columns, a rule below its heading and beside rows of several lines)
-/// or of aligned rows.
+/// The lines of a table (bars between its columns; a rule below its heading, beside rows of several lines,
+/// and above captions that head one row alone) or of aligned rows.
 QStringList gridLines(const Block &block);
 
 } // namespace Printing

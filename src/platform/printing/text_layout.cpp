@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include <QFontMetricsF>
+#include <QRegularExpression>
 #include <QTextLayout>
 
 #include "platform/forms/number_blanks.h"
@@ -40,7 +41,8 @@ int innerWidth(const Element &element) {
 double widestWord(const QString &text, const TextFont &font) {
     const QFontMetricsF metrics(twipsFont(font));
     double widest = 0;
-    for (const QString &word : text.simplified().split(QLatin1Char(' ')))
+    static const QRegularExpression breaks(QStringLiteral("[ \t\n]+"));
+    for (const QString &word : withUnbrokenNumbers(text).split(breaks))
         widest = std::max(widest, metrics.horizontalAdvance(word));
     return widest;
 }
@@ -78,9 +80,21 @@ QFont twipsFont(const TextFont &font) {
     return result;
 }
 
+QString printableText(QString text) {
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    text.removeIf([](QChar sign) {
+        return sign.category() == QChar::Other_Control && sign != QLatin1Char('\n') &&
+               sign != QLatin1Char('\t');
+    });
+    return text;
+}
+
+QString unbrokenText(const Element &element) {
+    return withUnbrokenNumbers(element.text, QFontMetricsF(twipsFont(element.Font)), innerWidth(element));
+}
+
 void breakLines(Element &element, bool wordWrap) {
-    element.text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
-        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    element.text = printableText(element.text);
     element.lines.clear();
     if (element.text.isEmpty()) return;
     if (wordWrap) shrinkToWords(element);

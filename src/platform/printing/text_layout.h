@@ -13,6 +13,12 @@ QFont twipsFont(const TextFont &font);
 /// Whether the element needs its width for the text and has none to leave beside it.
 bool isNarrow(const Element &element);
 
+/// With line feeds for line ends, and without control characters other than these and tabs.
+QString printableText(QString text);
+
+/// The element's text with no-break spaces where its box has room for a whole number.
+QString unbrokenText(const Element &element);
+
 /// Breaks the element's text to the width of its box, at blanks if `wordWrap`. In a cell the font gets
 /// smaller where a word is wider than the box, as long as it stays readable; otherwise such a word is broken.
 /// The lines wait at the box's upper left corner until arrangeLines().

@@ -41,6 +41,9 @@ struct TextStyle {
     BorderStyles Border;
     /// 1 and up marks the text as a heading of that level, for the outline and the outputs; 0 is plain text.
     int HeadingLevel = 0;
+    /// Never parted by a page end from what stands below it in its section, as a heading never is. One
+    /// without a frame is printed again above the cells of its section that go over to a new page.
+    bool KeepWithNext = false;
     /// What the outline says of a heading; where it is empty, the heading's text.
     QString OutlineText;
 };

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -17,8 +18,10 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/busy_pointer.h"
+#include "platform/forms/common_dialog.h"
 #include "platform/forms/msg_box.h"
 #include "platform/printing/arrow_icon.h"
+#include "platform/printing/page_painter.h"
 #include "platform/printing/page_view.h"
 #include "platform/printing/print_output.h"
 #include "platform/runtime/runtime_error.h"
@@ -33,6 +36,23 @@ constexpr QSize ToolIconSize(18, 18);
 constexpr int ZoomPercents[] = {25, 50, 75, 100, 125, 150, 200, 300, 400};
 // Shows an A4 page at about 100 %.
 constexpr QSize WishedSize(920, 1000);
+
+// Of the file that is printed to. What the dialog makes of a title ends at its last dot.
+void offerFileName(QPrintDialog &dialog, QString title) {
+    auto *edit = dialog.findChild<QLineEdit *>(QStringLiteral("filename"));
+    if (!edit) return;
+    const auto complete = [edit] {
+        edit->setText(CommonDialog::withExtension(edit->text(), QStringLiteral(".pdf")));
+    };
+    edit->setText(QFileInfo(edit->text()).path() + QLatin1Char('/') +
+                  title.replace(QLatin1Char('/'), QLatin1Char('_')));
+    complete();
+    // Before the dialog asks whether a file of that name may be replaced.
+    QObject::connect(edit, &QLineEdit::editingFinished, edit, complete);
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [edit, complete] {
+        if (!edit->hasFocus()) complete();
+    });
+}
 
 } // namespace
 
@@ -62,6 +82,7 @@ Viewer::Viewer(const Document &document, QWidget *parent)
     m_choosePrinter = [this](QPrinter &printer) {
         QPrintDialog dialog(&printer, this);
         dialog.setMinMax(1, int(m_document.pages.size()));
+        offerFileName(dialog, m_document.title);
         return dialog.exec() == QDialog::Accepted;
     };
     connect(m_view, &PageView::currentPageChanged, this, &Viewer::showPage);
@@ -201,6 +222,7 @@ void Viewer::setPrinterChooser(std::function<bool(QPrinter &)> chooser) {
 void Viewer::print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(m_document.title);
+    printer.setPageSize(paperSize(m_document.pageSettings));
     if (!m_choosePrinter(printer)) return;
     try {
         const BusyPointer busy;
