@@ -75,8 +75,11 @@ float singleAt(sqlite3_stmt *statement, int column) {
 QDateTime dateAt(sqlite3_stmt *statement, int column) {
     if (sqlite3_column_type(statement, column) == SQLITE_TEXT) {
         QString text = textAt(statement, column).trimmed();
+        if (text.size() == 10) text += QLatin1String("T00:00");
         if (text.size() > 10) text[10] = 'T';
-        const QDateTime moment = QDateTime::fromString(text, Qt::ISODate);
+        // As local time it would come back as another one where the clocks jump over it.
+        QDateTime moment = QDateTime::fromString(text + 'Z', Qt::ISODate);
+        if (!moment.isValid()) moment = QDateTime::fromString(text, Qt::ISODate); // it names its zone
         if (!moment.isValid()) throw Misfit();
         return calendarMoment(moment.date(), moment.time());
     }
