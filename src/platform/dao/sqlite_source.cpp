@@ -13,6 +13,7 @@
 #include <sqlite3.h>
 
 #include "platform/dao/date_serial.h"
+#include "platform/dao/sqlite_file_check.h"
 #include "platform/runtime/runtime_error.h"
 
 namespace {
@@ -125,6 +126,7 @@ SqliteSource::SqliteSource(QString path)
     , m_file(m_path) {
     if (!isSqliteFile(m_path)) raiseDamaged(); // SQLite takes an empty file for an empty database
     if (m_file.open(QIODevice::ReadOnly)) m_identity = FileIdentity::of(m_file.handle());
+    checkSqliteFile(m_path);
     const QByteArray address =
         QUrl::fromLocalFile(QFileInfo(m_path).absoluteFilePath()).toEncoded() + "?mode=ro&immutable=1";
     sqlite3 *database = nullptr;
