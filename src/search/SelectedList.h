@@ -29,6 +29,8 @@ public:
 private:
     bool batchOffered() const;
     bool mayAdd() const;
+    /// Whether the current row's standard is known. Tells the user where it is not.
+    bool hasStandard() const;
     void fillBin();
     void showCount();
     void openWindows();
