@@ -20,7 +20,7 @@ using Group = QHash<QString, QString>;
 Group readGroup(const QString &path, const QString &group) {
     Group result;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return result;
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return result;
     bool inside = false;
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).trimmed();
