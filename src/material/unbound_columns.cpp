@@ -23,8 +23,9 @@ XArrayDB readUnboundCells(Recordset &cells, int rows, int columns) {
     table.ReDim(1, rows, 0, columns - 1);
     for (int row = 1; row <= rows; ++row) {
         for (int column = 0; column < columns; ++column) {
-            table.Set(row, column, cellValue(cells.Fields("val")));
-            cells.MoveNext();
+            const bool isThere = !cells.Eof();
+            table.Set(row, column, isThere ? cellValue(cells.Fields("val")) : QVariant(QString()));
+            if (isThere) cells.MoveNext();
         }
     }
     return table;

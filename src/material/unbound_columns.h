@@ -17,7 +17,7 @@ QString shownUnit(const QString &unitText);
 int unboundRowCount(int cells, int columns);
 
 /// Rows from 1, columns from 0, filled row by row in the order of `cells`: only a cell's position counts.
-/// Raises 3021 when there are fewer cells than places.
+/// A place behind the last cell is empty.
 XArrayDB readUnboundCells(Recordset &cells, int rows, int columns);
 
 /// One row, and nothing in it.

@@ -1,9 +1,9 @@
 #include "search/ResultGrid.h"
 
+#include "data/cell_values.h"
 #include "data/modDBase.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/colours.h"
-#include "platform/runtime/conversions.h"
 #include "platform/runtime/runtime_error.h"
 #include "search/frmSearch.h"
 #include "search/SearchCriteria.h"
@@ -106,7 +106,7 @@ void ResultGrid::followStandard() {
     const auto materials = m_search.dtaMaterials->recordset();
     if (materials->Eof() || materials->Bof()) return;
     Recordset &standards = *m_search.dtaStandard->recordset();
-    standards.FindFirst("standard='" + CStr(materials->Fields("standard")) + '\'');
+    standards.FindFirst("standard='" + cellText(materials->Fields("standard")) + '\'');
     if (!standards.NoMatch() || standards.Eof()) return;
     // A material whose standard is not in the database must not be selected with another one's.
     standards.MoveLast();

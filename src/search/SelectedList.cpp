@@ -1,5 +1,6 @@
 #include "search/SelectedList.h"
 
+#include "data/cell_values.h"
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/queries.h"
@@ -75,13 +76,23 @@ bool SelectedList::mayAdd() const {
     return true;
 }
 
+bool SelectedList::hasStandard() const {
+    const auto standards = m_search.dtaStandard->recordset();
+    if (!standards->Eof() && !standards->Bof()) return true;
+    const auto found = m_search.dtaMaterials->recordset();
+    MsgBox("The standard '" + cellText(found->Fields("standard")) + "' of the material '" +
+               cellText(found->Fields("name")) + "' is not in the database. The material cannot be selected.",
+           vbExclamation, "Standard Missing");
+    return false;
+}
+
 void SelectedList::add() {
     if (m_search.cmbChooseStd->currentText() != QLatin1String("EN"))
         MsgBox("You have entered an ASME/SS-standard. \r\n"
                "The material properties given by VELMAR PED are valid for EN-standards only.",
                vbExclamation, "ASME/SS-standard");
     const auto found = m_search.dtaMaterials->recordset();
-    if (found->Eof() || found->Bof() || !mayAdd()) return;
+    if (found->Eof() || found->Bof() || !mayAdd() || !hasStandard()) return;
 
     auto material = std::make_shared<Material>();
     material->SetProperties(*found, *m_search.dtaStandard->recordset());

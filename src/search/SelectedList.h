@@ -30,6 +30,8 @@ private:
     bool mayAdd() const;
     /// Each in a window, in the place of the search.
     void OpenSelectedMaterials();
+    /// Whether the current row's standard is known. Tells the user where it is not.
+    bool hasStandard() const;
     void fillBin();
     void showCount();
     void openWindows();

@@ -116,12 +116,17 @@ void frmSearch::Form_QueryUnload(bool &cancel, UnloadMode mode) {
     cancel = mode == vbFormControlMenu;
 }
 
-void frmSearch::Form_Unload(bool &) {
+void frmSearch::keepCriteria() const {
+    if (cmbChooseStd->currentIndex() < 0) return; // the boxes have not been filled yet
     mdiVelmar &main = mdiVelmar::instance();
     for (const auto &[index, box] : txtSearch)
         main.setSavedSearch(index, box->text());
     main.setSavedSearch(7, QString::number(cmbChooseStd->currentIndex()));
-    main.menu.mnuFileElem(0).setEnabled(true);
+}
+
+void frmSearch::Form_Unload(bool &) {
+    keepCriteria();
+    mdiVelmar::instance().menu.mnuFileElem(0).setEnabled(true);
 }
 
 void frmSearch::SearchMaterials(const QString &orderBy) {

@@ -22,6 +22,8 @@ public:
     frmSearch();
     ~frmSearch() override;
 
+    /// Into SavedSearch of the main window.
+    void keepCriteria() const;
     /// Runs the main query. `orderBy` is what follows " order by ".
     void SearchMaterials(const QString &orderBy);
     /// Shows the selected materials in that order, a field's name; empty is "standard, name".

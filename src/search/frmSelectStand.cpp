@@ -70,7 +70,7 @@ void frmSelectStand::GetStandardList() {
     rows->MoveFirst();
     strStandards.clear();
     for (int i = 0; i < rows->RecordCount(); ++i) {
-        strStandards << CStr(rows->Fields("standard"));
+        strStandards << cellText(rows->Fields("standard"));
         if (i < rows->RecordCount() - 1) rows->MoveNext();
     }
     lstSelect->addItems(strStandards);
@@ -83,7 +83,7 @@ QString frmSelectStand::chosenText() const {
 
 void frmSelectStand::moved() {
     if (strStandards.isEmpty()) return;
-    const qsizetype row = strStandards.indexOf(CStr(dtaSelect->recordset()->Fields("standard")));
+    const qsizetype row = strStandards.indexOf(cellText(dtaSelect->recordset()->Fields("standard")));
     lstSelect->setCurrentRow(static_cast<int>(row));
 }
 
@@ -103,6 +103,6 @@ void frmSelectStand::showProductForms() {
     const auto forms = dtaProdForms->recordset();
     QStringList names;
     for (; !forms->Eof(); forms->MoveNext())
-        names << CStr(forms->Fields("productForm"));
+        names << cellText(forms->Fields("productForm"));
     if (!names.isEmpty()) txtProductForms->setPlainText(names.join(", "));
 }

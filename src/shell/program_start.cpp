@@ -6,6 +6,7 @@
 #include "platform/forms/application.h"
 #include "platform/forms/default_instance.h"
 #include "platform/runtime/regional_settings.h"
+#include "search/frmSearch.h"
 #include "shell/frmSplash.h"
 #include "shell/mdiVelmar.h"
 #include "shell/program_version.h"
@@ -14,9 +15,16 @@ namespace ProgramStart {
 
 namespace {
 
+void keepSettings() {
+    auto *window = LoadedInstance<mdiVelmar>();
+    if (window == nullptr) return;
+    if (auto *search = LoadedInstance<frmSearch>()) search->keepCriteria();
+    window->WriteSettings();
+}
+
 void endProgram() {
     if (modDBase::dbMain()) modDBase::CloseDBase();
-    if (auto *window = LoadedInstance<mdiVelmar>()) window->WriteSettings();
+    keepSettings();
 }
 
 } // namespace
@@ -27,6 +35,7 @@ void prepare(Application &application, const QString &binaryFolder) {
     Application::setDesktopFileName("velmar-ped");
     Application::setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     application.setEndHook(endProgram);
+    application.endOnRequest(keepSettings);
 }
 
 void begin() {

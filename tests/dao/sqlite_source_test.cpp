@@ -3,19 +3,25 @@
 
 #include <memory>
 
+#include <ctime>
+
 #include <sqlite3.h>
 
+#include "platform/dao/database.h"
+#include "platform/dao/db_engine.h"
+#include "platform/dao/recordset.h"
 #include "platform/dao/sqlite_source.h"
 #include "tests/dao/source_support.h"
 
 namespace {
 
-QString makeFile(const QTemporaryDir &folder, const QString &name, const char *sql) {
+QString makeFile(const QTemporaryDir &folder, const QString &name, const QByteArray &sql) {
     const QString path = folder.filePath(name);
     sqlite3 *database = nullptr;
     sqlite3_open(path.toUtf8().constData(), &database);
     char *message = nullptr;
-    EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, &message), SQLITE_OK) << (message ? message : "");
+    EXPECT_EQ(sqlite3_exec(database, sql.constData(), nullptr, nullptr, &message), SQLITE_OK)
+        << (message ? message : "");
     sqlite3_close(database);
     return path;
 }
@@ -68,7 +74,7 @@ TEST(SqliteSource, CellsComeAsTheirDeclaredTypes) {
                  "insert into T values (null, null, null, null, null, null, null, null);"
                  "create view V as select * from T;");
     SqliteSource source(path);
-    EXPECT_EQ(source.tableNames(), QStringList("T"));
+    EXPECT_EQ(source.tableNames(), QStringList({"T", "V"}));
     EXPECT_EQ(source.rowCount("T"), 4);
     const QDateTime day(QDate(2017, 9, 30), QTime(0, 0));
     const Rows expected = {
@@ -78,6 +84,7 @@ TEST(SqliteSource, CellsComeAsTheirDeclaredTypes) {
         {{}, {}, {}, {}, {}, {}, {}, {}},
     };
     EXPECT_EQ(rowTexts(allRows(source, "T")), rowTexts(expected));
+    EXPECT_EQ(rowTexts(allRows(source, "V")), rowTexts(expected));
     EXPECT_EQ(rowTexts(matchingRows(source, "T", {{"small", 8}})), rowTexts({expected[1]}));
     EXPECT_EQ(rowTexts(matchingRows(source, "T", {{"NAME", "p265gh"}, {"big", 70000}})),
               rowTexts({expected[0]}));
@@ -92,17 +99,118 @@ TEST(SqliteSource, CapitalsOutsideAsciiDoNotCountEither) {
     EXPECT_EQ(matchingRows(source, "T", {{"name", QString::fromUtf8("straße ö")}}).size(), 1);
 }
 
-TEST(SqliteSource, ValueThatItsColumnCannotHoldIsADamagedFile) {
+TEST(SqliteSource, ViewsAndGeneratedColumnsAreReadLikeOthers) {
+    const QTemporaryDir folder;
+    SqliteSource source(
+        makeFile(folder, "views.db",
+                 "create table T (id Integer, temp Single, twice Double as (temp * 2) stored, mark Text(9) "
+                 "as (id || '*'));"
+                 "insert into T values (1, 100), (2, 20.5);"
+                 "create view V as select id, mark, cast(temp as integer) as whole, temp + 0 as calculated,"
+                 " id || '' as text, null as none from T;"
+                 "create view Broken as select * from Nowhere;"
+                 "create view Endless as with recursive n (i) as (select 1 union all select i from n) select "
+                 "i from n;"),
+        1);
+    EXPECT_EQ(rowTexts(allRows(source, "T")), rowTexts({{1, 100.0f, 200.0, "1*"}, {2, 20.5f, 41.0, "2*"}}));
+    EXPECT_EQ(rowTexts(allRows(source, "V")),
+              rowTexts({{1, "1*", 100, 100.0, "1", {}}, {2, "2*", 20, 20.5, "2", {}}}));
+    EXPECT_EQ(rowTexts(matchingRows(source, "V", {{"whole", 20}})).size(), 1U);
+    EXPECT_EQ(errorOf([&] { allRows(source, "Broken"); }), 3343);
+    EXPECT_EQ(errorOf([&] { source.rowCount("Endless"); }), 3343);
+    EXPECT_EQ(source.rowCount("T"), 2);
+}
+
+TEST(SqliteSource, ValueThatItsColumnCannotHoldIsAnErrorWhereItIsAskedFor) {
     const QTemporaryDir folder;
     const char *const values[] = {
-        "(a Integer); insert into T values ('abc')",   "(a Integer); insert into T values (1.5)",
-        "(a Long); insert into T values (5000000000)", "(a Date); insert into T values ('soon')",
-        "(a Single); insert into T values (1e300)",    "(a Text); insert into T values (x'00ff')"};
+        "Integer, b); insert into T values ('abc', 1)",   "Integer, b); insert into T values (1.5, 1)",
+        "Long, b); insert into T values (5000000000, 1)", "Date, b); insert into T values ('soon', 1)",
+        "Single, b); insert into T values (1e300, 1)",    "Text, b); insert into T values (x'00ff', 1)",
+        "Blob, b); insert into T values (x'00ff', 1)"};
     int number = 0;
     for (const char *each : values) {
-        SqliteSource source(
-            makeFile(folder, QString::number(++number), (std::string("create table T ") + each).c_str()));
-        EXPECT_EQ(errorOf([&] { allRows(source, "T"); }), 3343) << each;
+        const QString path =
+            makeFile(folder, QString::number(++number), QByteArray("create table T (a ") + each);
+        const auto database = DBEngine::instance().OpenDatabase(path, false, true, {});
+        const auto rows = database->OpenRecordset("select * from T");
+        EXPECT_EQ(rows->Fields("b").toString(), "1") << each;
+        rows->FindFirst("b = '1'");
+        EXPECT_FALSE(rows->NoMatch());
+        EXPECT_EQ(errorOf([&] { rows->FindFirst("a is null"); }), 3343) << each;
+        for (const char *asking : {"select a from T", "select b from T where a is null",
+                                   "select b from T where a like '*'", "select b from T order by a",
+                                   "select count(a) from T", "select b from T where b in (select a from T)"})
+            EXPECT_EQ(errorOf([&] { database->OpenRecordset(asking)->Fields(0); }), 3343) << each << asking;
+        try {
+            rows->Fields("a");
+        } catch (const RuntimeError &error) {
+            EXPECT_TRUE(error.description().contains("a value in T.a is not"))
+                << qPrintable(error.description());
+        }
+    }
+}
+
+TEST(SqliteSource, ADayOfWhichTheClocksSkipMidnightHasNoTime) {
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "America/Sao_Paulo");
+    tzset();
+    const QTemporaryDir folder;
+    SqliteSource source(makeFile(folder, "days.db",
+                                 "create table T (day Date); insert into T values ('1985-11-02'),"
+                                 " ('1985-11-02 00:30'), ('1985-11-02T10:30:00+01:00'), (31353);"));
+    QStringList days;
+    for (const QVector<QVariant> &row : allRows(source, "T"))
+        days << row[0].toDateTime().toString("yyyy-MM-dd hh:mm");
+    zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
+    tzset();
+    EXPECT_EQ(days,
+              QStringList({"1985-11-02 00:00", "1985-11-02 00:30", "1985-11-02 10:30", "1985-11-02 00:00"}));
+}
+
+TEST(SqliteSource, AFileThatIsNotSettledOrNotWholeIsRefused) {
+    const QTemporaryDir folder;
+    const QString rows = "with recursive n (i) as (select 1 union all select i + 1 from n where i < 3000)"
+                         " insert into T select i, printf('row %d', i) from n;";
+    const QString path =
+        makeFile(folder, "good.db", ("create table T (id Integer, name Text);" + rows).toUtf8());
+    const QByteArray good = fileBytes(path);
+    EXPECT_EQ(errorOf([&] { SqliteSource source(path); }), 0);
+
+    // Of a transaction that has begun to write into the file, and of one that is told by the other file only.
+    sqlite3 *writer = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &writer);
+    sqlite3_exec(writer, qPrintable("pragma cache_size = 1; begin; update T set name = 'new'; " + rows),
+                 nullptr, nullptr, nullptr);
+    const QByteArray journal = fileBytes(path + "-journal");
+    EXPECT_NE(fileBytes(path), good);
+    EXPECT_EQ(errorOf([&] { SqliteSource source(path); }), 3045);
+    sqlite3_exec(writer, "rollback; pragma journal_mode = wal; update T set name = 'newer'", nullptr, nullptr,
+                 nullptr);
+    const QByteArray wal = fileBytes(path + "-wal");
+    QFile::link(path, folder.filePath("link.db"));
+    EXPECT_EQ(errorOf([&] { SqliteSource source(folder.filePath("link.db")); }), 3045);
+    sqlite3_close(writer);
+    EXPECT_EQ(errorOf([&] { SqliteSource source(path); }), 0);
+
+    const auto zeroed = [&] { return QByteArray(journal).replace(0, 28, QByteArray(28, '\0')); };
+    const struct {
+        QByteArray file, wal, journal;
+        int error;
+    } cases[] = {{good, "", "", 0},
+                 {good, wal, "", 3045},
+                 {good, "", journal, 3045},
+                 {good, "", zeroed(), 0},
+                 {good, "", journal.left(500), 0},
+                 {good.chopped(1), "", "", 3049},
+                 {good.left(good.size() / 2), "", "", 3049},
+                 {good + "more", "", "", 0}};
+    int number = 0;
+    for (const auto &each : cases) {
+        const QString copy = writeFile(folder, QString::number(++number), each.file);
+        writeFile(folder, QString::number(number) + "-wal", each.wal);
+        writeFile(folder, QString::number(number) + "-journal", each.journal);
+        EXPECT_EQ(errorOf([&] { SqliteSource source(copy); }), each.error) << number;
     }
 }
 

@@ -8,11 +8,14 @@
 #include "material/frmMaterial2.h"
 #include "material/menu_place.h"
 #include "platform/forms/call_by_name.h"
+#include "platform/printing/text_output.h"
+#include "reports/actRepBound.h"
 #include "shell/mdiVelmar.h"
 #include "tests/support/error_of.h"
 #include "tests/support/given_rows.h"
 #include "tests/support/gui.h"
 #include "tests/support/program.h"
+#include "tests/support/small_database.h"
 
 namespace {
 
@@ -344,3 +347,25 @@ TEST(MenuPlaceTest, EveryTableHasItsEntry) {
 }
 
 } // namespace
+
+TEST(MaterialWindowOverAnotherMakersFile, WhatCannotBeReadHarmsOnlyThePageThatShowsIt) {
+    for (const bool isShown : {false, true}) {
+        const TestProgram program([isShown](const QString &path) {
+            smallDatabase({"ModElast values (1, 20, 212)"})(path);
+            makeDatabase(
+                path,
+                {"alter table materials add column checked Date",
+                 "update materials set checked = 'yesterday'", "alter table ModElast add column picture Blob",
+                 isShown ? "update ModElast set ModElast = x'00'" : "update ModElast set picture = x'00'"});
+        });
+        const auto material = program.material(1);
+        frmMaterial2 &window = program.open(material);
+        EXPECT_EQ(errorOf([&] { window.ShowTable("ModElast"); }), isShown ? 3343 : 0);
+        if (isShown) continue;
+        EXPECT_EQ(window.tdbBoundTable->CellText(0, 1), "212");
+        mdiVelmar::instance().SetCurrentMaterial(material);
+        material->colBoundTables() = QStringList("ModElast");
+        actRepBound report;
+        EXPECT_TRUE(Printing::gridText(report.Run()).contains("212"));
+    }
+}

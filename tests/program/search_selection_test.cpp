@@ -81,17 +81,27 @@ TEST_F(SearchSelectionTest, AMaterialTakesItsStandardAlong) {
     EXPECT_EQ(search().dtaStandard->recordset()->Fields("stID").toInt(), material->StandardID());
 }
 
-TEST_F(SearchSelectionTest, AMaterialOfAnUnknownStandardGetsNoOther) {
+TEST_F(SearchSelectionTest, AMaterialOfAnUnknownStandardIsRefusedAndGetsNoOther) {
     TestProgram::Given given;
     given.putDatabase = smallDatabase({"materials values (11, 'Lost', '1.11', null, null, '2020-01-01', "
-                                       "'Unknown', null, null, null)"});
+                                       "'Unknown', null, null, null)",
+                                       "materials values (12, 'Loose', '1.12', null, null, '2020-01-01', "
+                                       "null, null, null, null)",
+                                       "standard values (2, null, null, '2020-01-01', 0)"});
     start(given);
-    type(search().txtSearch(1), "Lost");
-    raisingThroughQt([&] { click(search().cmdSelectMat); });
-    const QList<RuntimeError> faults = takeFaults();
-    ASSERT_EQ(faults.size(), 1);
-    EXPECT_EQ(faults.first().number(), 3021);
-    EXPECT_TRUE(selected().isEmpty());
+    EXPECT_EQ(search().lblMatCount->text(), "12");
+    for (const auto &[name, standard] : {std::pair{"Lost", "Unknown"}, std::pair{"Loose", ""}}) {
+        type(search().txtSearch(1), name);
+        modal().answerMsgBox(vbOK);
+        click(search().cmdSelectMat);
+        EXPECT_EQ(
+            modal().lastAsked().text,
+            QString("The standard '%1' of the material '%2' is not in the database. The material cannot "
+                    "be selected.")
+                .arg(standard, name));
+        EXPECT_TRUE(selected().isEmpty());
+        search().txtSearch(1)->clear();
+    }
     search().txtSearch(1)->clear();
     click(search().cmdSelectMat);
     EXPECT_EQ(main().colMaterials.Item(1)->Standard(), "S");

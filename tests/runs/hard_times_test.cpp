@@ -9,8 +9,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 #include "platform/forms/default_instance.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/msg_box.h"
 #include "platform/forms/tdb_grid.h"
 #include "platform/runtime/text_file.h"
 #include "search/frmSearch.h"
@@ -130,6 +133,57 @@ TEST_F(HardTimes, ARunThatIsKilledLeavesNothingBehind) {
     EXPECT_EQ(processesOver(m_folders.program), QStringList());
     EXPECT_EQ(QDir(m_folders.program).entryList(QDir::Files), QStringList("Velmar_PED.mdb"));
     EXPECT_TRUE(hasSeenTheSample(runAgain()));
+}
+
+TEST_F(HardTimes, AskedToEndItKeepsTheSettingsWhateverIsOpen) {
+    putDatabase();
+    const struct {
+        int signal; // 0 for the end of the session, which may also be called off
+        bool isBoxOpen;
+        bool isCalledOff;
+    } cases[] = {{SIGTERM, false, false}, {SIGHUP, true, false}, {SIGINT, true, false},
+                 {0, false, false},       {0, true, false},      {0, false, true}};
+    for (const auto &each : cases) {
+        QFile::remove(settings());
+        ProgramRun run(m_folders, [&](TestRun &testRun) {
+            testRun.start();
+            lookAround(testRun);
+            mdiVelmar::instance().menu.mnuSettingsElem(1).trigger();
+            DefaultInstance<frmSearch>().txtSearch(1)->setText("P265");
+            char session = 0;
+            if (each.isCalledOff)
+                QMetaObject::invokeMethod(qApp, "commitDataRequest", Qt::DirectConnection,
+                                          QGenericArgument("QSessionManager&", &session));
+            else if (each.signal == 0)
+                QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+            if (!each.isCalledOff) testRun.note("up");
+            const ModalSeam::Pause seenByAPerson;
+            if (each.isBoxOpen) MsgBox("Is this a box?", vbYesNo, "Box");
+            if (each.isCalledOff) testRun.note("up");
+            QTest::qWait(20'000);
+            testRun.note("goes on");
+        });
+        ASSERT_TRUE(run.waitUntilNoted("up"));
+        usleep(200'000);
+        if (each.signal != 0 || each.isCalledOff) kill(run.id(), each.isCalledOff ? SIGKILL : each.signal);
+        const Ending ending = run.wait();
+        EXPECT_EQ(ending.status, each.isCalledOff ? -SIGKILL : 0)
+            << each.signal << qPrintable(ending.log.join('\n'));
+        const QStringList lines =
+            QFile::exists(settings()) ? TextFile::readLines(settings()) : QStringList(27);
+        EXPECT_EQ(lines.value(3), "Status_HIDE") << each.signal;
+        EXPECT_EQ(lines.value(20), "P265") << each.signal;
+        EXPECT_TRUE(ending.noted("goes on").isEmpty());
+    }
+}
+
+TEST_F(HardTimes, ASettingsFileThatIsAPipeIsToldAndNotWaitedFor) {
+    putDatabase();
+    QDir().mkpath(QFileInfo(settings()).path());
+    ASSERT_EQ(mkfifo(qPrintable(settings()), 0600), 0);
+    const Ending ending = runAgain();
+    EXPECT_EQ(ending.error(), 75) << qPrintable(ending.log.join('\n'));
+    EXPECT_TRUE(hasSeenTheSample(ending));
 }
 
 TEST_F(HardTimes, AReadOnlyMediumIsEnoughForTheDatabase) {

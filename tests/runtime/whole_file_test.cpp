@@ -9,7 +9,10 @@
 #include <QTemporaryDir>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 
+#include "platform/runtime/text_file.h"
 #include "platform/runtime/whole_file.h"
 #include "tests/support/error_of.h"
 
@@ -72,6 +75,21 @@ TEST(WholeFileOnAFullDisk, KeepsWhatWasThere) {
     EXPECT_EQ(number, 61);
     EXPECT_EQ(contentOf(path), "before");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+}
+
+TEST(WholeFileOverWhatIsNoFile, LeavesIt) {
+    QTemporaryDir folder;
+    const QString pipe = folder.filePath("pipe");
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    QFile::link(pipe, folder.filePath("to pipe"));
+    QStringList names = {"pipe", "to pipe"};
+    // One of the test's own: a fault here would put a file into the place of the system's.
+    if (mknod(qPrintable(folder.filePath("device")), S_IFCHR | 0600, makedev(1, 3)) == 0) names << "device";
+    for (const QString &name : names) {
+        EXPECT_EQ(errorOf([&] { writeWholeFile(folder.filePath(name), "content"); }), 75) << qPrintable(name);
+        EXPECT_EQ(errorOf([&] { TextFile::readLines(folder.filePath(name)); }), 75) << qPrintable(name);
+        EXPECT_FALSE(QFileInfo(folder.filePath(name)).isFile()) << qPrintable(name);
+    }
 }
 
 TEST(WholeFileInASealedFolder, IsWrittenInPlaceWhereThatIsAllowed) {

@@ -1,5 +1,6 @@
 """The scripts that make and check a database, over the sample and over the sample with one thing broken."""
 
+import os
 import shutil
 import sqlite3
 import subprocess
@@ -13,11 +14,13 @@ SAMPLE = SOURCE / "sample"
 sys.path.insert(0, str(SOURCE / "tools"))
 
 from velmar_database.check import faults_of  # noqa: E402
-from velmar_database.files import connect, read_folder, write_file  # noqa: E402
+from velmar_database.files import JOURNAL_MARK, connect, read_folder, write_file  # noqa: E402
 
 # What is done to the sample, and the lines that must tell of it, no more and no fewer.
 BROKEN_TABLES = [
     ("DROP TABLE Units", ["Units: the table is missing"]),
+    ("ALTER TABLE Rm RENAME TO other; CREATE VIEW Rm AS SELECT matID, temp || '' AS temp, thickness, ordering, Rm FROM other",
+     ["Rm: column temp is of type TEXT; it must be one of BYTE, CURRENCY, DOUBLE, INT, LONG, SINGLE"]),
     ("ALTER TABLE materials DROP COLUMN ss", ["materials: column ss is missing"]),
     ("ALTER TABLE Rp02 RENAME TO other; CREATE TABLE Rp02 AS SELECT cast(matID AS TEXT) AS matID, temp, thickness, "
      "ordering, Rp02 FROM other",
@@ -41,6 +44,10 @@ BROKEN_CELLS = [
      ["SpecThermCap: row 1, SpecThermCap: '0,5': a column of numbers takes a decimal point, no comma"]),
     ("UPDATE standard SET revision_date = '30.9.2017' WHERE stID = 1",
      ["standard: row 1, revision_date: '30.9.2017' is no date; 2017-09-30 is one"]),
+    ("UPDATE standard SET revision_date = '20170930' WHERE stID = 1",
+     ["standard: row 1, revision_date: 20170930 is no date; 2017-09-30 is one"]),
+    ("UPDATE standard SET revision_date = '2017-W39-6' WHERE stID = 1",
+     ["standard: row 1, revision_date: '2017-W39-6' is no date; 2017-09-30 is one"]),
     ("UPDATE standard SET otherElem = 'maybe' WHERE stID = 1", ["standard: row 1, otherElem: 'maybe' is no BOOLEAN"]),
     ("UPDATE standard SET revision_date = '09/30/17'",
      [f"standard: row {row}, revision_date: '09/30/17' is no date; 2017-09-30 is one" for row in range(1, 6)] +
@@ -149,6 +156,9 @@ HARMLESS = [
     "UPDATE standard SET otherElem = 'Yes' WHERE otherElem",
     "ALTER TABLE Rp02 ADD COLUMN remark TEXT",
     "CREATE TABLE Remarks (a)",
+    "CREATE VIEW Remarks AS SELECT * FROM nowhere",
+    "ALTER TABLE Rm RENAME TO other; CREATE VIEW Rm AS SELECT matID, temp + 0 AS temp, thickness, ordering, Rm FROM other",
+    "ALTER TABLE Units DROP COLUMN unitTxt; ALTER TABLE Units ADD COLUMN unitTxt TEXT AS ('[' || unitID || ']')",
     "DELETE FROM CompatibleGroup",
 ]
 
@@ -270,11 +280,26 @@ class Scripts(unittest.TestCase):
         (self.folder / "empty").mkdir()
         damaged = self.folder / "damaged.mdb"
         write_file(read_folder(self.texts)[0], damaged)
-        damaged.write_bytes(damaged.read_bytes()[:6000])
+        whole = damaged.read_bytes()
+        damaged.write_bytes(whole[:6000] + bytes(len(whole) - 6000))
+        for name, bytes_of in {"cut": whole[:-1], "open": whole, "open-wal": b"x", "half": whole,
+                               "half-journal": JOURNAL_MARK + bytes(504)}.items():
+            (self.folder / name).write_bytes(bytes_of)
+        os.mkfifo(self.folder / "pipe")
         for given, told in ((SAMPLE / "Velmar_PED.mdb", "Access file"), ("letter.txt", "no SQLite file"),
-                            ("empty", "no texts"), ("none", "No such file"), (damaged, "malformed")):
+                            ("empty", "no texts"), ("none", "No such file"), (damaged, "malformed"),
+                            ("cut", "cut off"), ("open", "open-wal"), ("half", "half-journal"), ("pipe", "no regular")):
             status, lines = self.run_script("check_database", given)
             self.assertEqual((status, len(lines)), (2, 1), lines)
+            self.assertIn(told, lines[0])
+        (self.folder / "half-journal").write_bytes(bytes(512))
+        (self.folder / "open-wal").write_bytes(b"")
+        for given in ("half", "open"):
+            self.assertEqual(self.run_script("check_database", given)[0], 0)
+        (self.folder / "new.mdb-wal").write_bytes(b"x")
+        for given, told in (("pipe", "no regular"), ("new.mdb", "new.mdb-wal")):
+            status, lines = self.run_script("make_database", "--replace", "csv", given)
+            self.assertEqual(status, 2)
             self.assertIn(told, lines[0])
 
 

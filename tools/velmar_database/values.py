@@ -7,7 +7,9 @@ import re
 from .schema import INTEGER_TYPES, TYPE_RANGES
 
 PLAIN_NUMBER = re.compile(r"[+-]?([0-9]+(\.[0-9]*)?|\.[0-9]+)([eE][+-]?[0-9]+)?")
+PLAIN_DATE = re.compile(r"\d{4}-\d\d-\d\d([T ]\d\d:\d\d(:\d\d(\.\d+)?)?(Z|[+-]\d\d:?\d\d)?)?")
 LARGEST_WHOLE = 2**63 - 1  # of SQLite
+FIRST_DAY, LAST_DAY = -657434, 2958465  # of the years 100 to 9999, counted from 1899-12-30
 LARGEST_SINGLE = 3.4028234663852886e38
 TRUTHS = {"1": 1, "-1": 1, "true": 1, "yes": 1, "0": 0, "false": 0, "no": 0}
 
@@ -91,6 +93,8 @@ def misfit(value, type_name):
         low, high = TYPE_RANGES[type_name]
         if not low <= value <= high:
             return f"{value} is beyond the range of {type_name}, {low} to {high}"
+    if type_name == "DATE" and not FIRST_DAY <= value < LAST_DAY + 1:
+        return f"{value} is no date; 2017-09-30 is one"
     if type_name == "SINGLE" and abs(value) > LARGEST_SINGLE:
         return f"{value} is beyond the range of SINGLE"
     return None
@@ -101,10 +105,12 @@ def _text_misfit(text, type_name):
         return None  # Null to the program
     if type_name == "DATE":
         try:
-            datetime.datetime.fromisoformat(text.strip())
-            return None
+            if PLAIN_DATE.fullmatch(text.strip()):
+                datetime.datetime.fromisoformat(text.strip())
+                return None
         except ValueError:
-            return f"'{text}' is no date; 2017-09-30 is one"
+            pass  # a day that no month has
+        return f"'{text}' is no date; 2017-09-30 is one"
     if type_name == "BOOLEAN" and text.strip().lower() in TRUTHS:
         return None
     if PLAIN_NUMBER.fullmatch(text.strip()):

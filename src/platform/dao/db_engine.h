@@ -17,7 +17,8 @@ public:
     /// file that is open in this engine opens again, with or without its password, on the same rows.
     ///
     /// `connect` is ";Pwd=..." or "Access 2000;". Raises 3024 (no such file), 3044 (no such folder), 3343 (no
-    /// database, or a damaged one), 3031 (wrong password), 3356 (held exclusively by another run).
+    /// database, or a damaged one), 3031 (wrong password), 3356 (held exclusively by another run), 3045
+    /// (changes to an SQLite file stand beside it), 3049 (an SQLite file that is cut off).
     std::shared_ptr<Database> OpenDatabase(const QString &path, bool exclusive, bool readOnly,
                                            const QString &connect);
 

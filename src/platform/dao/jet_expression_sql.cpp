@@ -62,6 +62,11 @@ void JetExpressionSql::addUnknownName(const QString &name) {
     if (!m_unknownNames.contains(name, Qt::CaseInsensitive)) m_unknownNames += name;
 }
 
+void JetExpressionSql::checkReadable() const {
+    for (const Column &column : m_read)
+        column.table->checkReadable(column.columnInMemory);
+}
+
 std::optional<JetExpressionSql::Column> JetExpressionSql::find(const JetExpression &column) const {
     if (column.kind != Kind::Column) return std::nullopt;
     for (auto scope = m_scopes.rbegin(); scope != m_scopes.rend(); ++scope) {
@@ -69,7 +74,7 @@ std::optional<JetExpressionSql::Column> JetExpressionSql::find(const JetExpressi
         const int field = fieldIndex(scope->table.fields, column.text);
         if (field < 0) continue;
         const int inMemory = scope->table.columns[field];
-        return Column{scope->table.fields[field], inMemory,
+        return Column{scope->table.fields[field], scope->table.table, inMemory,
                       scope->alias + "." + MemoryTable::columnName(inMemory)};
     }
     return std::nullopt;
@@ -150,7 +155,10 @@ SqlText JetExpressionSql::value(const JetExpression &expression) {
     case Kind::Date:
         return {"?", {expression.number}};
     case Kind::Column:
-        if (const std::optional<Column> column = find(expression)) return column->sql;
+        if (const std::optional<Column> column = find(expression)) {
+            addRead(*column);
+            return column->sql;
+        }
         addUnknownName(expression.source);
         return "null";
     case Kind::Call:

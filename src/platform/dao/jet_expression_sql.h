@@ -19,6 +19,7 @@ public:
 
     struct Column {
         FieldDefinition field;
+        std::shared_ptr<MemoryTable> table;
         int columnInMemory;
         QByteArray sql;
     };
@@ -51,6 +52,12 @@ public:
     const QStringList &unknownNames() const { return m_unknownNames; }
     void addUnknownName(const QString &name);
 
+    /// Raises 3343 where SQL that was made here reads a column that cannot be read. Whoever runs the SQL asks
+    /// once the tables' rows are there.
+    void checkReadable() const;
+    /// Of a column that is read without its SQL.
+    void addRead(const Column &column) { m_read.push_back(column); }
+
 private:
     struct Scope {
         JetTable table;
@@ -72,6 +79,7 @@ private:
     Resolve m_resolve;
     Place m_place = Place::Anywhere;
     QStringList m_unknownNames;
+    std::vector<Column> m_read;
     int m_tables = 0;
 };
 

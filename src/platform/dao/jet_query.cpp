@@ -46,6 +46,7 @@ private:
             throw JetErrors::missingParameters(static_cast<int>(unknown));
         for (const TableAccess &access : m_accesses)
             m_store.load(access);
+        m_translator.checkReadable();
     }
 
     FieldDefinitions fields() const {

@@ -66,6 +66,7 @@ RowFilter JetTranslator::filter(const JetExpression *where) {
         const JetExpression &term = isAnd ? where->operands[i] : *where;
         if (answersLikes && term.kind == Kind::Like && !term.negated && term.operands[1].kind == Kind::Text) {
             if (const auto column = m_sql.find(term.operands[0])) {
+                m_sql.addRead(*column);
                 filter.likes.push_back({column->columnInMemory, LikePattern(term.operands[1].text)});
                 continue;
             }

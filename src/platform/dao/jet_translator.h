@@ -40,6 +40,8 @@ public:
 
     FieldType type(const JetExpression &expression) const { return m_sql.type(expression); }
     const QStringList &unknownNames() const { return m_sql.unknownNames(); }
+    /// Raises 3343 for a column that cannot be read, once the tables' rows are there.
+    void checkReadable() const { m_sql.checkReadable(); }
 
 private:
     std::vector<SqlText> values(const std::vector<JetColumn> &columns);

@@ -85,8 +85,15 @@ void MemoryTable::load(const std::function<void(const RowSink &)> &read) {
     {
         const auto insert = m_database->prepare("insert into " + m_sqlName + " values (" + marks + ")");
         read([&](const QVector<QVariant> &row) {
-            for (int i = 0; i < m_fields.size(); ++i)
-                insert->bindCell(i, row.value(i), m_fields[i].type);
+            for (int i = 0; i < m_fields.size(); ++i) {
+                QVariant cell = row.value(i);
+                if (cell.typeId() == qMetaTypeId<UnreadableCell>()) {
+                    if (!m_unreadable.contains(i))
+                        m_unreadable.insert(i, cell.value<UnreadableCell>().description);
+                    cell = {};
+                }
+                insert->bindCell(i, cell, m_fields[i].type);
+            }
             insert->step();
             insert->reset();
         });
@@ -189,7 +196,13 @@ const TextColumn &MemoryTable::textColumn(int column) {
     return kept->texts;
 }
 
+void MemoryTable::checkReadable(int column) const {
+    const auto unreadable = m_unreadable.constFind(column);
+    if (unreadable != m_unreadable.constEnd()) throw RuntimeError(3343, *unreadable);
+}
+
 QVariant MemoryTable::cell(int row, int column) {
+    checkReadable(column);
     if (const QVector<QVariant> *kept = m_rows.object(row)) return kept->value(column);
     auto cells = std::make_unique<QVector<QVariant>>();
     const auto statement =

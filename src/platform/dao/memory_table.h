@@ -60,6 +60,8 @@ public:
     std::vector<int> rows(const RowFilter &filter, const SqlText &order);
     RowMarks marks(const RowFilter &filter);
     QVariant cell(int row, int column);
+    /// Raises 3343 where a row holds an UnreadableCell in the column.
+    void checkReadable(int column) const;
 
     /// The name of a column in SQL.
     static QByteArray columnName(int column);
@@ -81,6 +83,8 @@ private:
     Kind m_kind;
     QByteArray m_keyNames;
     int m_rowCount = 0;
+    /// The description of each column's first cell that cannot be read.
+    QHash<int, QString> m_unreadable;
     QHash<QByteArray, std::vector<int>> m_orders;
     std::vector<std::optional<KeptTextColumn>> m_textColumns;
     QCache<int, QVector<QVariant>> m_rows;

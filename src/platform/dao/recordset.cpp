@@ -97,6 +97,10 @@ QVariant Recordset::value(int row, int column) const {
     return m_rows->value(row, column);
 }
 
+void Recordset::checkReadable(int column) const {
+    m_rows->checkReadable(column);
+}
+
 void Recordset::setRepositionHandler(std::function<void()> handler) {
     m_reposition = std::move(handler);
 }

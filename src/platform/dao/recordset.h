@@ -60,6 +60,8 @@ public:
     void setAbsolutePosition(int row);
     /// A cell of any row, without moving: what a grid paints from.
     QVariant value(int row, int column) const;
+    /// Raises 3343, which value() would, before there is a row to read.
+    void checkReadable(int column) const;
 
     /// Called after every change of the current record; a clone has none.
     void setRepositionHandler(std::function<void()> handler);

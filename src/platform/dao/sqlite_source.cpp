@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <ctime>
 #include <limits>
 
 #include <QDateTime>
@@ -13,12 +14,22 @@
 #include <sqlite3.h>
 
 #include "platform/dao/date_serial.h"
+#include "platform/dao/sqlite_file_check.h"
 #include "platform/runtime/runtime_error.h"
 
 namespace {
 
 constexpr int TextSize = 255;
 constexpr char TextCollation[] = "any_capitals";
+constexpr int StepsBetweenLooks = 100'000;
+constexpr qint64 LeastLongestValue = 1 << 20;
+
+/// The processor's, since a medium may take its time.
+qint64 secondsOfWork() {
+    timespec now = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return now.tv_sec;
+}
 
 int compareTexts(void *, int sizeA, const void *a, int sizeB, const void *b) {
     const auto view = [](const void *units, int size) {
@@ -75,8 +86,11 @@ float singleAt(sqlite3_stmt *statement, int column) {
 QDateTime dateAt(sqlite3_stmt *statement, int column) {
     if (sqlite3_column_type(statement, column) == SQLITE_TEXT) {
         QString text = textAt(statement, column).trimmed();
+        if (text.size() == 10) text += QLatin1String("T00:00");
         if (text.size() > 10) text[10] = 'T';
-        const QDateTime moment = QDateTime::fromString(text, Qt::ISODate);
+        // As local time it would come back as another one where the clocks jump over it.
+        QDateTime moment = QDateTime::fromString(text + 'Z', Qt::ISODate);
+        if (!moment.isValid()) moment = QDateTime::fromString(text, Qt::ISODate); // it names its zone
         if (!moment.isValid()) throw Misfit();
         return calendarMoment(moment.date(), moment.time());
     }
@@ -117,11 +131,13 @@ void SqliteSource::Closer::operator()(sqlite3_stmt *statement) const {
     sqlite3_finalize(statement);
 }
 
-SqliteSource::SqliteSource(QString path)
+SqliteSource::SqliteSource(QString path, int mostSeconds)
     : m_path(std::move(path))
+    , m_mostSeconds(mostSeconds)
     , m_file(m_path) {
     if (!isSqliteFile(m_path)) raiseDamaged(); // SQLite takes an empty file for an empty database
     if (m_file.open(QIODevice::ReadOnly)) m_identity = FileIdentity::of(m_file.handle());
+    checkSqliteFile(m_path);
     const QByteArray address =
         QUrl::fromLocalFile(QFileInfo(m_path).absoluteFilePath()).toEncoded() + "?mode=ro&immutable=1";
     sqlite3 *database = nullptr;
@@ -130,6 +146,14 @@ SqliteSource::SqliteSource(QString path)
     m_database.reset(database);
     if (result != SQLITE_OK) raiseDamaged();
     sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    // Only what a view or a generated column makes up is longer than the file.
+    sqlite3_limit(database, SQLITE_LIMIT_LENGTH,
+                  static_cast<int>(
+                      std::clamp<qint64>(m_file.size(), LeastLongestValue, std::numeric_limits<int>::max())));
+    sqlite3_progress_handler(
+        database, StepsBetweenLooks,
+        [](void *source) { return int(secondsOfWork() > static_cast<SqliteSource *>(source)->m_deadline); },
+        this);
     sqlite3_exec(database, "PRAGMA cell_size_check = ON", nullptr, nullptr, nullptr);
     sqlite3_create_collation(database, TextCollation, SQLITE_UTF16, nullptr, compareTexts);
     readCatalog();
@@ -180,12 +204,16 @@ QStringList SqliteSource::tableNames() {
 }
 
 FieldDefinitions SqliteSource::fields(const QString &table) {
-    return find(table).fields;
+    return fieldsOf(find(table));
 }
 
 qint64 SqliteSource::rowCount(const QString &table) {
-    const Statement statement = prepare("SELECT count(*) FROM " + quoted(find(table).name));
-    return step(statement) ? sqlite3_column_int64(statement.get(), 0) : 0;
+    Table &found = find(table);
+    if (!found.rows) {
+        const Statement statement = prepare("SELECT count(*) FROM " + quoted(found.name));
+        found.rows = step(statement) ? sqlite3_column_int64(statement.get(), 0) : 0;
+    }
+    return *found.rows;
 }
 
 void SqliteSource::readAll(const QString &table, const RowSink &sink) {
@@ -194,38 +222,60 @@ void SqliteSource::readAll(const QString &table, const RowSink &sink) {
 
 void SqliteSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                                 const RowSink &sink) {
-    const Table &found = find(table);
-    if (const auto bound = bindConditions(found.fields, conditions)) read(found, *bound, sink);
+    Table &found = find(table);
+    if (const auto bound = bindConditions(fieldsOf(found), conditions)) read(found, *bound, sink);
 }
 
 void SqliteSource::readCatalog() {
     const Statement tables =
-        prepare("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite~_%' "
-                "ESCAPE '~' AND sql NOT LIKE 'CREATE VIRTUAL%' ORDER BY rowid");
+        prepare("SELECT name, type = 'view' FROM sqlite_schema WHERE type IN ('table', 'view') AND name NOT "
+                "LIKE 'sqlite~_%' ESCAPE '~' AND sql NOT LIKE 'CREATE VIRTUAL%' ORDER BY rowid");
     while (step(tables)) {
-        Table table;
-        table.name = textAt(tables.get(), 0);
-        const Statement columns = prepare("PRAGMA table_info(" + quoted(table.name) + ")");
-        while (step(columns)) {
-            FieldDefinition field = declaredField(textAt(columns.get(), 2));
-            field.name = textAt(columns.get(), 1);
-            table.fields.append(field);
-        }
-        m_tables.append(table);
+        m_tables.append({textAt(tables.get(), 0), sqlite3_column_int(tables.get(), 1) != 0, {}, {}});
+        // A view over what is not there does no harm until somebody asks for it.
+        if (!m_tables.last().isView) fieldsOf(m_tables.last());
     }
 }
 
-const SqliteSource::Table &SqliteSource::find(const QString &table) const {
+SqliteSource::Table &SqliteSource::find(const QString &table) {
     const auto found =
         std::find_if(m_tables.begin(), m_tables.end(), [&](const Table &each) { return each.name == table; });
     if (found == m_tables.end()) throw RuntimeError(3078);
     return *found;
 }
 
-void SqliteSource::read(const Table &table, const QVector<BoundCondition> &conditions,
-                        const RowSink &sink) const {
+const FieldDefinitions &SqliteSource::fieldsOf(Table &table) {
+    if (!table.fields.isEmpty()) return table.fields;
+    // Other than table_info it knows of generated columns.
+    const Statement columns = prepare("PRAGMA table_xinfo(" + quoted(table.name) + ")");
+    FieldDefinitions fields;
+    while (step(columns)) {
+        const QString declaration = textAt(columns.get(), 2);
+        FieldDefinition field = declaredField(declaration);
+        field.name = textAt(columns.get(), 1);
+        if (table.isView && declaration.isEmpty()) field.type = typeOfValues(table.name, field.name);
+        if (!isTextType(field.type)) field.size = 0;
+        fields.append(field);
+    }
+    return table.fields = fields;
+}
+
+/// What a view calculates has no declared type, and numbers must not be sorted as texts.
+FieldType SqliteSource::typeOfValues(const QString &view, const QString &column) const {
+    const QString type = "typeof(" + quoted(column) + ")";
+    const Statement values =
+        prepare("SELECT sum(" + type + " <> 'null'), sum(" + type + " IN ('text', 'blob')), sum(" + type +
+                " = 'real') FROM " + quoted(view));
+    if (!step(values)) return FieldType::Text;
+    const bool hasNone = sqlite3_column_int64(values.get(), 0) == 0;
+    if (hasNone || sqlite3_column_int64(values.get(), 1) > 0) return FieldType::Text;
+    return sqlite3_column_int64(values.get(), 2) > 0 ? FieldType::Double : FieldType::Long;
+}
+
+void SqliteSource::read(Table &table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
+    const FieldDefinitions &fields = fieldsOf(table);
     QStringList columns;
-    for (const FieldDefinition &field : table.fields)
+    for (const FieldDefinition &field : fields)
         columns << quoted(field.name);
     QStringList tests;
     for (const BoundCondition &condition : conditions) {
@@ -251,15 +301,15 @@ void SqliteSource::read(const Table &table, const QVector<BoundCondition> &condi
         if (FileIdentity::of(m_file.handle()) != m_identity) raiseDamaged();
     };
     checkUnchanged();
-    QVector<QVariant> row(table.fields.size());
+    QVector<QVariant> row(fields.size());
     while (step(statement)) {
         for (int i = 0; i < row.size(); ++i) {
             try {
-                row[i] = valueAt(statement.get(), i, table.fields[i].type);
+                row[i] = valueAt(statement.get(), i, fields[i].type);
             } catch (const Misfit &) {
-                throw RuntimeError(3343, "Unrecognized database format '" + m_path + "': a value in " +
-                                             table.name + "." + table.fields[i].name +
-                                             " is not of the column's type.");
+                row[i] = QVariant::fromValue(
+                    UnreadableCell{"Unrecognized database format '" + m_path + "': a value in " + table.name +
+                                   "." + fields[i].name + " is not of the column's type."});
             }
         }
         sink(row);
@@ -268,23 +318,32 @@ void SqliteSource::read(const Table &table, const QVector<BoundCondition> &condi
 }
 
 SqliteSource::Statement SqliteSource::prepare(const QString &sql) const {
+    m_deadline = secondsOfWork() + m_mostSeconds;
     sqlite3_stmt *statement = nullptr;
     if (sqlite3_prepare_v2(m_database.get(), sql.toUtf8().constData(), -1, &statement, nullptr) != SQLITE_OK)
-        raiseDamaged();
+        raiseRefused();
     return Statement(statement);
 }
 
 bool SqliteSource::step(const Statement &statement) const {
+    m_deadline = secondsOfWork() + m_mostSeconds;
     switch (sqlite3_step(statement.get())) {
     case SQLITE_ROW:
         return true;
     case SQLITE_DONE:
         return false;
     default:
-        raiseDamaged();
+        raiseRefused();
     }
 }
 
-void SqliteSource::raiseDamaged() const {
-    throw RuntimeError(3343, "Unrecognized database format '" + m_path + "'.");
+void SqliteSource::raiseRefused() const {
+    raiseDamaged(sqlite3_errcode(m_database.get()) == SQLITE_INTERRUPT
+                     ? QStringLiteral("a view takes too long")
+                     : QString::fromUtf8(sqlite3_errmsg(m_database.get())));
+}
+
+void SqliteSource::raiseDamaged(const QString &reason) const {
+    throw RuntimeError(3343, "Unrecognized database format '" + m_path + '\'' +
+                                 (reason.isEmpty() ? reason : ": " + reason) + '.');
 }

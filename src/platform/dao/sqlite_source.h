@@ -12,14 +12,15 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// The file is never written and nothing is written beside it. The declared types give the columns' types,
-/// under any of their usual names: see declaredField(). A value that its declared type cannot hold is a
-/// damaged file, 3343: a text that is no number among numbers, a blob. A date is a text of the ISO form or a
-/// number of days since 1899-12-30.
+/// The file is never written and nothing is written beside it. A view is a table like any other. The declared
+/// types give the columns' types, under any of their usual names: see declaredField(); what a view calculates
+/// has the type of its values. A value that its declared type cannot hold is an UnreadableCell: a text that
+/// is no number among numbers, a blob. A date is a text of the ISO form or a number of days since 1899-12-30.
 class SqliteSource : public TableSource {
 public:
-    /// Raises 3343 for what is no SQLite file, or a damaged one.
-    explicit SqliteSource(QString path);
+    /// Raises 3343 for what is no SQLite file, or a damaged one, and what checkSqliteFile() raises.
+    /// A view can be written so that it never ends: after `mostSeconds` of work without a row it is 3343.
+    explicit SqliteSource(QString path, int mostSeconds = 5);
 
     static bool isSqliteFile(const QString &path);
     /// "TEXT(80)", "varchar ( 20 )", "Yes/No", "LONG INTEGER", "datetime", ... An unknown type is a Text of
@@ -41,20 +42,29 @@ private:
     using Statement = std::unique_ptr<sqlite3_stmt, Closer>;
     struct Table {
         QString name;
+        bool isView;
+        /// Empty until somebody asks.
         FieldDefinitions fields;
+        std::optional<qint64> rows;
     };
 
     void readCatalog();
-    const Table &find(const QString &table) const;
+    Table &find(const QString &table);
+    const FieldDefinitions &fieldsOf(Table &table);
+    FieldType typeOfValues(const QString &view, const QString &column) const;
     Statement prepare(const QString &sql) const;
     /// False after the last row.
     bool step(const Statement &statement) const;
-    void read(const Table &table, const QVector<BoundCondition> &conditions, const RowSink &sink) const;
-    [[noreturn]] void raiseDamaged() const;
+    void read(Table &table, const QVector<BoundCondition> &conditions, const RowSink &sink);
+    [[noreturn]] void raiseRefused() const;
+    [[noreturn]] void raiseDamaged(const QString &reason = {}) const;
 
     QString m_path;
+    int m_mostSeconds;
     QFile m_file;
     FileIdentity m_identity;
     std::unique_ptr<sqlite3, Closer> m_database;
     QVector<Table> m_tables;
+    /// In seconds of work, for the statement at hand.
+    mutable qint64 m_deadline = 0;
 };

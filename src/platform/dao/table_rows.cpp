@@ -12,12 +12,17 @@ QVariant TableRows::value(int row, int column) const {
     return m_table.table->cell(m_rows[static_cast<std::size_t>(row)], m_table.columns[column]);
 }
 
+void TableRows::checkReadable(int column) const {
+    m_table.table->checkReadable(m_table.columns[column]);
+}
+
 int TableRows::find(const QString &criterion, int from, int step) const {
     const JetExpression condition = JetParser::criterion(criterion);
     JetTranslator translator(m_table, {});
     const RowFilter filter = translator.filter(&condition);
     if (!translator.unknownNames().isEmpty())
         throw JetErrors::unknownCriterionName(translator.unknownNames().first());
+    translator.checkReadable();
     const RowMarks marks = m_table.table->marks(filter);
     for (int row = from; row >= 0 && row < count(); row += step)
         if (marks[static_cast<std::size_t>(m_rows[static_cast<std::size_t>(row)])]) return row;

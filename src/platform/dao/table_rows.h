@@ -13,6 +13,7 @@ public:
     const FieldDefinitions &fields() const override { return m_table.fields; }
     int count() const override { return static_cast<int>(m_rows.size()); }
     QVariant value(int row, int column) const override;
+    void checkReadable(int column) const override;
     int find(const QString &criterion, int from, int step) const override;
 
 private:

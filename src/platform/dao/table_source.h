@@ -13,6 +13,13 @@
 /// One row, in the order of the table's definition. The sink is called for each row in the order of the file.
 using RowSink = std::function<void(const QVector<QVariant> &row)>;
 
+/// Stands in a row for a value that is there and cannot be handed over. It does no harm until somebody asks
+/// for its column: then 3343 is raised with this description, which names table and column.
+struct UnreadableCell {
+    QString description;
+};
+Q_DECLARE_METATYPE(UnreadableCell)
+
 /// A column and the value that a row must hold in it: an integer for a Byte, Integer or Long column, a text
 /// for a Text column, where capitals do not count (QString::compare). Null meets no condition. Names of
 /// columns are not case sensitive.

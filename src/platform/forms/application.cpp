@@ -3,9 +3,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <new>
+#include <utility>
 
+#include <QEvent>
 #include <QFont>
 
+#include "platform/forms/end_signals.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/platform_style.h"
@@ -68,6 +71,43 @@ void Application::lastFormUnloaded() {
     if (m_running) exit(0);
 }
 
+void Application::endOnRequest(std::function<void()> keepSettings) {
+    m_keepSettings = std::move(keepSettings);
+    m_endSignals = std::make_unique<EndSignals>([this] { leave(); });
+    const auto keep = [this] {
+        try {
+            m_keepSettings();
+        } catch (const RuntimeError &) {
+            return; // it is tried again at the end
+        }
+    };
+    connect(this, &QGuiApplication::commitDataRequest, this, keep, Qt::DirectConnection);
+    connect(this, &QGuiApplication::saveStateRequest, this, keep, Qt::DirectConnection);
+}
+
+bool Application::event(QEvent *event) {
+    if (event->type() == QEvent::Quit && m_endSignals) leave(); // the session has come to its end
+    return QApplication::event(event);
+}
+
+void Application::leave() {
+    // Nobody reads another report, and what the one on the screen tells of is not undone.
+    int status = std::exchange(m_reporting, true) ? EXIT_FAILURE : EXIT_SUCCESS;
+    try {
+        if (m_endHook) m_endHook();
+    } catch (const RuntimeError &error) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(reportText(error)));
+        status = EXIT_FAILURE;
+    }
+    endProcess(status);
+}
+
+void Application::endProcess(int status) {
+    std::fflush(nullptr);
+    // Leaving by the event loop would first run on in every procedure that is still below this one.
+    std::_Exit(status);
+}
+
 QString Application::reportText(const RuntimeError &error) {
     return QStringLiteral("Run-time error '%1':\r\n\r\n%2").arg(error.number()).arg(error.description());
 }
@@ -87,7 +127,5 @@ void Application::report(const RuntimeError &error) {
     } catch (...) {
         // The run ends for the first error; what fails while it ends has nobody left to tell.
     }
-    std::fflush(nullptr);
-    // Leaving by the event loop would first run on in every procedure that is still below this one.
-    std::_Exit(1);
+    endProcess(EXIT_FAILURE);
 }

@@ -111,6 +111,12 @@ QVariant GridModel::value(int row, int column) const {
     return m_array->Get(arrayRow, arrayColumn);
 }
 
+void GridModel::checkReadable() const {
+    if (!m_recordset) return;
+    for (const int field : m_fields)
+        if (field >= 0) m_recordset->checkReadable(field);
+}
+
 void GridModel::findFields() {
     if (!m_recordset) return;
     for (std::size_t i = 0; i < m_columns.size(); ++i)

@@ -29,6 +29,8 @@ public:
     void removeColumn(int index);
     GridColumn &column(int index) const { return *m_columns[static_cast<std::size_t>(index)]; }
     /// One column for each field of the recordset on show, in the place of all others.
+    /// Raises 3343 where a column's field cannot be read, which is better told now than while painting.
+    void checkReadable() const;
     void makeColumnsOfFields();
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -266,6 +266,7 @@ void TDBGrid::showRecordset() {
     if (!m_fieldsHeld) m_model->makeColumnsOfFields();
     applyColumns(0, ColumnCount() - 1);
     m_view->horizontalScrollBar()->setValue(left);
+    m_model->checkReadable();
     followRecordset();
 }
 

@@ -68,8 +68,13 @@ bool Composer::fetch(bool firstRow) {
     bool eof = rows ? rows->Eof() : !firstRow;
     if (rows && !eof) {
         int column = 0;
-        for (const FieldDefinition &definition : rows->fieldDefinitions())
-            m_report.Fields(definition.name) = rows->Fields(column++);
+        for (const FieldDefinition &definition : rows->fieldDefinitions()) {
+            try {
+                m_report.Fields.set(definition.name, rows->Fields(column++));
+            } catch (const RuntimeError &error) {
+                m_report.Fields.fail(definition.name, error); // the report may never ask for it
+            }
+        }
         rows->MoveNext();
     }
     m_report.FetchData(eof);

@@ -32,7 +32,7 @@ QString decode(const QByteArray &bytes) {
 QStringList TextFile::readLines(const QString &path) {
     const QFileInfo info(path);
     if (!info.exists()) throw RuntimeError::ofFile(info.dir().exists() ? 53 : 76, path);
-    if (info.isDir()) throw RuntimeError::ofFile(75, path);
+    if (!info.isFile()) throw RuntimeError::ofFile(75, path); // a pipe would be waited for without end
     if (!info.isReadable()) throw RuntimeError::ofFile(70, path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) throw RuntimeError::ofFile(75, path);

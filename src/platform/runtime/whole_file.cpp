@@ -30,7 +30,8 @@ int numberOf(int systemError) {
 void writeWholeFile(const QString &path, const QByteArray &bytes, FallBack fallBack) {
     const QFileInfo info(path);
     if (!info.dir().exists()) throw RuntimeError::ofFile(76, path);
-    if (info.isDir()) throw RuntimeError::ofFile(75, path);
+    // A device would be replaced by a file, and whoever reads from a pipe would wait for ever.
+    if (info.exists() && !info.isFile()) throw RuntimeError::ofFile(75, path);
     if (info.exists() && !info.isWritable()) throw RuntimeError::ofFile(70, path);
 
     QSaveFile file(path);

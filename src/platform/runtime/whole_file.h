@@ -11,5 +11,6 @@ enum class FallBack {
 
 /// The bytes are written beside the file and then take its place: after a failure there is what there was
 /// before, except where it had to be written in place. Raises 76 (no such folder), 70 (no right to write), 75
-/// (a folder, or no way to open it), 61 (disk full), 57 (the device failed), each with the path.
+/// (a folder or anything else that is no regular file, or no way to open it), 61 (disk full), 57 (the device
+/// failed), each with the path.
 void writeWholeFile(const QString &path, const QByteArray &bytes, FallBack fallBack = FallBack::None);
