@@ -41,6 +41,7 @@ DesignPage::DesignPage(Form &window, MaterialControls &controls, SourceArrays &s
     , m_creep(creep)
     , m_showTable(std::move(showTable))
     , m_box(new TemperatureBox(*controls.txtDesignTemp, this)) {
+    controls.tdbDesign->setCaptionRows([](int row) { return row - row % RowsPerTable; });
     connectBox();
 }
 

@@ -1,5 +1,7 @@
 #include "design/temperature_input.h"
 
+#include <algorithm>
+
 #include "platform/runtime/regional_settings.h"
 
 namespace {
@@ -53,8 +55,8 @@ void TemperatureInput::deleteDown() {
     }
     const int length = selectionLength;
     selectionLength = 0;
-    const bool hasSign = (text.left(caret) + text.mid(caret + length)).contains(Comma);
-    if (!hasSign) forgetDecimals();
+    const QString rest = text.left(caret) + text.mid(caret + length);
+    if (!rest.contains(Comma) && !rest.contains(Point)) forgetDecimals();
     erase(caret, length);
 }
 
@@ -64,7 +66,7 @@ void TemperatureInput::textReplaced() {
     // sign of a number at all, the point stays: it is the one that converts.
     const RegionalSettings &settings = RegionalSettings::current();
     if (settings.decimalSign == Comma || settings.groupSign == Comma) text.replace(Point, Comma);
-    if (!text.contains(Comma)) forgetDecimals();
+    countDecimals();
 }
 
 // The flags start anew for every key, also where a decimal sign stays behind outside the selection: meant so.
@@ -89,7 +91,7 @@ bool TemperatureInput::accepts(QChar &key) {
 
 bool TemperatureInput::acceptsDigit() {
     if (iDecimalDigits > 0 && caret > text.size() - 2) return false;
-    if (bDecimalTyped) iDecimalDigits = 1; // wherever the caret stands: meant so
+    if (bDecimalTyped) iDecimalDigits = std::max(iDecimalDigits, 1); // wherever the caret stands: meant so
     return true;
 }
 
@@ -103,6 +105,7 @@ bool TemperatureInput::acceptsDecimalSign() {
 
 // `place` is where the caret stands when the last character is the one that goes.
 void TemperatureInput::prepareDeletion(qsizetype place) {
+    if (iDecimalDigits > 1) return; // pasted, and counted anew when the key has done its work
     if (caret == place) {
         if (iDecimalDigits > 0)
             --iDecimalDigits;
@@ -123,8 +126,15 @@ void TemperatureInput::forgetDecimals() {
     iDecimalDigits = 0;
 }
 
+void TemperatureInput::countDecimals() {
+    const qsizetype sign = std::max(text.lastIndexOf(Comma), text.lastIndexOf(Point));
+    bDecimalTyped = sign >= 0;
+    iDecimalDigits = bDecimalTyped ? static_cast<int>(text.size() - sign - 1) : 0;
+}
+
 void TemperatureInput::erase(qsizetype from, qsizetype length) {
     text.remove(from, length);
+    if (iDecimalDigits > 1) countDecimals();
     changed();
 }
 

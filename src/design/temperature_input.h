@@ -13,7 +13,8 @@ public:
     /// From 0; with a selection, where it begins.
     int caret = 0;
     int selectionLength = 0;
-    /// The flags follow the keys, not the text: a text written by code leaves them as they are.
+    /// The flags follow the keys, not the text: a text written by code leaves them as they are. Keys give one
+    /// decimal digit at most, a paste may bring more.
     bool bDecimalTyped = false;
     int iDecimalDigits = 0;
 
@@ -30,7 +31,8 @@ public:
     void backspaceDown();
     /// The whole of the Delete key, which types nothing.
     void deleteDown();
-    /// To be called when `text` was pasted or cut: gives it the one decimal sign and no blanks around it.
+    /// To be called when `text` was pasted or cut: gives it the one decimal sign and no blanks around it, and
+    /// the flags what is in it.
     void textReplaced();
 
 private:
@@ -40,6 +42,7 @@ private:
     bool acceptsDecimalSign();
     void prepareDeletion(qsizetype place);
     void forgetDecimals();
+    void countDecimals();
     void erase(qsizetype from, qsizetype length);
     void changed();
 };

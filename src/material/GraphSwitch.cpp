@@ -5,6 +5,15 @@
 
 using namespace MaterialLayout;
 
+namespace {
+
+/// A button that stands in for the one just pressed takes the keyboard over; else it goes wherever.
+void passFocus(const QWidget *leaving, QWidget *coming) {
+    if (leaving->hasFocus()) coming->setFocus();
+}
+
+} // namespace
+
 GraphSwitch::GraphSwitch(MaterialControls &controls)
     : m_controls(controls) {}
 
@@ -27,8 +36,11 @@ void GraphSwitch::HideShowButtons() {
 }
 
 void GraphSwitch::SetShowButtons(bool offerGraph) {
-    m_controls.CommandShowGraph->setVisible(offerGraph);
-    m_controls.CommandShowTable->setVisible(!offerGraph);
+    QPushButton *coming = offerGraph ? m_controls.CommandShowGraph : m_controls.CommandShowTable;
+    QPushButton *leaving = offerGraph ? m_controls.CommandShowTable : m_controls.CommandShowGraph;
+    coming->show();
+    passFocus(leaving, coming);
+    leaving->hide();
 }
 
 void GraphSwitch::ShowChartFrames(bool graph) {
@@ -46,11 +58,17 @@ void GraphSwitch::ShowChartFrames(bool graph) {
 }
 
 void GraphSwitch::ShowUnboundGraph(bool graph) {
-    for (QWidget *part : QList<QWidget *>{m_controls.framBlank, m_controls.framChart, m_controls.framAxisCols,
-                                          m_controls.ImgPic(2)})
-        part->setVisible(graph);
-    m_controls.framNotes->setVisible(!graph);
-    m_controls.tdbTable->setVisible(!graph);
+    const QList<QWidget *> graphParts{m_controls.framBlank, m_controls.framChart, m_controls.framAxisCols,
+                                      m_controls.ImgPic(2)};
+    const QList<QWidget *> tableParts{m_controls.framNotes, m_controls.tdbTable};
+    for (QWidget *part : graph ? graphParts : tableParts)
+        part->show();
+    if (graph)
+        passFocus(m_controls.cmdUnBoundGraph, m_controls.cmdUnBoundTable);
+    else
+        passFocus(m_controls.cmdUnBoundTable, m_controls.cmdUnBoundGraph);
+    for (QWidget *part : graph ? tableParts : graphParts)
+        part->hide();
 }
 
 void GraphSwitch::ResetBlank() {

@@ -8,8 +8,6 @@ using namespace MaterialLayout;
 
 namespace {
 
-constexpr int BoxHeight = 345;
-constexpr int TwoLineBoxHeight = 555;
 constexpr int BoxLeft = 1560;
 constexpr int ButtonHeight = 420;
 constexpr int ButtonWidth = 1815;
@@ -33,9 +31,7 @@ QPlainTextEdit *readOnlyText(QWidget *parent) {
 }
 
 QLabel *label(QWidget *parent, const QString &name, const QString &text) {
-    auto *result = named(new QLabel(text, parent), name, text);
-    result->setTextFormat(Qt::PlainText);
-    return result;
+    return named(new QLabel(text, parent), name, text);
 }
 
 QPushButton *button(QWidget *parent, const QString &name, const QString &text) {
@@ -79,42 +75,38 @@ void MaterialControls::makePanels(QWidget *window) {
     }
 }
 
-void MaterialControls::addMainData(QWidget *frame, int index, const QString &text, const QRect &labelPlace,
-                                   const QRect &boxPlace) {
+void MaterialControls::addMainData(QWidget *frame, int index, const QString &text, int left, int width) {
+    constexpr int LabelWidth = 1380;
+    constexpr int LabelGap = 30;
     QLabel *caption = lblMainData.add(index, new QLabel(text, frame), text);
-    place(caption, labelPlace);
+    place(caption, left - LabelGap - LabelWidth, 0, LabelWidth, BoxHeight);
     auto *box = txtMainData.add(index, readOnlyText(frame), text);
     box->document()->setDocumentMargin(2);
-    if (boxPlace.height() == BoxHeight) box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    place(box, boxPlace);
+    place(box, left, 0, width, BoxHeight);
     caption->setBuddy(box);
 }
 
+/// The rows' heights, and with them the frames', follow from the texts (ReferencePage).
 void MaterialControls::makeReferencePage(QWidget *window) {
-    constexpr int LabelLeft = 150;
-    constexpr int LabelWidth = 1380;
-    constexpr int SecondLabelLeft = 7050;
-    constexpr int SecondBoxLeft = 8460;
+    constexpr int SecondLeft = 8460;
     constexpr int FullWidth = 8985;
+    constexpr int BesideSymbolWidth = FullWidth - BoxHeight - 75;
     constexpr int FirstWidth = 5280;
     constexpr int SecondWidth = 2085;
-    const auto first = [](int top) { return QRect(LabelLeft, top, LabelWidth, BoxHeight); };
-    const auto second = [](int top) { return QRect(SecondLabelLeft, top, LabelWidth, BoxHeight); };
-
     framStand = named(new QGroupBox("Standard", window), "framStand", "Standard");
     resizeTo(framStand, PageWidth, 2025);
-    addMainData(framStand, 0, "Name", first(330), {BoxLeft, 330, FirstWidth, BoxHeight});
-    addMainData(framStand, 8, "Last updated", second(330), {SecondBoxLeft, 330, SecondWidth, BoxHeight});
-    addMainData(framStand, 1, "Description", first(750), {BoxLeft, 750, FullWidth, TwoLineBoxHeight});
-    addMainData(framStand, 7, "Product form(s)", first(1380), {BoxLeft, 1380, FullWidth, TwoLineBoxHeight});
+    addMainData(framStand, 0, "Name", BoxLeft, FirstWidth);
+    addMainData(framStand, 8, "Last updated", SecondLeft, SecondWidth);
+    addMainData(framStand, 1, "Description", BoxLeft, FullWidth);
+    addMainData(framStand, 7, "Product form(s)", BoxLeft, BesideSymbolWidth);
 
     framMain = named(new QGroupBox("Material", window), "framMain", "Material");
     resizeTo(framMain, PageWidth, 1605);
-    addMainData(framMain, 2, "Name", first(330), {BoxLeft, 330, FirstWidth, BoxHeight});
-    addMainData(framMain, 4, "Number", second(330), {SecondBoxLeft, 330, SecondWidth, BoxHeight});
-    addMainData(framMain, 3, "Description", first(750), {BoxLeft, 750, FullWidth, BoxHeight});
-    addMainData(framMain, 5, "Group", first(1170), {BoxLeft, 1170, FirstWidth, BoxHeight});
-    addMainData(framMain, 6, "Last updated", second(1170), {SecondBoxLeft, 1170, SecondWidth, BoxHeight});
+    addMainData(framMain, 2, "Name", BoxLeft, FirstWidth);
+    addMainData(framMain, 4, "Number", SecondLeft, SecondWidth);
+    addMainData(framMain, 3, "Description", BoxLeft, FullWidth);
+    addMainData(framMain, 5, "Group", BoxLeft, FirstWidth);
+    addMainData(framMain, 6, "Last updated", SecondLeft, SecondWidth);
 }
 
 void MaterialControls::makeTables(QWidget *window) {
@@ -254,8 +246,7 @@ void MaterialControls::makePictures(QWidget *window) {
     store(ImgPic, 2, {});
     place(ImgPic(0), PageWidth - BoxHeight - 60, 15, BoxHeight, BoxHeight);
     ImgPic(0)->show();
-    place(ImgPic(1), PageLeft + PageWidth - SymbolSize, PageTop + PageHeight - SymbolSize, SymbolSize,
-          SymbolSize);
+    resizeTo(ImgPic(1), BoxHeight, BoxHeight);
     place(ImgPic(2), OptionsLeft + OptionsWidth - SymbolSize - 120, PageTop + 120, SymbolSize, SymbolSize);
 
     store(imgUpDown, 0, "material/notes-closed.svg");

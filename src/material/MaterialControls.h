@@ -99,8 +99,7 @@ private:
     void makePictures(QWidget *window);
     void setTabOrder();
 
-    void addMainData(QWidget *frame, int index, const QString &label, const QRect &labelPlace,
-                     const QRect &boxPlace);
+    void addMainData(QWidget *frame, int index, const QString &label, int left, int width);
     void addPrintSave(QWidget *frame, int index, const QString &picture, const QString &toolTip, int left,
                       int top);
 };

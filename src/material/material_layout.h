@@ -18,6 +18,8 @@ constexpr int PageTop = 240;
 constexpr int PageWidth = 10695;
 constexpr int PageHeight = 4215;
 constexpr int FrameGap = 120;
+/// Of a box with one line of text.
+constexpr int BoxHeight = 345;
 
 /// The panel right of a bound table, and what is left of it.
 constexpr int OptionsLeft = 7320;

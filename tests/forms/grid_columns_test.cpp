@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QImage>
-#include <QSet>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -153,22 +152,6 @@ TEST_F(ArrayGrid, HeadingsHaveRoomForTheirLinesAndPictures) {
               view->palette().color(QPalette::ButtonText)); // whatever colour the file has
     column.setHeadPicture(folder.filePath("missing.svg"));
     EXPECT_EQ(view->horizontalHeader()->height(), oneLine);
-}
-
-TEST_F(ArrayGrid, AValueInANarrowColumnDoesNotLookAbsent) {
-    grid.Columns(0).setWidth(250);
-    array->Set(3, 0, QVariant());
-    const QImage image = view->viewport()->grab().toImage();
-    const auto colours = [&](int row) {
-        const QRect cell = view->visualRect(view->model()->index(row, 0)).adjusted(2, 2, -2, -2);
-        QSet<QRgb> found;
-        for (int y = cell.top(); y <= cell.bottom(); ++y)
-            for (int x = cell.left(); x <= cell.right(); ++x)
-                found.insert(image.pixel(x, y));
-        return found.size();
-    };
-    EXPECT_GT(colours(1), 1);
-    EXPECT_EQ(colours(2), 1);
 }
 
 TEST_F(ArrayGrid, RowsGrowWithTheirText) {

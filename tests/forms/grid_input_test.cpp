@@ -7,10 +7,12 @@
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -190,6 +192,31 @@ TEST_F(GridInput, CopiesTheSelectionForASpreadsheet) {
     QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "name 3\tdate 3");
     EXPECT_EQ(source.recordset()->AbsolutePosition(), 3);
+}
+
+TEST_F(GridInput, TheMenuCopiesWithHeadings) {
+    grid.Columns(0).setCaption("Rp0,2 \r\n\r\n[MPa]\r\nmin");
+    grid.Columns(1).setVisible(false);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, cell(1, 0));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, cell(2, 2));
+    const QString expected = "Rp0,2 [MPa] min\tdate\nname 1\tdate 1\nname 2\tdate 2";
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), expected);
+
+    QApplication::clipboard()->clear();
+    QStringList entries;
+    QTimer::singleShot(0, view, [&entries] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (const QAction *entry : menu->actions())
+            entries << entry->text().remove('&') + ": " + entry->shortcut().toString();
+        QTest::keyClick(menu, Qt::Key_H);
+    });
+    QContextMenuEvent byKey(QContextMenuEvent::Keyboard, cell(1, 0), view->mapToGlobal(cell(1, 0)));
+    QApplication::sendEvent(view, &byKey);
+    EXPECT_EQ(entries,
+              QStringList({"Copy: Ctrl+C", "Copy with Headings: Ctrl+Shift+C", "Select All: Ctrl+A"}));
+    EXPECT_EQ(QApplication::clipboard()->text(), expected);
 }
 
 TEST_F(GridInput, ACellDragCarriesTheGridsNameFromTheRowUnderTheMouse) {

@@ -184,6 +184,31 @@ TEST(TemperatureBoxTest, APasteIsFreeAndLeadsTheOthers) {
     EXPECT_EQ(typed.box.text(), QStringLiteral("37,5"));
 }
 
+// x cuts the selection.
+TEST(TemperatureBoxTest, TheRulesGoOnFromWhatWasPastedOrCut) {
+    const struct {
+        const char *pasted, *keys, *text;
+    } cases[] = {
+        {"12.5", ",", "12,5"},                              // a second decimal sign
+        {"12.5", "7", "12,5"},                              // a second decimal digit
+        {"12.", "75", "12,7"},                              // the one that there is room for
+        {"12", ",5", "12,5"},      {"12,5", "(x6", "12,6"}, // the digit was cut
+        {"12,5", "((x34", "1234"},                          // and the sign with it
+        {"12,55", "b6", "12,5"},   {"12,55", "bb6", "12,6"},   {"12,55", "<b6", "12,5"},
+        {"12,55", "^d3", "32,55"}, {"1,55", "bbb2,3", "12,3"},
+    };
+    for (const auto &item : cases) {
+        TypedBox typed;
+        typed.type("7,5*");
+        typed.paste(item.pasted);
+        const QString keys = item.keys;
+        typed.type(keys.section('x', 0, 0).toLatin1().constData());
+        if (keys.contains('x')) QTest::keyClick(&typed.box, Qt::Key_X, Qt::ControlModifier);
+        typed.type(keys.section('x', 1).toLatin1().constData());
+        EXPECT_EQ(typed.box.text().toStdString(), item.text) << item.pasted << ' ' << item.keys;
+    }
+}
+
 TEST(TemperatureBoxTest, APastedPointStaysWhereOnlyItConverts) {
     const PinnedSettings settings(u'.', u'\'');
     TypedBox typed;

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
 
 #include "material/frmMaterial2.h"
@@ -90,6 +91,22 @@ const QStringList NineTables = {
     "SpecThermCap values (1, 20, '460', '455'), (1, 100, '480', '490')",
     "SpecElecRes values (1, 20, '0,18'), (1, 100, '0,25')",
 };
+
+TEST(DesignWindowTest, AreCopiedWithTheCaptionsOfTheirTables) {
+    SmallProgram program(NineTables);
+    frmMaterial2 &window = program.open(1);
+    window.ShowTable("Design");
+    type(window, "100");
+    auto *view = window.tdbDesign->findChild<QTableView *>();
+    view->setCurrentIndex(view->model()->index(1, 1));
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              "Rp0,2 [MPa]\t(  ) - 16mm\n\t(220)\n\t\nRp1,0 [MPa]\t[MPa]\n\t245,25");
+}
 
 TEST(DesignWindowTest, AllTablesStandUnderTheirCaptions) {
     SmallProgram program(NineTables);

@@ -1,7 +1,14 @@
 // The material window over the sample database.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+#include <QApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QTableView>
 #include <QTest>
+#include <QToolTip>
 
 #include "data/Material.h"
 #include "data/table_vocabulary.h"
@@ -282,6 +289,55 @@ TEST_F(MaterialWindow, TellsThatThereIsNoData) {
     EXPECT_TRUE(window.CommandShowGraph->isVisible());
 }
 
+TEST_F(MaterialWindow, TheKeyboardStaysOnTheButtonThatStandsInForTheOther) {
+    frmMaterial2 &window = show(P265GH, "Rp02");
+    window.SetFocus();
+    const auto pressed = [](QPushButton *button) {
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Space);
+        return QApplication::focusWidget();
+    };
+    EXPECT_EQ(pressed(window.CommandShowGraph), window.CommandShowTable);
+    EXPECT_EQ(pressed(window.CommandShowTable), window.CommandShowGraph);
+    window.ShowTable("CreepProp");
+    EXPECT_EQ(pressed(window.cmdUnBoundGraph), window.cmdUnBoundTable);
+    EXPECT_EQ(pressed(window.cmdUnBoundTable), window.cmdUnBoundGraph);
+}
+
+TEST_F(MaterialWindow, TellsAScreenReaderTheAxesThatHaveTitles) {
+    frmMaterial2 &window = show(P265GH, "Rp02");
+    EXPECT_TRUE(window.MSChart1->accessibleDescription().startsWith("Temperature [°C]. Curves: "));
+    window.ShowTable("ModElast");
+    EXPECT_EQ(window.MSChart1->accessibleDescription(), "[kN/mm] over Temperature [°C]");
+}
+
+TEST_F(MaterialWindow, AValueInANarrowColumnIsMarkedAndToldWhole) {
+    const std::pair<int, const char *> firstCells[] = {{17, "180"}, {18, "204"}, {19, "200"}, {20, "191"}};
+    for (const auto &[matID, value] : firstCells) {
+        frmMaterial2 &window = show(matID, "MechProp");
+        auto *view = window.tdbTable->findChild<QTableView *>();
+        const QRect cell = view->visualRect(view->model()->index(0, 0));
+        ASSERT_LT(cell.width(), 20);
+        const QImage picture = view->viewport()->grab(cell.adjusted(1, 1, -1, -1)).toImage();
+        int marked = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                marked += picture.pixel(x, y) != picture.pixel(0, 0) ? 1 : 0;
+        EXPECT_GE(marked, 3) << matID;
+
+        const auto tipAt = [](QWidget *place, const QPoint &at) {
+            QHelpEvent event(QEvent::ToolTip, at, place->mapToGlobal(at));
+            QApplication::sendEvent(place, &event);
+            return QToolTip::text().toStdString();
+        };
+        EXPECT_EQ(tipAt(view->viewport(), cell.center()), value);
+        EXPECT_EQ(tipAt(view->horizontalHeader()->viewport(), cell.center()), "Rp0,2 [MPa] min");
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(view)->tableInterface()->cellAt(0, 0)->text(
+                      QAccessible::Name),
+                  value);
+    }
+}
+
 TEST_F(MaterialWindow, ChecksTheTablesAndComesBack) {
     for (const int matID : {P265GH, ReferenceOnly}) {
         frmMaterial2 &window = show(matID, "Ref");
@@ -334,6 +390,28 @@ TEST_F(MaterialWindow, OpensWithoutColoursWhereTheyAreOff) {
     const frmMaterial2 &plain = show(P265GH);
     EXPECT_FALSE(plain.tdbDesign->AlternatingRowStyle());
     EXPECT_EQ(noteColour(plain), QColor(Qt::white));
+}
+
+TEST(ReferencePage, LongTextsCanBeRead) {
+    const QString sentence = QString("Seamless steel tubes for pressure purposes, ").repeated(6).left(255);
+    const QString name = QString("X2CrNiMo17-12-2 ").repeated(5).left(80);
+    const TestProgram program(
+        smallDatabase({"standard values (2, '" + name + "', '" + sentence + "', '2020-01-01', 0)",
+                       "materials values (11, '" + name + "', '1.4404', '" + sentence + "', '" + name +
+                           "', '2020-01-01', '" + name + "', null, null, null)"}));
+    frmMaterial2 &window = program.open(program.material(11));
+    window.ShowTable("Ref");
+    QCoreApplication::processEvents();
+    for (const int box : {0, 1, 2, 3, 5}) {
+        QPlainTextEdit &edit = *window.txtMainData(box);
+        const bool whole = edit.verticalScrollBar()->maximum() == 0;
+        EXPECT_TRUE(whole || edit.verticalScrollBar()->isVisible()) << box;
+        EXPECT_GE(edit.height(), 23) << box;
+    }
+    EXPECT_EQ(window.txtMainData(1)->verticalScrollBar()->maximum(), 0);
+    EXPECT_LE(window.framMain->geometry().bottom(), window.lblMain->geometry().bottom());
+    EXPECT_EQ(placeOf(window.framMain).top(),
+              placeOf(window.framStand).top() + placeOf(window.framStand).height() + 120);
 }
 
 TEST(MenuPlaceTest, EveryTableHasItsEntry) {

@@ -2,10 +2,14 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QHelpEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTest>
+#include <QToolTip>
 
 #include "data/Material.h"
 #include "material/frmMaterial2.h"
@@ -16,6 +20,7 @@
 #include "shell/mdiVelmar.h"
 #include "tests/support/gui.h"
 #include "tests/support/program.h"
+#include "tests/support/small_database.h"
 
 namespace {
 
@@ -68,6 +73,60 @@ TEST(ToolTips, ReachTheWindowsThatAreOpenAndThoseThatOpenLater) {
     EXPECT_EQ(tipsOf(second), before);
     EXPECT_EQ(buttonTip("Print"), "Print 'P295GH'");
     EXPECT_EQ(buttonTip("Exit"), "Exit");
+}
+
+TEST(PlainText, TagsOfADatabaseAreShownAsTheyStand) {
+    const QString tags = "<img src=FIFO><b>x</b>";
+    const QString text = "'" + tags + "'";
+    const TestProgram program(smallDatabase(
+        {"standard values (2, " + text + ", " + text + ", '2020-01-01', 0)",
+         "materials values (11, " + text + ", " + text + ", " + text + ", " + text + ", '2020-01-01', " +
+             text + ", null, null, null)",
+         "Columns values (1, " + text + ", 1)", "Columns values (2, 'Rm', 1)",
+         "Units values (1, " + text + ")", "CreepPropTable values (2, 1, 1, null, null, 300)",
+         "CreepPropTable values (2, 2, 2, null, null, 0)",
+         "CreepProperties values (11, 1, 1, 1, " + text + ")", "CreepProperties values (11, 1, 2, 2, '100')",
+         "StandProdForm values (2, 1)", "ProdForm values (1, " + text + ")"}));
+    mdiVelmar &main = mdiVelmar::instance();
+    main.Toolbar1->show();
+    const auto shownAsPage = [] {
+        QStringList found;
+        for (const QWidget *widget : QApplication::allWidgets()) {
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            const bool guesses = label != nullptr && label->isVisible() &&
+                                 label->textFormat() != Qt::PlainText && !label->text().isEmpty();
+            if (guesses) found << label->objectName() + ": " + label->text();
+        }
+        return found.join(", ").toStdString();
+    };
+    const auto tipAt = [](QWidget &place, const QPoint &at) {
+        QHelpEvent event(QEvent::ToolTip, at, place.mapToGlobal(at));
+        QApplication::sendEvent(&place, &event);
+        return QToolTip::text();
+    };
+    frmSearch &search = DefaultInstance<frmSearch>();
+    modal().driveForm([&](Form &form) {
+        EXPECT_EQ(shownAsPage(), "");
+        form.Unload();
+    });
+    search.cmdSelect(0)->click();
+
+    frmMaterial2 &window = program.open(program.material(11));
+    main.SetCurrentMaterial(program.material(11));
+    EXPECT_EQ(window.txtMainData(2)->toPlainText(), ' ' + tags);
+    EXPECT_TRUE(window.windowTitle().contains(tags));
+    for (const char *key : {"Close", "Save", "Print"}) {
+        auto *button = main.Toolbar1->findChild<QToolButton *>(QString("Toolbar1(%1)").arg(key));
+        EXPECT_TRUE(tipAt(*button, {4, 4}).contains(tags)) << key;
+        EXPECT_EQ(shownAsPage(), "");
+    }
+    window.ShowTable("CreepProp");
+    EXPECT_TRUE(window.cmdUnBoundGraph->isVisible());
+    auto *view = window.tdbTable->findChild<QTableView *>();
+    EXPECT_EQ(tipAt(*view->viewport(), {4, 4}), tags);
+    window.cmdUnBoundGraph->click();
+    EXPECT_TRUE(window.lblXAxis->text().contains(tags));
+    EXPECT_EQ(shownAsPage(), "");
 }
 
 TEST(SmallScreens, EveryPartOfTheSearchWindowCanBeReached) {

@@ -50,10 +50,13 @@ void searchAndSelect(Tour &tour) {
         tour.retype(box(1), name);
         tour.press(box(1), Qt::Key_Return);
     }
-    // the tube of that name has the widest creep table
-    tour.retype(box(0), "EN 10216-2");
-    tour.retype(box(1), "16Mo3");
-    tour.press(box(1), Qt::Key_Return);
+    // the first tube has the widest creep table, the other one the narrowest column
+    for (const auto &[standard, name] :
+         {std::pair("EN 10216-2", "16Mo3"), std::pair("EN 10216-5", "X2CrNi18-9")}) {
+        tour.retype(box(0), standard);
+        tour.retype(box(1), name);
+        tour.press(box(1), Qt::Key_Return);
+    }
     tour.retype(box(0), "");
     tour.retype(box(1), "");
     tour.picture("selected-materials");

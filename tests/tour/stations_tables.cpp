@@ -1,6 +1,11 @@
 // Every table of a rich grade, graphs, and design values.
+#include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QTableView>
+#include <QToolTip>
 
 #include "platform/forms/form.h"
 #include "platform/forms/tdb_grid.h"
@@ -22,6 +27,24 @@ void tables(Tour &tour, FormBase &window) {
         tour.menu(entry);
         tour.picture(name, *window.asWidget());
     }
+}
+
+/// A column that the database made too narrow for its values, with the tips that tell them.
+void narrowColumn(Tour &tour) {
+    FormBase &window = tour.windowOf("X2CrNi18-9");
+    tour.menu("mnuViewMechElem(0)");
+    tour.picture("table-with-a-narrow-column", *window.asWidget());
+    auto *view = tour.control<TDBGrid>(window, "tdbTable").findChild<QTableView *>();
+    const QPoint cell(5, 5);
+    for (QWidget *place : {view->viewport(), view->horizontalHeader()->viewport()}) {
+        QHelpEvent rest(QEvent::ToolTip, cell, place->mapToGlobal(cell));
+        QApplication::sendEvent(place, &rest);
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (widget->inherits("QTipLabel") && widget->isVisible())
+                tour.picture(place == view->viewport() ? "tip-of-a-cell" : "tip-of-a-heading", *widget);
+    }
+    QToolTip::hideText();
+    tour.menu("mnuViewElem(0)");
 }
 
 /// What the first grade has no values for.
@@ -55,6 +78,7 @@ void graphs(Tour &tour, FormBase &window) {
 } // namespace
 
 void showTablesAndGraphs(Tour &tour) {
+    narrowColumn(tour);
     tablesOfStainlessSteel(tour, tour.windowOf("X2CrNiMo17-12-2"));
     FormBase &window = tour.windowOf("P265GH");
     tables(tour, window);

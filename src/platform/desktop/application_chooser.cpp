@@ -24,7 +24,6 @@ ApplicationChooser::ApplicationChooser(const QString &file)
                                  ? QStringLiteral("No application is installed that could open '%1'.")
                                  : QStringLiteral("Choose the application to open '%1':");
     auto *label = named(new QLabel(question.arg(QFileInfo(file).fileName())), QStringLiteral("lblQuestion"));
-    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     for (const DesktopEntry &application : m_applications)
         lstApplications->addItem(application.name());

@@ -1,8 +1,9 @@
-// Paints a grid's cells: row colours, the mark of the current row, wrapped text.
+// Paints a grid's cells: row colours, the mark of the current row, wrapped text, and a mark for text cut off.
 #pragma once
 
 #include <QStyledItemDelegate>
 
+#include "platform/forms/fitted_text.h"
 #include "platform/forms/grid_look.h"
 
 class GridModel;
@@ -16,10 +17,15 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
+    /// The cell shows less than its text, or is out of sight in part.
+    bool isCut(const QModelIndex &index) const;
+
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    FittedText fit(QStyleOptionViewItem &option) const;
+    void paintFocus(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     QColor background(const QModelIndex &index, const QPalette &palette) const;
 
     const GridModel &m_model;

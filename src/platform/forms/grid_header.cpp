@@ -1,5 +1,8 @@
 #include "platform/forms/grid_header.h"
 
+#include <algorithm>
+#include <numeric>
+
 #include <QEvent>
 #include <QPainter>
 #include <QStyleOptionHeader>
@@ -11,6 +14,10 @@
 namespace {
 constexpr int Margin = 4;
 constexpr int MinimumSection = 8;
+
+FittedText fitLine(const QString &line, const QFont &font, const QSize &room) {
+    return fitText(withUnbrokenNumbers(line, QFontMetricsF(font), room.width()), font, room, true);
+}
 } // namespace
 
 GridHeader::GridHeader(const GridModel &model, QWidget *parent)
@@ -25,9 +32,11 @@ GridHeader::GridHeader(const GridModel &model, QWidget *parent)
 }
 
 QSize GridHeader::sizeHint() const {
-    int height = fontMetrics().height();
+    const std::vector<int> lines = lineHeights();
+    int height = qMax(fontMetrics().height(), std::accumulate(lines.begin(), lines.end(), 0));
     for (int i = 0; i < m_model.columnCount(); ++i)
-        if (!isSectionHidden(i)) height = qMax(height, headingSize(i, sectionSize(i) - 2 * Margin).height());
+        if (!isSectionHidden(i) && m_model.column(i).shownPicture() != nullptr)
+            height = qMax(height, pictureSize(i, sectionSize(i) - 2 * Margin).height());
     return {length(), height + 2 * Margin};
 }
 
@@ -62,19 +71,20 @@ void GridHeader::paintSection(QPainter *painter, const QRect &rect, int index) c
         paintPicture(painter, inner, index, colour);
     } else {
         painter->setPen(colour);
-        const Qt::Alignment alignment = m_model.column(index).HeadAlignment() | Qt::AlignVCenter;
-        painter->drawText(inner, int(alignment) | Qt::TextWordWrap,
-                          withUnbrokenNumbers(text(index), fontMetrics(), inner.width()));
+        paintText(painter, rect, index);
     }
     painter->restore();
 }
 
 QSize GridHeader::sectionSizeFromContents(int index) const {
-    return headingSize(index, QWIDGETSIZE_MAX) + QSize(2 * Margin + 1, 2 * Margin);
+    QSize size = pictureSize(index, QWIDGETSIZE_MAX);
+    if (m_model.column(index).shownPicture() == nullptr)
+        size = fitText(text(index), font(), {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}, false).size;
+    return size + QSize(2 * Margin + 1, 2 * Margin);
 }
 
 void GridHeader::paintPicture(QPainter *painter, const QRect &rect, int index, const QColor &colour) const {
-    const QSize size = headingSize(index, rect.width()).boundedTo(rect.size());
+    const QSize size = pictureSize(index, rect.width()).boundedTo(rect.size());
     if (size.isEmpty()) return;
     const qreal scale = painter->device()->devicePixelRatioF();
     QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
@@ -88,23 +98,89 @@ void GridHeader::paintPicture(QPainter *painter, const QRect &rect, int index, c
     painter->drawImage(place, image);
 }
 
-QSize GridHeader::headingSize(int index, int width) const {
-    if (const QSvgRenderer *picture = m_model.column(index).shownPicture()) {
-        const QSize natural = picture->defaultSize();
-        return natural.width() <= width
-                   ? natural
-                   : natural.scaled(qMax(width, 1), natural.height(), Qt::KeepAspectRatio);
-    }
+QSize GridHeader::pictureSize(int index, int width) const {
+    const QSvgRenderer *picture = m_model.column(index).shownPicture();
+    if (picture == nullptr) return {0, 0};
+    const QSize natural = picture->defaultSize();
+    return natural.width() <= width ? natural
+                                    : natural.scaled(qMax(width, 1), natural.height(), Qt::KeepAspectRatio);
+}
+
+const GridHeader::Measured &GridHeader::measured(int index, int width) const {
     if (static_cast<int>(m_measured.size()) != m_model.columnCount())
         m_measured.resize(static_cast<std::size_t>(m_model.columnCount()));
     Measured &measured = m_measured[static_cast<std::size_t>(index)];
-    if (const QString heading = text(index); measured.width != width || measured.text != heading) {
-        const QRect bounds(0, 0, qMax(width, 1), QWIDGETSIZE_MAX);
-        const QRect place = fontMetrics().boundingRect(bounds, int(Qt::AlignLeft) | Qt::TextWordWrap,
-                                                       withUnbrokenNumbers(heading, fontMetrics(), width));
-        measured = {heading, width, place.size()};
+    const QString heading = text(index);
+    if (measured.width == width && measured.text == heading) return measured;
+    measured = {heading, width, heading.split(QLatin1Char('\n')), {}};
+    for (const QString &line : measured.lines)
+        measured.heights.push_back(fitLine(line, font(), {width, QWIDGETSIZE_MAX}).size.height());
+    return measured;
+}
+
+/// Of the first line of all headings, of the second, and so on: what a reader compares, as units, stands side
+/// by side, whichever column needs more room for it.
+std::vector<int> GridHeader::lineHeights() const {
+    std::vector<int> heights;
+    for (int i = 0; i < m_model.columnCount(); ++i) {
+        if (isSectionHidden(i) || m_model.column(i).shownPicture() != nullptr) continue;
+        const std::vector<int> &own = measured(i, qMax(sectionSize(i) - 2 * Margin, 0)).heights;
+        heights.resize(std::max(heights.size(), own.size()), 0);
+        for (std::size_t line = 0; line < own.size(); ++line)
+            heights[line] = std::max(heights[line], own[line]);
     }
-    return measured.size;
+    return heights;
+}
+
+std::vector<GridHeader::PlacedLine> GridHeader::placeLines(int index, const QRect &room,
+                                                           const QFont &font) const {
+    const std::vector<int> heights = lineHeights();
+    QRect place = room;
+    place.moveTop((height() - std::accumulate(heights.begin(), heights.end(), 0)) / 2);
+    const QStringList lines = text(index).split(QLatin1Char('\n'));
+    std::vector<PlacedLine> placed;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        place.setHeight(heights[static_cast<std::size_t>(i)]);
+        const FittedText fitted = fitLine(lines[i], font, place.size());
+        const Qt::Alignment alignment = m_model.column(index).HeadAlignment() | Qt::AlignTop;
+        placed.push_back({QStyle::alignedRect(layoutDirection(), alignment, fitted.size, place), fitted});
+        place.moveTop(place.top() + place.height());
+    }
+    return placed;
+}
+
+/// Where the edge of the view would cut a line, the part of the heading that is in sight is all the room.
+std::vector<GridHeader::PlacedLine> GridHeader::linesInSight(int index, const QRect &section,
+                                                             const QFont &font) const {
+    const auto inner = [](const QRect &rect) { return rect.adjusted(Margin, 0, -Margin, 0); };
+    const QRect inSight = section & viewport()->rect();
+    const std::vector<PlacedLine> lines = placeLines(index, inner(section), font);
+    const bool whole = std::all_of(lines.begin(), lines.end(), [&inSight](const PlacedLine &line) {
+        return line.place.left() >= inSight.left() && line.place.right() <= inSight.right();
+    });
+    return whole || inSight.width() <= 2 * Margin ? lines : placeLines(index, inner(inSight), font);
+}
+
+void GridHeader::paintText(QPainter *painter, const QRect &section, int index) const {
+    for (const PlacedLine &line : linesInSight(index, section, painter->font())) {
+        if (line.text.isBareMark()) drawCutMark(*painter, line.place, painter->pen().color());
+        QRect place = line.place;
+        const int count = static_cast<int>(line.text.lines.size());
+        for (int i = 0; i < count; ++i) {
+            place.setTop(line.place.top() + line.place.height() * i / count);
+            const Qt::Alignment alignment = m_model.column(index).HeadAlignment() | Qt::AlignTop;
+            painter->drawText(place, int(alignment) | Qt::TextSingleLine | Qt::TextDontClip,
+                              line.text.lines[i]);
+        }
+    }
+}
+
+bool GridHeader::isCut(int index) const {
+    const QRect section(sectionViewportPosition(index), 0, sectionSize(index), height());
+    if (const QSvgRenderer *picture = m_model.column(index).shownPicture())
+        return picture->defaultSize().width() > (section & viewport()->rect()).width() - 2 * Margin;
+    const std::vector<PlacedLine> lines = linesInSight(index, section, font());
+    return std::any_of(lines.begin(), lines.end(), [](const PlacedLine &line) { return line.text.cut; });
 }
 
 void GridHeader::changeEvent(QEvent *event) {

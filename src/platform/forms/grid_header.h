@@ -1,9 +1,11 @@
-// The headings of a grid: texts of several lines, or a picture.
+// The headings of a grid: texts of several lines that stand beside those of the other columns, or a picture.
 #pragma once
 
 #include <vector>
 
 #include <QHeaderView>
+
+#include "platform/forms/fitted_text.h"
 
 class GridModel;
 
@@ -16,6 +18,8 @@ public:
     QSize sizeHint() const override;
     /// A heading, or the width it has to fit in, is another one now.
     void headingsChanged();
+    /// The heading shows less than its text, or is out of sight in part, or is a picture made smaller.
+    bool isCut(int index) const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -24,15 +28,27 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    /// A text as it was last measured.
+    /// A heading as it was last measured: its lines, each with the height that its words take in the width.
     struct Measured {
         QString text;
         int width = -1;
-        QSize size;
+        QStringList lines;
+        std::vector<int> heights;
     };
 
+    /// One line of a heading where it is painted.
+    struct PlacedLine {
+        QRect place;
+        FittedText text;
+    };
+
+    const Measured &measured(int index, int width) const;
+    std::vector<int> lineHeights() const;
+    std::vector<PlacedLine> placeLines(int index, const QRect &room, const QFont &font) const;
+    std::vector<PlacedLine> linesInSight(int index, const QRect &section, const QFont &font) const;
+    void paintText(QPainter *painter, const QRect &section, int index) const;
     void paintPicture(QPainter *painter, const QRect &rect, int index, const QColor &colour) const;
-    QSize headingSize(int index, int width) const;
+    QSize pictureSize(int index, int width) const;
     QString text(int index) const;
 
     const GridModel &m_model;

@@ -6,6 +6,14 @@
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/x_array_db.h"
 
+QString onOneLine(const QString &caption) {
+    QStringList lines = caption.split(QLatin1Char('\n'));
+    for (QString &line : lines)
+        line = line.trimmed();
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char(' '));
+}
+
 GridModel::GridModel(QObject *parent)
     : QAbstractTableModel(parent) {}
 
@@ -85,8 +93,9 @@ QVariant GridModel::data(const QModelIndex &index, int role) const {
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? section + 1 : QVariant();
+    if (role == Qt::AccessibleTextRole) return onOneLine(column(section).Caption());
     if (role != Qt::DisplayRole) return {};
-    if (orientation == Qt::Vertical) return section + 1;
     return QString(column(section).Caption()).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 

@@ -11,6 +11,9 @@
 class Recordset;
 class XArrayDB;
 
+/// The lines of a caption, empty ones left out, joined by blanks.
+QString onOneLine(const QString &caption);
+
 /// Keeps no values: each is read from its source when the view asks for it.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT

@@ -1,7 +1,6 @@
 #include "platform/forms/grid_view.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 #include <QAction>
@@ -46,17 +45,13 @@ GridView::GridView(GridModel &model, QWidget *parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
-    auto *copy = new QAction(tr("&Copy"), this);
-    copy->setObjectName(QStringLiteral("Copy"));
-    copy->setShortcut(QKeySequence::Copy);
-    copy->setShortcutContext(Qt::WidgetShortcut);
-    connect(copy, &QAction::triggered, this, &GridView::copySelection);
-    auto *all = new QAction(tr("Select &All"), this);
-    all->setObjectName(QStringLiteral("SelectAll"));
-    all->setShortcut(QKeySequence::SelectAll);
-    all->setShortcutContext(Qt::WidgetShortcut);
-    connect(all, &QAction::triggered, this, &GridView::selectAll);
-    addActions({copy, all});
+    connect(addCommand(QStringLiteral("Copy"), tr("&Copy"), QKeySequence::Copy), &QAction::triggered, this,
+            [this] { copySelection(CopyHeadings::No); });
+    connect(addCommand(QStringLiteral("CopyWithHeadings"), tr("Copy with &Headings"),
+                       QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C)),
+            &QAction::triggered, this, [this] { copySelection(CopyHeadings::Yes); });
+    connect(addCommand(QStringLiteral("SelectAll"), tr("Select &All"), QKeySequence::SelectAll),
+            &QAction::triggered, this, &GridView::selectAll);
     setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
@@ -88,7 +83,7 @@ void GridView::doItemsLayout() {
     QTableView::doItemsLayout();
 }
 
-QString GridView::selectedText() const {
+QString GridView::selectedText(CopyHeadings headings) const {
     std::set<int> rows;
     std::set<int> columns;
     const QItemSelection selection = selectionModel()->selection();
@@ -99,19 +94,54 @@ QString GridView::selectedText() const {
             if (!isColumnHidden(column)) columns.insert(column);
     }
     QStringList lines;
+    const bool captionRows = headings == CopyHeadings::Yes && m_captionRowOf;
+    if (captionRows)
+        columns.insert(firstVisibleColumn());
+    else if (headings == CopyHeadings::Yes)
+        lines << columnHeadings(columns);
+    int captions = -1;
     for (const int row : rows) {
-        QStringList cells;
-        for (const int column : columns) {
-            const QModelIndex index = m_model.index(row, column);
-            cells << (selection.contains(index) ? clipboardCell(index.data().toString()) : QString());
-        }
-        lines << cells.join(QLatin1Char('\t'));
+        const int own = captionRows ? m_captionRowOf(row) : -1;
+        if (own != captions && own != row) lines << rowText(own, columns, nullptr);
+        captions = own;
+        lines << rowText(row, columns, own == row ? nullptr : &selection);
     }
     return lines.join(QLatin1Char('\n'));
 }
 
-void GridView::copySelection() const {
-    if (selectionModel()->hasSelection()) QApplication::clipboard()->setText(selectedText());
+QString GridView::columnHeadings(const std::set<int> &columns) const {
+    QStringList cells;
+    for (const int column : columns)
+        cells << clipboardCell(m_model.headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString());
+    return cells.join(QLatin1Char('\t'));
+}
+
+/// With a selection, of the cells outside it only their places. Without one it is a row of captions, each on
+/// one line.
+QString GridView::rowText(int row, const std::set<int> &columns, const QItemSelection *selection) const {
+    QStringList cells;
+    for (const int column : columns) {
+        const QModelIndex index = m_model.index(row, column);
+        const QString text = index.data().toString();
+        if (selection == nullptr)
+            cells << clipboardCell(onOneLine(text));
+        else
+            cells << (selection->contains(index) ? clipboardCell(text) : QString());
+    }
+    return cells.join(QLatin1Char('\t'));
+}
+
+void GridView::copySelection(CopyHeadings headings) const {
+    if (selectionModel()->hasSelection()) QApplication::clipboard()->setText(selectedText(headings));
+}
+
+QAction *GridView::addCommand(const QString &name, const QString &text, const QKeySequence &keys) {
+    auto *command = new QAction(text, this);
+    command->setObjectName(name);
+    command->setShortcut(keys);
+    command->setShortcutContext(Qt::WidgetShortcut);
+    addAction(command);
+    return command;
 }
 
 void GridView::keyPressEvent(QKeyEvent *event) {

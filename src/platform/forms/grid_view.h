@@ -1,6 +1,8 @@
 // The rows of a grid: keys, selection, copying, cell drag, and rows as tall as their text.
 #pragma once
 
+#include <functional>
+#include <set>
 #include <vector>
 
 #include <QTableView>
@@ -27,9 +29,18 @@ public:
     void columnsChanged();
     void fitRows();
     void doItemsLayout() override;
+    /// In a grid whose captions are rows among the others: gives the row with the captions of a row.
+    using CaptionRowFinder = std::function<int(int row)>;
+    void setCaptionRows(CaptionRowFinder finder) { m_captionRowOf = std::move(finder); }
+
+    enum class CopyHeadings { No, Yes };
     /// The selected cells as lines of tab-separated texts; a text with a tab or a line end is quoted.
-    QString selectedText() const;
-    void copySelection() const;
+    /// Headings are a line of their own above the cells. Caption rows stand above the rows that they belong
+    /// to, with the first column, which tells what they caption.
+    QString selectedText(CopyHeadings headings = CopyHeadings::No) const;
+    void copySelection(CopyHeadings headings) const;
+
+    using QTableView::initViewItemOption;
 
     /// A search for the typed letters would read every row.
     void keyboardSearch(const QString &) override {}
@@ -58,9 +69,13 @@ private:
     void fitVisibleRows();
     int neededHeight(int row) const;
     void forgetRowHeights();
+    QAction *addCommand(const QString &name, const QString &text, const QKeySequence &keys);
+    QString columnHeadings(const std::set<int> &columns) const;
+    QString rowText(int row, const std::set<int> &columns, const QItemSelection *selection) const;
 
     GridModel &m_model;
     QWidget *m_dragSource = nullptr;
+    CaptionRowFinder m_captionRowOf;
     QPersistentModelIndex m_pressed;
     QPoint m_pressedAt;
     std::vector<bool> m_fitted;

@@ -104,8 +104,9 @@ void MSChart::changed() {
         for (const ChartSeries &series : content().series)
             curves.append(series.label.simplified());
     }
-    const QString axes =
-        tr("%1 over %2").arg(m_content.axisTitle[1].simplified(), m_content.axisTitle[0].simplified());
+    const QString x = m_content.axisTitle[0].simplified();
+    const QString y = m_content.axisTitle[1].simplified();
+    const QString axes = x.isEmpty() || y.isEmpty() ? x + y : tr("%1 over %2").arg(y, x);
     setAccessibleDescription(curves.isEmpty() ? axes : tr("%1. Curves: %2").arg(axes, curves.join(", ")));
     update();
 }

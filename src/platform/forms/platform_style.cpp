@@ -1,5 +1,6 @@
 #include "platform/forms/platform_style.h"
 
+#include <QLabel>
 #include <QPainter>
 #include <QSize>
 #include <QStyleOptionTitleBar>
@@ -24,6 +25,14 @@ void drawIcon(QPainter *painter, const QRect &place, const QIcon &icon) {
 
 PlatformStyle::PlatformStyle()
     : QProxyStyle(QStringLiteral("Fusion")) {}
+
+// Left to guess, a label takes a text with tags for a page, and reads the files named in it. A tool tip is a
+// label too. Every label comes here before it measures its text.
+void PlatformStyle::polish(QWidget *widget) {
+    QProxyStyle::polish(widget);
+    auto *label = qobject_cast<QLabel *>(widget);
+    if (label != nullptr && label->textFormat() == Qt::AutoText) label->setTextFormat(Qt::PlainText);
+}
 
 int PlatformStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const {
     if (metric == PM_MdiSubWindowFrameWidth) return frameWidth;

@@ -1,5 +1,5 @@
 // The look of the program: Fusion, with child window frames as narrow as the layouts of the windows expect,
-// and title bars that can be read in light and dark themes.
+// title bars that can be read in light and dark themes, and labels and tool tips that show plain text.
 #pragma once
 
 #include <QProxyStyle>
@@ -12,6 +12,8 @@ class PlatformStyle : public QProxyStyle {
 public:
     PlatformStyle();
 
+    using QProxyStyle::polish;
+    void polish(QWidget *widget) override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget) const override;

@@ -26,7 +26,6 @@ StatusBar::StatusBar(const QString &name, QWidget *parent)
 int StatusBar::AddPanel(StatusPanelStyle style) {
     auto *label = new QLabel(this);
     label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    label->setTextFormat(Qt::PlainText);
     label->setMargin(1);
     label->setIndent(TextIndent); // else the label makes up one, and a text fitted to its width is cut
     label->installEventFilter(this);

@@ -37,11 +37,12 @@ TDBGrid::TDBGrid(QWidget *parent)
     , m_caption(new QLabel(this))
     , m_model(new GridModel(this))
     , m_view(new GridView(*m_model, this))
+    , m_delegate(new GridDelegate(*m_model, m_look, m_view))
     , m_header(new GridHeader(*m_model, m_view))
     , m_footer(new GridFooter(m_header, this))
     , m_scrollBar(new QScrollBar(Qt::Horizontal, this)) {
     m_view->setHorizontalHeader(m_header);
-    m_view->setItemDelegate(new GridDelegate(*m_model, m_look, m_view));
+    m_view->setItemDelegate(m_delegate);
     layOut();
     connectView();
     setFocusProxy(m_view);
@@ -176,12 +177,17 @@ void TDBGrid::setColumnFooters(bool shown) {
     m_footer->setVisible(shown);
 }
 
+void TDBGrid::setCaptionRows(std::function<int(int row)> finder) {
+    m_view->setCaptionRows(std::move(finder));
+}
+
 void TDBGrid::setCellDrag(bool on) {
     m_view->setDragSource(on ? this : nullptr);
 }
 
 bool TDBGrid::eventFilter(QObject *watched, QEvent *event) {
-    if (event->type() == QEvent::ToolTip && showCellTip(watched, *static_cast<QHelpEvent *>(event)))
+    if (event->type() == QEvent::ToolTip && watched->isWidgetType() &&
+        showCellTip(*static_cast<QWidget *>(watched), *static_cast<QHelpEvent *>(event)))
         return true;
     return QFrame::eventFilter(watched, event);
 }
@@ -306,21 +312,46 @@ void TDBGrid::selectRow(int row) {
     m_view->horizontalScrollBar()->setValue(left);
 }
 
-bool TDBGrid::showCellTip(QObject *place, const QHelpEvent &event) {
-    if (m_cellTips == 0 || !m_fetchCellTip) return false;
-    GridArea area = GridArea::Cell;
-    int column = m_view->columnAt(event.pos().x());
-    if (place == m_header->viewport()) {
-        area = GridArea::Header;
-        column = m_header->logicalIndexAt(event.pos().x());
-    } else if (place == m_footer) {
-        area = GridArea::Footer;
-        column = m_footer->columnAt(event.pos().x());
+bool TDBGrid::showCellTip(QWidget &place, const QHelpEvent &event) {
+    const QString whole = wholeTextAt(place, event.pos());
+    QString tip;
+    if (m_cellTips != 0 && m_fetchCellTip) {
+        const std::optional<QString> fetched = fetchedTip(place, event.pos().x());
+        tip = fetched.value_or(QString());
+        if (whole.isEmpty() && fetched && tip.isEmpty()) return false;
+    } else if (whole.isEmpty()) {
+        return false;
     }
-    const std::optional<QString> tip = m_fetchCellTip(area, column);
-    if (tip && tip->isEmpty()) return false;
-    QToolTip::showText(event.globalPos(), tip.value_or(QString()), static_cast<QWidget *>(place));
+    const bool both = !whole.isEmpty() && !tip.isEmpty();
+    QToolTip::showText(event.globalPos(), both ? whole + QLatin1Char('\n') + tip : whole + tip, &place,
+                       partAt(place, event.pos()));
     return true;
+}
+
+/// The tip goes when the mouse leaves it. A footer is one part.
+QRect TDBGrid::partAt(const QWidget &place, const QPoint &at) const {
+    if (&place == m_view->viewport()) return m_view->visualRect(m_view->indexAt(at));
+    const int column = m_header->logicalIndexAt(at.x());
+    if (&place != m_header->viewport() || column < 0) return {};
+    return {m_header->sectionViewportPosition(column), 0, m_header->sectionSize(column), m_header->height()};
+}
+
+std::optional<QString> TDBGrid::fetchedTip(const QWidget &place, int x) const {
+    if (&place == m_header->viewport()) return m_fetchCellTip(GridArea::Header, m_header->logicalIndexAt(x));
+    if (&place == m_footer) return m_fetchCellTip(GridArea::Footer, m_footer->columnAt(x));
+    return m_fetchCellTip(GridArea::Cell, m_view->columnAt(x));
+}
+
+/// Empty where the text can be read in its place.
+QString TDBGrid::wholeTextAt(const QWidget &place, const QPoint &at) const {
+    if (&place == m_view->viewport()) {
+        const QModelIndex index = m_view->indexAt(at);
+        return index.isValid() && m_delegate->isCut(index) ? index.data().toString() : QString();
+    }
+    if (&place != m_header->viewport()) return {};
+    const int column = m_header->logicalIndexAt(at.x());
+    if (column < 0 || !m_header->isCut(column)) return {};
+    return m_model->headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString();
 }
 
 void TDBGrid::updateScrollBar() {

@@ -12,6 +12,7 @@
 #include "platform/forms/grid_look.h"
 
 class DataControl;
+class GridDelegate;
 class GridFooter;
 class GridHeader;
 class GridModel;
@@ -82,7 +83,12 @@ public:
     /// Off at first.
     void setColumnFooters(bool shown);
 
-    /// 0 none, 2 shown while the mouse rests.
+    /// For a grid whose captions are rows among the others: gives the row with the captions of a row. They
+    /// are copied with the cells where headings are asked for.
+    void setCaptionRows(std::function<int(int row)> finder);
+
+    /// 0 none, 2 shown while the mouse rests. What has no room in its cell or heading is told by a tip in any
+    /// case.
     int CellTips() const { return m_cellTips; }
     void setCellTips(int mode) { m_cellTips = mode; }
     /// Gives the tip of a place; `column` is -1 beside the columns. Where it is empty the grid's own tool tip
@@ -120,12 +126,16 @@ private:
     void followRecordset();
     void moveRecordset(const QModelIndex &current);
     void selectRow(int row);
-    bool showCellTip(QObject *place, const QHelpEvent &event);
+    bool showCellTip(QWidget &place, const QHelpEvent &event);
+    std::optional<QString> fetchedTip(const QWidget &place, int x) const;
+    QRect partAt(const QWidget &place, const QPoint &at) const;
+    QString wholeTextAt(const QWidget &place, const QPoint &at) const;
     void updateScrollBar();
 
     QLabel *m_caption;
     GridModel *m_model;
     GridView *m_view;
+    GridDelegate *m_delegate;
     GridHeader *m_header;
     GridFooter *m_footer;
     QScrollBar *m_scrollBar;
