@@ -114,7 +114,8 @@ bool bDatabaseFailed() {
 }
 
 bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathFile, bool exclusive,
-               bool readOnly, const QString &password, const QString &missingMessage) {
+               bool readOnly, const QString &password, const QString &missingMessage,
+               const std::function<void()> &help) {
     QString path = PathFile::ReadPathFile(pathFile);
     if (path.isEmpty()) path = App::current().path + '/' + dbName;
     for (;;) {
@@ -129,9 +130,8 @@ bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathF
                 break;
             }
             const QString title = error.number() == WrongFormat ? "Wrong file format" : "Database Missing";
-            if (MsgBox(questionText(error, path, dbName, missingMessage), vbYesNo + vbCritical, title) !=
-                vbYes)
-                break;
+            const QString text = questionText(error, path, dbName, missingMessage);
+            if (MsgBox(text, vbYesNo + vbCritical, title, help) != vbYes) break;
             path = LocateDatabase(comDlg, dbName);
             if (path.isEmpty()) break;
         }

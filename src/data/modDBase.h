@@ -1,6 +1,7 @@
 // Finds, opens and closes the materials database; small record helpers that the windows share.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QString>
@@ -21,9 +22,10 @@ bool bDatabaseFailed();
 
 /// Finds the database by the path file in the user's folder, else beside the program, else by asking. Handles
 /// its own errors to the end, with message boxes; True when dbMain is open. `pathFile` and `dbName` are file
-/// names without a folder.
+/// names without a folder. `help` shows the help beside the question for the database.
 bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathFile, bool exclusive,
-               bool readOnly, const QString &password, const QString &missingMessage);
+               bool readOnly, const QString &password, const QString &missingMessage,
+               const std::function<void()> &help = {});
 void CloseDBase();
 /// Whether `path` ends in `name`; capitals count.
 bool CheckName(const QString &path, const QString &name);

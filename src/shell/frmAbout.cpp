@@ -11,13 +11,13 @@
 #include "platform/runtime/regional_settings.h"
 #include "search/frmSearch.h"
 #include "shell/frmSplash.h"
+#include "shell/provider.h"
 
 namespace {
 
-const QString Contact =
-    QStringLiteral("Harmotek\r\n\r\nQuestions, and errors that you find, are welcome: please tell the "
-                   "version and the date of the last update above, and where an error log was written, "
-                   "send a copy of it.");
+const QString Advice = QStringLiteral(
+    "Questions, and errors that you find, are welcome: please tell the version and the date of "
+    "the last update above, and where an error log was written, send a copy of it.");
 
 } // namespace
 
@@ -47,7 +47,7 @@ frmAbout::frmAbout()
     place(lblCopyright, 1680, 1470, 5580, 600);
     txtContact->setReadOnly(true);
     txtContact->setTabChangesFocus(true);
-    txtContact->setPlainText(Contact);
+    txtContact->setPlainText(Provider::text() + "\n\n" + Advice);
     place(txtContact, 240, 2190, 7020, 1860);
     place(cmdOK, 5940, 4230, 1320, 390);
     setDefaultButton(cmdOK);

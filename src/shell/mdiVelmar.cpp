@@ -18,6 +18,7 @@
 #include "platform/runtime/runtime_error.h"
 #include "search/frmSearch.h"
 #include "shell/grid_colours.h"
+#include "shell/HTMLHelp.h"
 #include "shell/main_commands.h"
 #include "shell/main_settings.h"
 #include "shell/main_toolbar.h"
@@ -140,8 +141,9 @@ void mdiVelmar::testScreen() {
 }
 
 void mdiVelmar::openDatabase() {
-    if (!modDBase::OpenDBase(comDlg, DatabaseFile, PathFile, true, true, Password,
-                             missingDatabaseMessage())) {
+    const auto help = [] { HTMLHelp::ShowHelpTopic(1, "Cant_Start.htm"); };
+    if (!modDBase::OpenDBase(comDlg, DatabaseFile, PathFile, true, true, Password, missingDatabaseMessage(),
+                             help)) {
         UnloadMain();
         return;
     }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <utility>
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -31,7 +32,7 @@ void expectKeysAgree(AccessSource &source, const QString &table, qsizetype colum
     QMap<QString, Rows> byKey;
     for (const QVector<QVariant> &row : rows)
         if (row[column].isValid()) byKey[row[column].toString().toCaseFolded()].append(row);
-    for (const Rows &expected : qAsConst(byKey)) {
+    for (const Rows &expected : std::as_const(byKey)) {
         const QVariant key = expected.first()[column];
         const QVariant asked = key.typeId() == QMetaType::QString ? QVariant(key.toString().toUpper()) : key;
         ASSERT_EQ(rowTexts(matchingRows(source, table, {{name.toUpper(), asked}})), rowTexts(expected))

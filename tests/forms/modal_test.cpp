@@ -148,6 +148,17 @@ TEST(MsgBoxes, RealBoxesGiveTheClassicNumbers) {
     QStringList seen;
     answerByHand(vbExclamation, "OK", &seen);
     EXPECT_EQ(seen, QStringList({"One\nTwo", "Title", QString::number(QMessageBox::Warning)}));
+
+    int helped = 0;
+    QTimer::singleShot(0, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        box->button(QMessageBox::Help)->click();
+        box->button(QMessageBox::Help)->click();
+        EXPECT_TRUE(box->isVisible());
+        box->button(QMessageBox::Yes)->click();
+    });
+    EXPECT_EQ(MsgBox("One", vbYesNo, "Title", [&] { ++helped; }), vbYes);
+    EXPECT_EQ(helped, 2);
 }
 
 TEST(CommonDialogs, CancelRaisesOnlyWhenAsked) {

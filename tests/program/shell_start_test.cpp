@@ -2,12 +2,15 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolButton>
 
@@ -17,6 +20,7 @@
 #include "data/modDBase.h"
 #include "platform/dao/database.h"
 #include "platform/dao/file_lock.h"
+#include "platform/desktop/help_viewer.h"
 #include "platform/forms/application.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/forms.h"
@@ -107,6 +111,14 @@ private:
     QByteArray m_programFolder;
     bool m_isRoot;
 };
+
+/// What the help window shows, which is closed then.
+QString shownTopic() {
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (const std::unique_ptr<HelpViewer> viewer(qobject_cast<HelpViewer *>(widget)); viewer)
+            return viewer->findChild<QTextBrowser *>("HelpText")->source().fileName();
+    return {};
+}
 
 QStringList settingsOf(const QString &file) {
     return TextFile::readLines(file);
@@ -233,7 +245,12 @@ TEST_F(Start, ADatabaseThatHasGoneIsLookedForAndItsPlaceRemembered) {
 
 TEST_F(Start, WhatIsNoDatabaseIsToldWithItsPath) {
     TextFile::writeLines(program("Velmar_PED.mdb"), {"no database"});
-    modal().answerMsgBox(vbNo);
+    QFile::copy(BINARY_FOLDER "/Velmar_PED_HELP.qch", program("Velmar_PED_HELP.qch"));
+    modal().answerMsgBox([](const ModalSeam::Request &question) {
+        question.help();
+        EXPECT_EQ(shownTopic(), "Cant_Start.htm");
+        return vbNo;
+    });
     start();
     EXPECT_FALSE(isRunning());
     EXPECT_TRUE(modDBase::bDatabaseFailed());

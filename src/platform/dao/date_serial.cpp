@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include <QTimeZone>
+
 namespace {
 constexpr double FirstDay = -657434; // 100-01-01
 constexpr double LastDay = 2958465;  // 9999-12-31
@@ -23,5 +25,5 @@ std::optional<QDateTime> fromDateSerial(double serial) {
 
 QDateTime calendarMoment(const QDate &date, const QTime &time) {
     const QDateTime local(date, time);
-    return local.isValid() && local.time() == time ? local : QDateTime(date, time, Qt::UTC);
+    return local.isValid() && local.time() == time ? local : QDateTime(date, time, QTimeZone::utc());
 }

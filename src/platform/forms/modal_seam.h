@@ -16,8 +16,9 @@ class ModalSeam {
 public:
     enum class Kind { MessageBox, OpenFile, SaveFile, Window };
 
-    /// A message box fills text, style and title; a file dialog title, initDir, fileName, filter and
-    /// defaultExt as the program set them; a window its name as text and its caption as title.
+    /// A message box fills text, style and title, and help where it has a Help button; a file dialog title,
+    /// initDir, fileName, filter and defaultExt as the program set them; a window its name as text and its
+    /// caption as title.
     struct Request {
         Kind kind = Kind::MessageBox;
         QString text;
@@ -27,6 +28,7 @@ public:
         QString fileName;
         QString filter;
         QString defaultExt;
+        std::function<void()> help;
     };
 
     ModalSeam();

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "platform/forms/form_base.h"
 #include "platform/forms/forms.h"
@@ -60,9 +61,16 @@ QWidget *owner() {
     return form != nullptr ? form->asWidget()->window() : nullptr;
 }
 
+/// Cut off from the box, which would close at it as at any other button.
+void addHelpButton(QMessageBox &box, const std::function<void()> &help) {
+    QPushButton *button = box.addButton(QMessageBox::Help);
+    button->disconnect();
+    QObject::connect(button, &QPushButton::clicked, &box, help);
+}
+
 } // namespace
 
-int MsgBox(const QString &text, int style, const QString &title) {
+int MsgBox(const QString &text, int style, const QString &title, const std::function<void()> &help) {
     const QString heading = title.isEmpty() ? App::current().title : title;
     if (ModalSeam *seam = ModalSeam::active()) {
         ModalSeam::Request request;
@@ -70,6 +78,7 @@ int MsgBox(const QString &text, int style, const QString &title) {
         request.text = text;
         request.style = style;
         request.title = heading;
+        request.help = help;
         return seam->takeMsgBoxAnswer(request);
     }
     QMessageBox box(owner());
@@ -82,6 +91,7 @@ int MsgBox(const QString &text, int style, const QString &title) {
     const std::vector<Button> buttons = buttonsOf(style);
     for (const Button &button : buttons)
         box.addButton(button.button);
+    if (help) addHelpButton(box, help);
     const std::size_t preset = style & vbDefaultButton3 ? 2 : style & vbDefaultButton2 ? 1 : 0;
     if (preset < buttons.size()) box.setDefaultButton(buttons[preset].button);
     const PointerPause pause;

@@ -1,6 +1,8 @@
 // The message box, with its classic numbers.
 #pragma once
 
+#include <functional>
+
 #include <QString>
 
 enum MsgBoxStyle {
@@ -21,5 +23,7 @@ enum MsgBoxStyle {
 enum MsgBoxResult { vbOK = 1, vbCancel = 2, vbAbort = 3, vbRetry = 4, vbIgnore = 5, vbYes = 6, vbNo = 7 };
 
 /// Shows `text`, lines ended by CR LF, under `title` (the program's title where it is empty) and returns the
-/// button pressed. `style` is a sum of buttons, icon and default button.
-int MsgBox(const QString &text, int style = vbOKOnly, const QString &title = {});
+/// button pressed. `style` is a sum of buttons, icon and default button. With `help` the box has a Help
+/// button, which calls it and leaves the box standing.
+int MsgBox(const QString &text, int style = vbOKOnly, const QString &title = {},
+           const std::function<void()> &help = {});

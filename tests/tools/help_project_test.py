@@ -1,4 +1,4 @@
-"""The project of the .chm file says what the program's own help file says."""
+"""The folder of the help files: one provider, and a .chm project that says what the program's own help says."""
 
 import re
 import subprocess
@@ -8,7 +8,6 @@ import unittest
 import xml.etree.ElementTree as xml
 from html.parser import HTMLParser
 from pathlib import Path
-from shutil import which
 
 SOURCE = Path(__file__).resolve().parents[2]
 NAME = "Velmar_PED_HELP"
@@ -41,14 +40,25 @@ def sections(parent, depth=1):
         yield from sections(section, depth + 1)
 
 
-class ChmProject(unittest.TestCase):
+PROVIDER = """# not shown: this line
+Maker: Smith & Sons
+Address: 1 Dock Road
+Address: Hull
+Mail:
+Page: https://smith.example/ped?a=1&b=2
+"""
+
+
+class HelpProject(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.temporary = tempfile.TemporaryDirectory()
         cls.addClassCleanup(cls.temporary.cleanup)
         cls.folder = Path(cls.temporary.name) / "chm"
-        subprocess.run([sys.executable, "-B", SOURCE / "tools/make_chm_project", SOURCE / "help/velmar.qhp", cls.folder],
-                       check=True)
+        provider = Path(cls.temporary.name) / "provider.txt"
+        provider.write_text(PROVIDER)
+        subprocess.run([sys.executable, "-B", SOURCE / "tools/make_help_project", SOURCE / "help/velmar.qhp", provider,
+                        cls.folder], check=True)
         cls.help = xml.parse(SOURCE / "help/velmar.qhp").getroot().find("filterSection")
 
     def test_contents_and_index_are_those_of_the_help(self):
@@ -67,7 +77,12 @@ class ChmProject(unittest.TestCase):
             for picture in re.findall('src="([^"]+)"', topic.read_text(encoding="utf-8")):
                 self.assertIn(picture, copied, topic.name)
 
-    @unittest.skipUnless(which("chmcmd") and which("chmls"), "there is no compiler for it")
+    def test_the_provider_stands_in_the_contact_topic(self):
+        topic = (self.folder / "How_To_Contact_Us.htm").read_text(encoding="utf-8")
+        self.assertIn('<p>Smith &amp; Sons<br>\n1 Dock Road<br>\nHull<br>\n'
+                      '<a href="https://smith.example/ped?a=1&amp;b=2">https://smith.example/ped?a=1&amp;b=2</a></p>',
+                      topic)
+
     def test_it_compiles(self):
         subprocess.run(["chmcmd", "--no-html-scan", f"{NAME}.hhp"], cwd=self.folder, check=True, capture_output=True)
         held = subprocess.run(["chmls", "list", f"{NAME}.chm"], cwd=self.folder, check=True, capture_output=True,
