@@ -69,7 +69,7 @@ std::optional<JetExpressionSql::Column> JetExpressionSql::find(const JetExpressi
         const int field = fieldIndex(scope->table.fields, column.text);
         if (field < 0) continue;
         const int inMemory = scope->table.columns[field];
-        return Column{scope->table.fields[field], inMemory,
+        return Column{scope->table.name, scope->table.fields[field], inMemory,
                       scope->alias + "." + MemoryTable::columnName(inMemory)};
     }
     return std::nullopt;
@@ -150,7 +150,11 @@ SqlText JetExpressionSql::value(const JetExpression &expression) {
     case Kind::Date:
         return {"?", {expression.number}};
     case Kind::Column:
-        if (const std::optional<Column> column = find(expression)) return column->sql;
+        if (const std::optional<Column> column = find(expression)) {
+            if (column->field.type == FieldType::Unsupported)
+                throw JetErrors::unsupportedColumn(column->table, column->field.name);
+            return column->sql;
+        }
         addUnknownName(expression.source);
         return "null";
     case Kind::Call:

@@ -18,6 +18,7 @@ public:
     using Resolve = std::function<JetTable(const JetSelect &select)>;
 
     struct Column {
+        QString table;
         FieldDefinition field;
         int columnInMemory;
         QByteArray sql;
@@ -32,6 +33,7 @@ public:
     FieldType type(const JetExpression &expression) const;
 
     SqlText condition(const JetExpression &expression, Place place);
+    /// Raises 3259 for a column whose values cannot be read.
     SqlText value(const JetExpression &expression);
     /// A value that is compared or sorted: a text comes with the engine's collation.
     SqlText key(const JetExpression &expression);

@@ -65,7 +65,8 @@ RowFilter JetTranslator::filter(const JetExpression *where) {
     for (std::size_t i = 0; i < count; ++i) {
         const JetExpression &term = isAnd ? where->operands[i] : *where;
         if (answersLikes && term.kind == Kind::Like && !term.negated && term.operands[1].kind == Kind::Text) {
-            if (const auto column = m_sql.find(term.operands[0])) {
+            const auto column = m_sql.find(term.operands[0]);
+            if (column && column->field.type != FieldType::Unsupported) {
                 filter.likes.push_back({column->columnInMemory, LikePattern(term.operands[1].text)});
                 continue;
             }

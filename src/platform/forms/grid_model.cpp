@@ -56,6 +56,7 @@ void GridModel::makeColumnsOfFields() {
         removeColumn(columnCount() - 1);
     if (!m_recordset) return;
     for (const FieldDefinition &field : m_recordset->fieldDefinitions()) {
+        if (field.type == FieldType::Unsupported) continue;
         GridColumn &column = addColumn();
         column.setDataField(field.name);
         column.setCaption(field.name);
@@ -113,6 +114,11 @@ QVariant GridModel::value(int row, int column) const {
 
 void GridModel::findFields() {
     if (!m_recordset) return;
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-        m_fields[i] = m_recordset->fieldIndex(m_columns[i]->DataField());
+    for (std::size_t i = 0; i < m_columns.size(); ++i) {
+        const int field = m_fields[i] = m_recordset->fieldIndex(m_columns[i]->DataField());
+        if (field < 0 || m_recordset->RecordCount() == 0) continue;
+        // The error of a field that cannot be read comes here, and not in the middle of painting.
+        if (m_recordset->fieldDefinitions()[field].type == FieldType::Unsupported)
+            m_recordset->value(0, field);
+    }
 }

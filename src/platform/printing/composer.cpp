@@ -52,7 +52,19 @@ void Composer::run() {
 void Composer::addFieldsOfDataSource() {
     if (!m_report.DataSource) return;
     for (const FieldDefinition &column : m_report.DataSource->fieldDefinitions())
-        if (!m_report.Fields.contains(column.name)) m_report.Fields.Add(column.name);
+        if (isRead(column) && !m_report.Fields.contains(column.name)) m_report.Fields.Add(column.name);
+}
+
+// A column that cannot be read is an error where a control shows it, and nobody's business elsewhere.
+bool Composer::isRead(const FieldDefinition &definition) const {
+    if (definition.type != FieldType::Unsupported) return true;
+    const auto shows = [&](const std::unique_ptr<Control> &control) {
+        const auto *field = dynamic_cast<const Field *>(control.get());
+        return field && isSameName(field->DataField, definition.name);
+    };
+    return std::any_of(m_report.m_sections.begin(), m_report.m_sections.end(), [&](const auto &section) {
+        return std::any_of(section->Controls.begin(), section->Controls.end(), shows);
+    });
 }
 
 // True at the end of the rows.
@@ -61,8 +73,10 @@ bool Composer::fetch(bool firstRow) {
     bool eof = rows ? rows->Eof() : !firstRow;
     if (rows && !eof) {
         int column = 0;
-        for (const FieldDefinition &definition : rows->fieldDefinitions())
-            m_report.Fields(definition.name) = rows->Fields(column++);
+        for (const FieldDefinition &definition : rows->fieldDefinitions()) {
+            if (isRead(definition)) m_report.Fields(definition.name) = rows->Fields(column);
+            ++column;
+        }
         rows->MoveNext();
     }
     m_report.FetchData(eof);

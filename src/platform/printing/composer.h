@@ -1,6 +1,7 @@
 // Runs a report with its sub-reports and lays its sections out on an endless page.
 #pragma once
 
+#include "platform/dao/field_type.h"
 #include "platform/printing/band.h"
 #include "platform/printing/report.h"
 #include "platform/printing/section_layout.h"
@@ -22,6 +23,7 @@ private:
 
     void run();
     void addFieldsOfDataSource();
+    bool isRead(const FieldDefinition &definition) const;
     bool fetch(bool firstRow);
     void addSections(SectionType type);
     void addSection(Section &section);
