@@ -11,6 +11,7 @@
 #include "mdb_reader/bytes.h"
 #include "mdb_reader/cell_text.h"
 #include "mdb_reader/column_check.h"
+#include "mdb_reader/column_details.h"
 #include "mdb_reader/damaged.h"
 #include "mdb_reader/row.h"
 #include "mdb_reader/table_scan.h"
@@ -45,19 +46,24 @@ CellType cellType(int storedType) {
         return CellType::Date;
     case MDB_TEXT:
         return CellType::Text;
-    default:
+    case MDB_MEMO:
         return CellType::Memo;
+    default:
+        return CellType::Unsupported;
     }
 }
 
-Column readColumn(const MdbColumn &stored, bool jet3) {
+/// `details` is null for Jet 3, which has no Decimal: nobody knows where it would keep the scale.
+Column readColumn(const MdbColumn &stored, const ColumnDetails *details) {
     Column column;
     column.name = stored.name;
     column.type = cellType(stored.col_type);
     column.storedType = stored.col_type;
     column.storedSize = static_cast<unsigned>(stored.col_size);
-    if (column.type == CellType::Text) column.size = jet3 ? column.storedSize : column.storedSize / 2;
-    column.scale = stored.col_scale;
+    if (details ? details->calculated : stored.col_type == MDB_NUMERIC) column.type = CellType::Unsupported;
+    if (column.type == CellType::Text) column.size = details ? column.storedSize / 2 : column.storedSize;
+    if (details) column.precision = details->precision;
+    if (details) column.scale = details->scale;
     column.number = static_cast<unsigned>(stored.col_num);
     column.fixed = stored.is_fixed != 0;
     column.fixedOffset = static_cast<unsigned>(stored.fixed_offset);
@@ -137,10 +143,14 @@ Table AccessFile::readTable(const std::string &name, std::uint32_t definitionPag
     table.definitionPage = definitionPage;
     table.hasVariablePart = stored->num_var_cols > 0;
     table.usageMap.assign(stored->usage_map, stored->usage_map + stored->map_sz);
-    for (guint i = 0; i < stored->columns->len; ++i)
-        table.columns.push_back(
-            readColumn(*static_cast<const MdbColumn *>(g_ptr_array_index(stored->columns, i)), m_jet3));
     Pages definition = pages();
+    std::map<unsigned, ColumnDetails> details;
+    if (!m_jet3) details = columnDetails(definition, definitionPage, *m_handle->fmt);
+    for (guint i = 0; i < stored->columns->len; ++i) {
+        const auto &column = *static_cast<const MdbColumn *>(g_ptr_array_index(stored->columns, i));
+        const ColumnDetails *ofColumn = m_jet3 ? nullptr : &details[static_cast<unsigned>(column.col_num)];
+        table.columns.push_back(readColumn(column, ofColumn));
+    }
     const std::uint8_t *counts = definition.at(definitionPage) + m_handle->fmt->tab_num_cols_offset;
     checkColumns(table, {bytes::u16(counts - 4), bytes::u16(counts - 2)});
     return table;

@@ -14,11 +14,12 @@ struct Column {
     MdbProtocol::CellType type = MdbProtocol::CellType::Memo;
     /// Characters of a Text.
     unsigned size = 0;
-    /// As libmdb numbers the types; one that has no CellType reads as Null.
+    /// As libmdb numbers the types.
     int storedType = 0;
     unsigned storedSize = 0;
-    /// Digits behind the decimal sign of an MDB_NUMERIC.
-    int scale = 0;
+    /// Of an MDB_NUMERIC, whose CellType is Double.
+    unsigned precision = 0;
+    unsigned scale = 0;
     /// The bit in a row's null mask.
     unsigned number = 0;
     bool fixed = false;

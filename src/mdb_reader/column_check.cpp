@@ -6,12 +6,13 @@
 
 namespace {
 
-constexpr int LargeNumber = 0x13; // of later versions than libmdb names
 constexpr unsigned AnySize = ~0u;
+constexpr unsigned MostDigits = 28;
 
-/// The bytes that a value of this type takes in a row; a Boolean is a bit elsewhere.
-unsigned sizeOf(int storedType) {
-    switch (storedType) {
+/// The bytes that a value takes in a row; a Boolean is a bit elsewhere.
+unsigned sizeOf(const Column &column) {
+    if (column.type == MdbProtocol::CellType::Unsupported) return AnySize;
+    switch (column.storedType) {
     case MDB_BOOL:
         return 0;
     case MDB_BYTE:
@@ -24,20 +25,11 @@ unsigned sizeOf(int storedType) {
     case MDB_MONEY:
     case MDB_DOUBLE:
     case MDB_DATETIME:
-    case LargeNumber:
         return 8;
-    case MDB_REPID:
-        return 16;
     case MDB_NUMERIC:
         return 17;
-    case MDB_BINARY:
-    case MDB_TEXT:
-    case MDB_OLE:
-    case MDB_MEMO:
-    case MDB_COMPLEX:
-        return AnySize;
     default:
-        throw Damaged("column of no known type");
+        return AnySize;
     }
 }
 
@@ -48,11 +40,14 @@ void checkColumns(const Table &table, const ColumnCounts &counts) {
     std::set<unsigned> variables;
     std::set<std::size_t> taken; // bytes of the fixed part
     for (const Column &column : table.columns) {
-        const unsigned size = sizeOf(column.storedType);
+        const unsigned size = sizeOf(column);
         if (column.number >= counts.ever || !numbers.insert(column.number).second)
             throw Damaged("column out of place");
         if (size == 0) continue;
         if (size != AnySize && size != column.storedSize) throw Damaged("column of a wrong size");
+        if (column.storedType == MDB_NUMERIC &&
+            (column.precision > MostDigits || column.scale > column.precision))
+            throw Damaged("decimal of absurd size");
         if (!column.fixed) {
             if (column.variableIndex >= counts.variable || !variables.insert(column.variableIndex).second)
                 throw Damaged("column out of place");

@@ -1,6 +1,7 @@
 #include "mdb_reader/row_writer.h"
 
-#include <cmath>
+#include <algorithm>
+#include <charconv>
 #include <cstring>
 
 #include "mdb_reader/bytes.h"
@@ -18,14 +19,29 @@ Number number(const CellBytes &cell) {
     return value;
 }
 
-/// A sign, and four words of 32 bits with the highest first.
-double decimal(const CellBytes &cell, int scale) {
+/// A sign, and four words of 32 bits with the highest first: the number without its decimal sign. Gives the
+/// Double that lies nearest, by way of the digits: a division would round once more.
+double decimal(const CellBytes &cell, unsigned scale) {
     if (cell.size < 17) throw Damaged("number cut off");
-    long double digits = 0;
-    for (int word = 0; word < 4; ++word)
-        digits = digits * 0x1p32L + static_cast<long double>(bytes::u32(cell.data + 1 + 4 * word));
-    const long double value = digits / std::pow(10.0L, scale);
-    return static_cast<double>((cell.data[0] & 0x80) != 0 ? -value : value);
+    std::uint64_t words[4];
+    for (int i = 0; i < 4; ++i)
+        words[i] = bytes::u32(cell.data + 1 + 4 * i);
+    std::string text;
+    while (std::any_of(words, words + 4, [](std::uint64_t word) { return word != 0; })) {
+        std::uint64_t rest = 0;
+        for (std::uint64_t &word : words) {
+            const std::uint64_t dividend = rest << 32 | word;
+            word = dividend / 10;
+            rest = dividend % 10;
+        }
+        text.insert(text.begin(), static_cast<char>('0' + rest));
+    }
+    if (text.empty()) return 0; // which has no sign
+    if ((cell.data[0] & 0x80) != 0) text.insert(text.begin(), '-');
+    text += "e-" + std::to_string(scale);
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
 }
 
 } // namespace
@@ -48,7 +64,7 @@ bool RowWriter::writeCell(const Column &column, const Row &row, Reply &reply) {
         reply.number(static_cast<std::uint8_t>(bit));
         return true;
     }
-    if (!bit || (column.type == CellType::Memo && column.storedType != MDB_MEMO)) return false;
+    if (!bit || column.type == CellType::Unsupported) return false;
     CellBytes cell = row.cell(column);
     if (!cell.data) return false;
     switch (column.type) {
@@ -81,6 +97,7 @@ bool RowWriter::writeCell(const Column &column, const Row &row, Reply &reply) {
         reply.text(m_text);
         break;
     case CellType::Boolean:
+    case CellType::Unsupported:
         break;
     }
     return true;

@@ -1,9 +1,12 @@
 // What real files have in them and the samples do not: deleted and moved rows, long memos, a cipher, Jet 3.
 #include <gtest/gtest.h>
 
-#include "tests/dao/jet3_file.h"
+#include <cmath>
+
+#include "tests/dao/jet_file.h"
 #include "tests/dao/mdb_pages.h"
 #include "tests/dao/source_support.h"
+#include "tests/dao/sql_support.h"
 
 namespace {
 
@@ -71,7 +74,6 @@ TEST(AccessLayout, RowsThatAreLostOrWouldBeMisreadAreAnError) {
         QByteArray bytes;
     } cases[] = {
         {"fewer rows than were counted", rows + 14, QByteArray("\0\xc0", 2)},
-        {"an unknown type", column(1), "\x77"},
         {"a number of another size", column(0), "\4"},
         {"two columns in one bit", column(1) + 5, QByteArray("\0\0", 2)},
         {"a column beyond all", column(0) + 5, QByteArray("\x7f\0", 2)},
@@ -165,10 +167,11 @@ TEST(AccessLayout, FilesOfLaterVersionsAreRead) {
     }
 }
 
-TEST(AccessLayout, Jet3IsReadWithItsCodePageAndLongRows) {
-    using Type = Jet3File::Type;
+TEST(AccessLayout, EveryTypeIsReadInEveryVersion) {
+    using Type = JetFile::Type;
+    using Version = JetFile::Version;
     const QString wide = QString(200, 'w') + QString::fromUtf8("é€");
-    const QVector<QPair<QByteArray, Type>> columns = {
+    const JetFile::Columns columns = {
         {"flag", Type::Boolean}, {"byte", Type::Byte},     {"small", Type::Integer}, {"large", Type::Long},
         {"money", Type::Money},  {"single", Type::Single}, {"double", Type::Double}, {"day", Type::Date},
         {"a", Type::Text},       {"b", Type::Text},        {"c", Type::Text},        {"memo", Type::Memo}};
@@ -180,18 +183,118 @@ TEST(AccessLayout, Jet3IsReadWithItsCodePageAndLongRows) {
          wide},
         {false, 1, 2, 3, 4.0, 5.0f, 6.0, moment, QString(230, 'p'), QString(230, 'q'), QString(230, 'r'), ""},
     };
-    const QTemporaryDir folder;
-    AccessSource source(writeFile(folder, "jet3.mdb", Jet3File::make("Old", columns, rows)), helperPath());
-    ASSERT_EQ(source.tableNames(), QStringList("Old"));
     const FieldType types[] = {FieldType::Boolean,  FieldType::Byte,   FieldType::Integer, FieldType::Long,
                                FieldType::Currency, FieldType::Single, FieldType::Double,  FieldType::Date,
                                FieldType::Text,     FieldType::Text,   FieldType::Text,    FieldType::Memo};
-    const FieldDefinitions fields = source.fields("Old");
-    ASSERT_EQ(fields.size(), columns.size());
-    for (qsizetype i = 0; i < fields.size(); ++i)
-        EXPECT_EQ(fields[i],
-                  (FieldDefinition{columns[i].first, types[i], types[i] == FieldType::Text ? 255 : 0}));
-    EXPECT_EQ(rowTexts(allRows(source, "Old")), rowTexts(rows));
-    EXPECT_EQ(rowTexts(matchingRows(source, "Old", {{"small", 32767}})), rowTexts({rows[2]}));
-    EXPECT_EQ(rowTexts(matchingRows(source, "Old", {{"a", wide.toUpper()}})), rowTexts({rows[0]}));
+    const QTemporaryDir folder;
+    for (const Version version : {Version::Access97, Version::Access2000, Version::Access2007}) {
+        SCOPED_TRACE(int(version));
+        AccessSource source(writeFile(folder, "types.mdb", JetFile(version).make("Types", columns, rows)),
+                            helperPath());
+        ASSERT_EQ(source.tableNames(), QStringList("Types"));
+        const FieldDefinitions fields = source.fields("Types");
+        ASSERT_EQ(fields.size(), columns.size());
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            EXPECT_EQ(fields[i],
+                      (FieldDefinition{columns[i].name, types[i], types[i] == FieldType::Text ? 255 : 0}));
+        EXPECT_EQ(rowTexts(allRows(source, "Types")), rowTexts(rows));
+        EXPECT_EQ(rowTexts(matchingRows(source, "Types", {{"small", 32767}})), rowTexts({rows[2]}));
+        EXPECT_EQ(rowTexts(matchingRows(source, "Types", {{"a", wide.toUpper()}})), rowTexts({rows[0]}));
+    }
+}
+
+TEST(AccessLayout, DecimalIsTheDoubleNearestToIt) {
+    using Type = JetFile::Type;
+    const struct {
+        quint8 precision;
+        quint8 scale;
+        QString stored;
+        double value;
+    } cases[] = {
+        {18, 0, "1", 1},
+        {5, 1, "214.0", 214},
+        {5, 1, "-0.5", -0.5},
+        {18, 0, "-123456789012345678", -123456789012345678.0},
+        {4, 4, "0.0214", 0.0214},
+        {4, 4, "-0.9999", -0.9999},
+        {28, 28, "0.1", 0.1},
+        {28, 28, "0.1234567890123456789012345678", 0.1234567890123456789012345678},
+        {28, 0, "9999999999999999999999999999", 9999999999999999999999999999.0},
+        {28, 14, "-98765432109876.54321098765432", -98765432109876.54321098765432},
+        {28, 3, "9007199254740993.001", 9007199254740994.0}, // the half of a step, and a little more
+        {10, 2, "-0.00", 0},
+    };
+    JetFile::Columns columns;
+    QVector<QVariant> stored;
+    QVector<QVariant> expected;
+    while (columns.size() < 200) { // more than a page can define
+        const auto &[precision, scale, text, value] = cases[std::size_t(columns.size()) % std::size(cases)];
+        columns.append({"d" + QByteArray::number(columns.size()), Type::Decimal, precision, scale});
+        stored.append(text);
+        expected.append(value);
+    }
+    columns.append({"absent", Type::Decimal, 18, 0});
+    stored.append(QVariant());
+    const QTemporaryDir folder;
+    for (const JetFile::Version version : {JetFile::Version::Access2000, JetFile::Version::Access2007}) {
+        const QByteArray file = JetFile(version).make("Decimals", columns, {stored});
+        AccessSource source(writeFile(folder, "decimals.mdb", file), helperPath());
+        const Rows read = allRows(source, "Decimals");
+        ASSERT_EQ(read.size(), 1);
+        EXPECT_FALSE(read[0].last().isValid());
+        for (qsizetype i = 0; i < expected.size(); ++i) {
+            EXPECT_EQ(source.fields("Decimals")[i].type, FieldType::Double);
+            EXPECT_EQ(read[0][i].toDouble(), expected[i].toDouble()) << stored[i].toString().toStdString();
+            EXPECT_FALSE(std::signbit(read[0][i].toDouble()) && read[0][i].toDouble() == 0);
+        }
+    }
+    const QByteArray absurd =
+        JetFile(JetFile::Version::Access2000).make("Decimals", {{"d", Type::Decimal, 5, 6}}, {{"0.1"}});
+    EXPECT_EQ(errorOf([&] { AccessSource(writeFile(folder, "absurd.mdb", absurd), helperPath()); }), 3343);
+}
+
+TEST(AccessLayout, ColumnOfATypeThatIsNotReadHarmsOnlyThoseWhoAskForIt) {
+    using Type = JetFile::Type;
+    JetFile::Columns columns = {{"id", Type::Long}, {"name", Type::Text}};
+    QVector<QVariant> row = {1, "a"};
+    for (const Type type :
+         {Type::Binary, Type::Ole, Type::Guid, Type::Complex, Type::LargeNumber, Type::Unknown}) {
+        columns.append({"other" + QByteArray::number(int(type)), type});
+        row.append(QByteArray(16, 'x'));
+    }
+    columns.append({"sum", Type::Double, 0, 0, true});
+    columns.append({"both", Type::Text, 0, 0, true});
+    row.append({QByteArray(31, 'y'), QByteArray(31, 'z')});
+    const JetFile::Columns old = {{"id", Type::Long}, {"name", Type::Text}, {"decimal", Type::Decimal}};
+    const struct {
+        JetFile::Version version;
+        JetFile::Columns columns;
+        QVector<QVariant> row;
+    } files[] = {
+        {JetFile::Version::Access97, old, {1, "a", "1"}},
+        {JetFile::Version::Access2000, columns, row},
+        {JetFile::Version::Access2007, columns, row},
+    };
+    const QTemporaryDir folder;
+    for (const auto &file : files) {
+        const QByteArray bytes = JetFile(file.version).make("Mixed", file.columns, {file.row});
+        Database database =
+            databaseOver(std::make_unique<AccessSource>(writeFile(folder, "mixed.mdb", bytes), helperPath()));
+        const auto all = database.OpenRecordset("select * from Mixed where id = 1");
+        EXPECT_EQ(shownRows(*all, {"id", "name"}), std::vector<std::string>{"1|a"});
+        for (qsizetype i = 2; i < file.columns.size(); ++i) {
+            const QString name = file.columns[i].name;
+            const std::string expected = QString("3259: Invalid field data type: the values of the column "
+                                                 "'%1' of the table 'Mixed' cannot be read.")
+                                             .arg(name)
+                                             .toStdString();
+            EXPECT_EQ(errorText([&] { all->Fields(name); }), expected);
+            for (const QString sql :
+                 {"select id from Mixed where %1 is null", "select id from Mixed where %1 like '*'",
+                  "select id from Mixed order by %1", "select distinct %1 from Mixed",
+                  "select max(%1) from Mixed"})
+                EXPECT_EQ(errorText([&] { database.OpenRecordset(sql.arg(name)); }), expected);
+            EXPECT_EQ(errorText([&] { all->FindFirst(name + " = 1"); }), expected);
+        }
+    }
 }

@@ -10,9 +10,10 @@ namespace {
 
 FieldDefinition fieldOf(const QString &column) {
     static const QMap<QString, FieldType> types = {
-        {"BOOLEAN", FieldType::Boolean}, {"BYTE", FieldType::Byte},     {"INT", FieldType::Integer},
-        {"LONG", FieldType::Long},       {"SINGLE", FieldType::Single}, {"DOUBLE", FieldType::Double},
-        {"DATE", FieldType::Date},       {"TEXT", FieldType::Text},     {"MEMO", FieldType::Memo}};
+        {"BOOLEAN", FieldType::Boolean},  {"BYTE", FieldType::Byte},     {"INT", FieldType::Integer},
+        {"LONG", FieldType::Long},        {"SINGLE", FieldType::Single}, {"DOUBLE", FieldType::Double},
+        {"DATE", FieldType::Date},        {"TEXT", FieldType::Text},     {"MEMO", FieldType::Memo},
+        {"OTHER", FieldType::Unsupported}};
     const QString type = column.section(':', 1).section('(', 0, 0);
     return {column.section(':', 0, 0), types.value(type), type == "TEXT" ? 80 : 0};
 }
@@ -37,6 +38,8 @@ QVariant cellOf(const QString &text, FieldType type) {
     case FieldType::Text:
     case FieldType::Memo:
         break;
+    case FieldType::Unsupported:
+        return {};
     }
     return text;
 }

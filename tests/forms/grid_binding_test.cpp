@@ -9,6 +9,7 @@
 
 #include "tests/forms/grid_fixture.h"
 #include "tests/support/error_of.h"
+#include "tests/support/given_rows.h"
 #include "tests/support/pinned_settings.h"
 
 namespace {
@@ -134,6 +135,18 @@ TEST(GridFields, AreShownAllUntilTheyAreHeld) {
     source.setRecordset(std::make_shared<Recordset>(std::make_shared<MadeRows>(2, QStringList{"other"})));
     EXPECT_EQ(grid.ColumnCount(), 3);
     EXPECT_EQ(grid.CellText(1, 1), "");
+}
+
+TEST_F(BoundGrid, FieldThatCannotBeReadIsAnErrorOnlyWhereAColumnShowsIt) {
+    const auto rows = [] { return std::make_shared<Recordset>(givenRows({"name", "photo!"}, {{"a", {}}})); };
+    source.setRecordset(rows());
+    EXPECT_EQ(grid.CellText(0, 0), "a");
+    grid.Columns(0).setDataField("");
+    EXPECT_EQ(errorOf([&] { grid.Columns(0).setDataField("photo"); }), 3259);
+
+    TDBGrid ofAllFields;
+    ofAllFields.setDataSource(&source);
+    EXPECT_EQ(ofAllFields.ColumnCount(), 1);
 }
 
 TEST(DataControl, RaisesWithoutDatabaseAndBeforeTheFirstRows) {

@@ -6,6 +6,7 @@
 #include "tests/printing/locate.h"
 #include "tests/printing/test_report.h"
 #include "tests/support/error_of.h"
+#include "tests/support/given_rows.h"
 
 using namespace Printing;
 
@@ -246,6 +247,18 @@ TEST_F(Layout, ARecordsetGivesARowForEachRecord) {
     EXPECT_EQ(boxOf("1").topLeft(), QPoint(1000, 566));
     // The null of the second record.
     EXPECT_EQ(report.document().pages[0].elements[4].text, QString());
+}
+
+TEST_F(Layout, AFieldThatCannotBeReadIsAnErrorOnlyWhereAControlShowsIt) {
+    auto &shown = place<Field>(detail, "txtName", {0, 0, 1000, 283});
+    report.onInitialize = [this] {
+        report.DataSource = std::make_shared<Recordset>(givenRows({"photo!", "name"}, {{{}, "a"}}));
+    };
+    shown.DataField = "name";
+    report.Run();
+    EXPECT_EQ(boxOf("a").top(), 0);
+    shown.DataField = "photo";
+    EXPECT_EQ(errorOf([&] { report.Run(); }), 3259);
 }
 
 TEST_F(Layout, AChartIsDrawnOnceWhenItsSectionIsLaidOut) {

@@ -8,18 +8,23 @@
 
 #include "platform/dao/recordset.h"
 #include "platform/dao/recordset_rows.h"
+#include "platform/runtime/runtime_error.h"
 
-/// A QVariant() is Null. Nothing can be found in it.
+/// A QVariant() is Null. Nothing can be found in it. A name that ends in "!" is that of an Unsupported field.
 class GivenRows : public RecordsetRows {
 public:
     GivenRows(const QStringList &names, std::vector<QVariantList> rows)
         : m_rows(std::move(rows)) {
-        for (const QString &name : names)
-            m_fields.append({name, FieldType::Text, 0});
+        for (const QString &name : names) {
+            const bool isSupported = !name.endsWith('!');
+            m_fields.append({isSupported ? name : name.chopped(1),
+                             isSupported ? FieldType::Text : FieldType::Unsupported, 0});
+        }
     }
     const FieldDefinitions &fields() const override { return m_fields; }
     int count() const override { return static_cast<int>(m_rows.size()); }
     QVariant value(int row, int column) const override {
+        if (m_fields[column].type == FieldType::Unsupported) throw RuntimeError(3259);
         return m_rows[static_cast<std::size_t>(row)][column];
     }
     int find(const QString &, int, int) const override { return -1; }

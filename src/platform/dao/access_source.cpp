@@ -42,6 +42,8 @@ FieldType fieldType(CellType type) {
         return FieldType::Text;
     case CellType::Memo:
         return FieldType::Memo;
+    case CellType::Unsupported:
+        return FieldType::Unsupported;
     }
     throw MalformedFrame();
 }
@@ -70,6 +72,8 @@ QVariant readCell(FrameReader &frame, FieldType type) {
     case FieldType::Text:
     case FieldType::Memo:
         return frame.text();
+    case FieldType::Unsupported:
+        break;
     }
     throw MalformedFrame();
 }

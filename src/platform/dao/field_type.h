@@ -5,8 +5,21 @@
 #include <QVector>
 
 /// A cell comes back as: Boolean bool; Byte, Integer, Long int; Single float; Double and Currency double;
-/// Date QDateTime (local time, no zone); Text and Memo QString; Null an invalid QVariant.
-enum class FieldType { Boolean, Byte, Integer, Long, Currency, Single, Double, Date, Text, Memo };
+/// Date QDateTime (local time, no zone); Text and Memo QString; Null an invalid QVariant. An Unsupported
+/// column harms nobody who does not ask for its values; whoever does gets an error.
+enum class FieldType {
+    Boolean,
+    Byte,
+    Integer,
+    Long,
+    Currency,
+    Single,
+    Double,
+    Date,
+    Text,
+    Memo,
+    Unsupported
+};
 
 struct FieldDefinition {
     QString name;

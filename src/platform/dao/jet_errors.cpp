@@ -65,6 +65,12 @@ RuntimeError transformSyntax() {
     return RuntimeError(3143, "Syntax error in TRANSFORM statement.");
 }
 
+RuntimeError unsupportedColumn(const QString &table, const QString &column) {
+    return RuntimeError(3259, QString("Invalid field data type: the values of the column '%1' of the table "
+                                      "'%2' cannot be read.")
+                                  .arg(column, table));
+}
+
 RuntimeError tooManyFields() {
     return RuntimeError(3190, "Too many fields defined.");
 }

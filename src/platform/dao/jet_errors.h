@@ -39,6 +39,8 @@ RuntimeError tooManyFields();
 RuntimeError subqueryColumns();
 /// 3360.
 RuntimeError tooComplex();
+/// 3259: the values of a column of a type that is not supported are asked for.
+RuntimeError unsupportedColumn(const QString &table, const QString &column);
 /// 3464.
 RuntimeError typeMismatch();
 

@@ -63,8 +63,11 @@ void JetExpressionSql::addUnknownName(const QString &name) {
 }
 
 void JetExpressionSql::checkReadable() const {
-    for (const Column &column : m_read)
+    for (const Column &column : m_read) {
+        if (column.field.type == FieldType::Unsupported)
+            throw JetErrors::unsupportedColumn(column.tableName, column.field.name);
         column.table->checkReadable(column.columnInMemory);
+    }
 }
 
 std::optional<JetExpressionSql::Column> JetExpressionSql::find(const JetExpression &column) const {
@@ -74,7 +77,7 @@ std::optional<JetExpressionSql::Column> JetExpressionSql::find(const JetExpressi
         const int field = fieldIndex(scope->table.fields, column.text);
         if (field < 0) continue;
         const int inMemory = scope->table.columns[field];
-        return Column{scope->table.fields[field], scope->table.table, inMemory,
+        return Column{scope->table.name, scope->table.fields[field], scope->table.table, inMemory,
                       scope->alias + "." + MemoryTable::columnName(inMemory)};
     }
     return std::nullopt;

@@ -18,6 +18,7 @@ public:
     using Resolve = std::function<JetTable(const JetSelect &select)>;
 
     struct Column {
+        QString tableName;
         FieldDefinition field;
         std::shared_ptr<MemoryTable> table;
         int columnInMemory;
@@ -52,8 +53,8 @@ public:
     const QStringList &unknownNames() const { return m_unknownNames; }
     void addUnknownName(const QString &name);
 
-    /// Raises 3343 where SQL that was made here reads a column that cannot be read. Whoever runs the SQL asks
-    /// once the tables' rows are there.
+    /// Raises 3259 where SQL that was made here reads a column of no type that can be read, 3343 where it
+    /// reads one with a value that cannot. Whoever runs the SQL asks once the tables' rows are there.
     void checkReadable() const;
     /// Of a column that is read without its SQL.
     void addRead(const Column &column) { m_read.push_back(column); }

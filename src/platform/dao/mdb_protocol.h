@@ -36,6 +36,7 @@ enum class ValueKind : std::uint8_t { Integer = 1, Text };
 
 /// Value's form: Boolean and Byte 8 bits, Integer 16, Long 32, Currency 64 (ten-thousandths), Single and
 /// Double IEEE, Date a Double of days since 1899-12-30, Text and Memo a text.
+/// An Unsupported column has no values, and all its cells are marked as Null.
 enum class CellType : std::uint8_t {
     Boolean,
     Byte,
@@ -46,7 +47,8 @@ enum class CellType : std::uint8_t {
     Double,
     Date,
     Text,
-    Memo
+    Memo,
+    Unsupported
 };
 
 /// No frame is longer; one row fits in a frame.

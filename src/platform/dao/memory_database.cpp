@@ -92,6 +92,8 @@ QVariant MemoryStatement::cell(int column, FieldType type) const {
     case FieldType::Text:
     case FieldType::Memo:
         break;
+    case FieldType::Unsupported:
+        return {};
     }
     qsizetype size = 0;
     const char *utf8 = text(column, size);
@@ -171,6 +173,8 @@ QVariant storedValue(const QVariant &cell, FieldType type) {
     case FieldType::Text:
     case FieldType::Memo:
         break;
+    case FieldType::Unsupported:
+        return {};
     }
     return cell.toString();
 }
@@ -191,6 +195,7 @@ QByteArray textExpression(const QByteArray &value, FieldType type) {
         return "jet_date(" + value + ")";
     case FieldType::Text:
     case FieldType::Memo:
+    case FieldType::Unsupported:
         break;
     }
     return value;

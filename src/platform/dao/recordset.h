@@ -47,7 +47,8 @@ public:
     /// Nobody is told of its moves any more; the rows stay.
     void Close();
 
-    /// The current record's value. Raises 3021 without a current record, 3265 for an unknown field.
+    /// The current record's value. Raises 3021 without a current record, 3265 for an unknown field, 3259 for
+    /// an Unsupported one.
     QVariant Fields(const QString &name) const;
     QVariant Fields(int position) const;
 

@@ -9,10 +9,13 @@ TableRows::TableRows(JetTable table, std::vector<int> rows)
     , m_rows(std::move(rows)) {}
 
 QVariant TableRows::value(int row, int column) const {
+    checkReadable(column);
     return m_table.table->cell(m_rows[static_cast<std::size_t>(row)], m_table.columns[column]);
 }
 
 void TableRows::checkReadable(int column) const {
+    const FieldDefinition &field = m_table.fields[column];
+    if (field.type == FieldType::Unsupported) throw JetErrors::unsupportedColumn(m_table.name, field.name);
     m_table.table->checkReadable(m_table.columns[column]);
 }
 

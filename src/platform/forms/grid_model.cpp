@@ -64,6 +64,7 @@ void GridModel::makeColumnsOfFields() {
         removeColumn(columnCount() - 1);
     if (!m_recordset) return;
     for (const FieldDefinition &field : m_recordset->fieldDefinitions()) {
+        if (field.type == FieldType::Unsupported) continue;
         GridColumn &column = addColumn();
         column.setDataField(field.name);
         column.setCaption(field.name);
@@ -121,7 +122,7 @@ QVariant GridModel::value(int row, int column) const {
 }
 
 void GridModel::checkReadable() const {
-    if (!m_recordset) return;
+    if (!m_recordset || m_rows == 0) return;
     for (const int field : m_fields)
         if (field >= 0) m_recordset->checkReadable(field);
 }
