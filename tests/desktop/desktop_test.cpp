@@ -156,6 +156,7 @@ TEST_F(DesktopTest, TheChooserStartsWhatIsPicked) {
     install("zebra", QStringLiteral("cp %f %1").arg(path("by-zebra")));
     install("ant", QStringLiteral("cp %f %1").arg(path("by-ant")));
     install("helper", "sh", "NoDisplay=true");
+    install("stranger", "sh", "OnlyShowIn=Elsewhere;");
     EXPECT_TRUE(QTest::qWaitFor([] { return DesktopEntry::all().size() == 2; }));
     modal().driveForm([](Form &form) { form.findChild<QPushButton *>("cmdCancel")->click(); });
     ShellOpenAs(path("a.xyz"));

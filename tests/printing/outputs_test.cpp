@@ -132,7 +132,7 @@ TEST_F(Outputs, ThePdfOutlineLeadsToTheHeadingsWhateverWroteThePages) {
     QPDF changed;
     changed.processMemoryFile("again", again.constData(), std::size_t(again.size()));
     EXPECT_EQ(outlineText(changed).toStdString(), "2: Wetterstation Großer Sand at 779.4, -2 " + sections +
-                                                      "; Appendix at 420.9, -1 (Deep at 0, 0)");
+                                                      "; Appendix at 420.95, -1 (Deep at 0, 0)");
     const auto identifier = [](QPDF &file) { return file.getTrailer().getKey("/ID").unparse(); };
     EXPECT_EQ(identifier(pdf), identifier(changed)) << "the pages are the same";
     EXPECT_EQ(errorOf([&] { withOutline("%PDF-1.4\n", document); }), 321);

@@ -36,7 +36,7 @@ std::vector<OutlineItem> itemsBelow(int level, const std::vector<Heading> &headi
 Object destination(QPDF &pdf, const Document &document, const Heading &heading) {
     const double y = double(document.pageSettings.PaperHeight - heading.top) / TwipsPerPoint;
     return Object::newArray({pdf.getAllPages().at(std::size_t(heading.page)), Object::newName("/XYZ"),
-                             Object::newNull(), Object::newReal(y, 1), Object::newNull()});
+                             Object::newNull(), Object::newReal(y, 2), Object::newNull()});
 }
 
 Object addEntry(QPDF &pdf, Object &parent) {
