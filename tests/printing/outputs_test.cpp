@@ -5,12 +5,18 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFOutlineDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include "platform/printing/pdf_outline.h"
 #include "platform/printing/pdf_output.h"
 #include "platform/printing/print_output.h"
 #include "platform/printing/rtf_output.h"
 #include "platform/printing/text_grid.h"
 #include "platform/printing/text_output.h"
 #include "tests/printing/test_report.h"
+#include "tests/support/error_of.h"
 #include "tests/support/pdf_tool.h"
 #include "tests/support/rtf_reader.h"
 
@@ -23,6 +29,25 @@ constexpr int RowCount = 70;
 QByteArray contentOf(const QString &path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Each entry as "title at y, count", those below it in brackets.
+QString entriesText(std::vector<QPDFOutlineObjectHelper> entries) {
+    QStringList texts;
+    for (QPDFOutlineObjectHelper &entry : entries) {
+        texts += QStringLiteral("%1 at %2, %3")
+                     .arg(QString::fromStdString(entry.getTitle()))
+                     .arg(entry.getDest().getArrayItem(3).getNumericValue())
+                     .arg(entry.getCount());
+        if (const auto below = entry.getKids(); !below.empty())
+            texts.back() += " (" + entriesText(below) + ")";
+    }
+    return texts.join("; ");
+}
+
+QString outlineText(QPDF &pdf) {
+    return QStringLiteral("%1: ").arg(pdf.getRoot().getKey("/Outlines").getKey("/Count").getIntValue()) +
+           entriesText(QPDFOutlineDocumentHelper(pdf).getTopLevelOutlines());
 }
 
 class Outputs : public ::testing::Test {
@@ -84,6 +109,33 @@ TEST_F(Outputs, PdfTellsTitleAuthorAndOutlineAndIsMadeOfVectors) {
         EXPECT_TRUE(font.contains(QRegularExpression("LiberationSans.*Identity-H +yes")))
             << font.toStdString();
     EXPECT_EQ(pdfTool("pdfimages", {"-list", path("a.pdf")}).count('\n'), 2) << "a picture became pixels";
+}
+
+TEST_F(Outputs, ThePdfOutlineLeadsToTheHeadingsWhateverWroteThePages) {
+    const std::string sections = "(Readings at 655, -1 (Readings of the year at 632.5, 0); "
+                                 "Course of the year at 779.4, 0)";
+    savePdf(document, path("a.pdf"));
+    QPDF pdf;
+    pdf.processFile(path("a.pdf").toUtf8().constData());
+    EXPECT_EQ(outlineText(pdf).toStdString(), "3: Wetterstation Großer Sand at 779.4, 2 " + sections);
+    // Two titles show none of their sections.
+    Document several = document;
+    several.headings.push_back({"Appendix", 1, 2, 8419});
+    several.headings.push_back({"Deep", 3, 2, 16838});
+    QPDFWriter packing(pdf);
+    packing.setObjectStreamMode(qpdf_o_generate);
+    packing.setOutputMemory();
+    packing.write();
+    const auto packed = packing.getBufferSharedPointer();
+    const QByteArray again = withOutline(
+        {reinterpret_cast<const char *>(packed->getBuffer()), qsizetype(packed->getSize())}, several);
+    QPDF changed;
+    changed.processMemoryFile("again", again.constData(), std::size_t(again.size()));
+    EXPECT_EQ(outlineText(changed).toStdString(), "2: Wetterstation Großer Sand at 779.4, -2 " + sections +
+                                                      "; Appendix at 420.95, -1 (Deep at 0, 0)");
+    const auto identifier = [](QPDF &file) { return file.getTrailer().getKey("/ID").unparse(); };
+    EXPECT_EQ(identifier(pdf), identifier(changed)) << "the pages are the same";
+    EXPECT_EQ(errorOf([&] { withOutline("%PDF-1.4\n", document); }), 321);
 }
 
 TEST_F(Outputs, TwoPdfFilesDifferInTheDateOnly) {

@@ -7,8 +7,8 @@
 
 namespace Printing {
 
-/// `pdf`, as QPdfWriter wrote it for the document, with an incremental update behind it: an outline of the
-/// headings that a reader opens with the file, and the author. Raises 321 for a file of another make.
+/// `pdf` with an outline of the document's headings, which a reader opens with the file, with title and
+/// author, and with an identifier that is the same for the same texts. Raises 321 for what is no PDF.
 QByteArray withOutline(const QByteArray &pdf, const Document &document);
 
 } // namespace Printing

@@ -19,7 +19,6 @@ QByteArray pagesAsPdf(const Document &document) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setTitle(document.title);
     writer.setCreator(App::current().title);
     // 96 dots an inch, as on the screen: positions are written as fractions of it.
     writer.setResolution(TwipsPerInch / TwipsPerPixel);
