@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/wait.h>
+
 #include "platform/desktop/desktop_entry.h"
 #include "platform/desktop/drives.h"
 #include "platform/desktop/shell_execute.h"
@@ -16,14 +18,13 @@
 
 namespace {
 
-/// A desktop of its own: what is installed and chosen lies in a temporary folder.
+/// A desktop of its own: what is installed and chosen lies in a temporary folder. GIO looks for the place of
+/// its folders once in a process, and hears of a change in them a moment later.
 class DesktopTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        set("XDG_DATA_HOME", "data");
-        set("XDG_DATA_DIRS", "share");
-        set("XDG_CONFIG_HOME", "config");
-        set("XDG_CONFIG_DIRS", "etc");
+    static void SetUpTestSuite() {
+        for (const auto &[name, folder] : Folders)
+            qputenv(name, QFile::encodeName(path(folder)));
         qputenv("XDG_CURRENT_DESKTOP", "Test");
         write(
             "share/mime/packages/types.xml",
@@ -33,43 +34,53 @@ protected:
             "<mime-type type='text/plain'><glob pattern='*.txt'/></mime-type>"
             "<mime-type type='text/csv'><sub-class-of type='text/plain'/><glob pattern='*.csv'/></mime-type>"
             "</mime-info>");
+        for (const char *folder : ChangedFolders)
+            QDir().mkpath(path(folder));
     }
 
     void TearDown() override {
-        for (const auto &[name, value] : m_before)
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-        qunsetenv("XDG_CURRENT_DESKTOP");
+        for (const char *folder : ChangedFolders)
+            for (const QFileInfo &file : QDir(path(folder)).entryInfoList(QDir::Files))
+                QFile::remove(file.filePath());
     }
 
-    void write(const QString &name, const QString &text) {
-        QDir(m_folder.path()).mkpath(QFileInfo(path(name)).path());
+    static QString path(const QString &name) {
+        static const QTemporaryDir folder;
+        return folder.filePath(name);
+    }
+
+    static void write(const QString &name, const QString &text) {
+        QDir().mkpath(QFileInfo(path(name)).path());
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text.toUtf8());
     }
 
-    void install(const QString &name, const QString &exec, const QString &more = {}) {
+    void install(const QString &name, const QString &exec, const QString &more = {}) const {
         write("share/applications/" + name + ".desktop",
               QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\nExec=%2\n%3\n"
                              "[Desktop Action new]\nName=Other\nExec=nothing\n")
                   .arg(QFileInfo(name).fileName(), exec, more));
     }
 
-    QString path(const QString &name) const { return m_folder.filePath(name); }
-
-    QString applicationFor(const QString &file) const {
+    static QString applicationFor(const QString &file) {
         const auto entry = DesktopEntry::forFile(path(file));
-        return entry ? entry->name : QString();
+        return entry ? entry->name() : QString();
+    }
+
+    /// What opens the file, once that is the expected application; else what it is after all.
+    static QString applicationFor(const QString &file, const QString &expected) {
+        (void)QTest::qWaitFor([&] { return applicationFor(file) == expected; });
+        return applicationFor(file);
     }
 
 private:
-    void set(const char *name, const QString &folder) {
-        m_before.append({name, qgetenv(name)});
-        qputenv(name, QFile::encodeName(path(folder)));
-    }
-
-    QTemporaryDir m_folder;
-    QList<std::pair<const char *, QByteArray>> m_before;
+    static constexpr std::pair<const char *, const char *> Folders[] = {{"XDG_DATA_HOME", "data"},
+                                                                        {"XDG_DATA_DIRS", "share"},
+                                                                        {"XDG_CONFIG_HOME", "config"},
+                                                                        {"XDG_CONFIG_DIRS", "etc"}};
+    static constexpr const char *ChangedFolders[] = {"data/applications", "share/applications",
+                                                     "share/applications/kde", "config", "etc"};
 };
 
 TEST_F(DesktopTest, ThePersonsChoiceComesBeforeTheSystems) {
@@ -81,13 +92,13 @@ TEST_F(DesktopTest, ThePersonsChoiceComesBeforeTheSystems) {
     EXPECT_EQ(applicationFor("a.pdf"), "");
     write("share/applications/mimeinfo.cache",
           "[MIME Cache]\napplication/pdf=gone.desktop;paper.desktop;viewer.desktop;\n");
-    EXPECT_EQ(applicationFor("a.pdf"), "paper") << "what is not installed is passed over";
+    EXPECT_EQ(applicationFor("a.pdf", "paper"), "paper") << "what is not installed is passed over";
     write("config/mimeapps.list", "[Removed Associations]\napplication/pdf=paper.desktop;\n");
-    EXPECT_EQ(applicationFor("a.pdf"), "viewer");
+    EXPECT_EQ(applicationFor("a.pdf", "viewer"), "viewer");
     write("etc/mimeapps.list", "[Default Applications]\napplication/pdf=paper.desktop\n");
-    EXPECT_EQ(applicationFor("a.pdf"), "paper");
+    EXPECT_EQ(applicationFor("a.pdf", "paper"), "paper");
     write("config/test-mimeapps.list", "[Default Applications]\napplication/pdf=kde-reader.desktop;\n");
-    EXPECT_EQ(applicationFor("a.pdf"), "reader");
+    EXPECT_EQ(applicationFor("a.pdf", "reader"), "reader");
 }
 
 TEST_F(DesktopTest, ATypeFallsBackOnWhatItDerivesFrom) {
@@ -97,27 +108,26 @@ TEST_F(DesktopTest, ATypeFallsBackOnWhatItDerivesFrom) {
           "[MIME Cache]\ntext/plain=editor.desktop;\napplication/octet-stream=everything.desktop;\n");
     write("table.csv", "a,b\n");
     write("a.pdf", "%PDF-1.4\n");
-    EXPECT_EQ(applicationFor("table.csv"), "editor");
+    EXPECT_EQ(applicationFor("table.csv", "editor"), "editor");
     EXPECT_EQ(applicationFor("a.pdf"), "") << "an opener of bytes is no opener of documents";
 }
 
-TEST_F(DesktopTest, FieldCodesBecomeArguments) {
-    const struct {
-        const char *exec;
-        bool terminal;
-        QStringList command;
-    } cases[] = {{"view --new %f", false, {"view", "--new", "/a b.pdf"}},
-                 {"view %U", false, {"view", "file:///a%20b.pdf"}},
-                 {"view %i --title=%c 100%%", false, {"view", "--title=View", "100%", "/a b.pdf"}},
-                 {"view -m %m \"\" %F", false, {"view", "-m", "", "/a b.pdf"}},
-                 {"\"/opt/my \\\"view\" %f", false, {"/opt/my \"view", "/a b.pdf"}},
-                 {"view %F", true, {"x-terminal-emulator", "-e", "view", "/a b.pdf"}}};
-    for (const auto &row : cases) {
-        DesktopEntry entry;
-        entry.name = "View";
-        entry.exec = row.exec;
-        entry.terminal = row.terminal;
-        EXPECT_EQ(entry.command("/a b.pdf"), row.command) << row.exec;
+TEST_F(DesktopTest, AProgramGetsTheFilesNameWhole) {
+    write("tell", "#!/bin/sh\nprintf '%s|' \"$@\" >\"$0.new\"\nmv \"$0.new\" \"$0.told\"\n");
+    QFile::setPermissions(path("tell"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QString file = path(QStringLiteral("a b#1 50%20 größer.pdf"));
+    for (const auto &[codes, expected] :
+         {std::pair("--new %f", "--new|" + file + "|"), std::pair("", file + "|")}) {
+        install("teller", path("tell") + " " + codes);
+        (void)QTest::qWaitFor([] { return !DesktopEntry::all().isEmpty(); });
+        const QList<DesktopEntry> applications = DesktopEntry::all();
+        ASSERT_EQ(applications.size(), 1);
+        QFile::remove(path("tell.told"));
+        EXPECT_TRUE(applications[0].open(file));
+        ASSERT_TRUE(QTest::qWaitFor([] { return QFile::exists(path("tell.told")); })) << codes;
+        QFile told(path("tell.told"));
+        ASSERT_TRUE(told.open(QIODevice::ReadOnly));
+        EXPECT_EQ(told.readAll().toStdString(), expected.toStdString());
     }
 }
 
@@ -128,8 +138,17 @@ TEST_F(DesktopTest, OpeningAnswersWithTheClassicCodes) {
     EXPECT_EQ(ShellExecute(path("a.pdf")), ShellNoAssociation);
     install("copier", QStringLiteral("cp %f %1").arg(path("opened.pdf")));
     write("share/applications/mimeinfo.cache", "[MIME Cache]\napplication/pdf=copier.desktop;\n");
+    EXPECT_EQ(applicationFor("a.pdf", "copier"), "copier");
     EXPECT_EQ(ShellExecute(path("a.pdf")), ShellStarted);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(path("opened.pdf")); }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return QFile::exists(path("opened.pdf")); }));
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "nothing that was started waits to be buried";
+    install("console", "/bin/sh %f", "Terminal=true");
+    write("config/mimeapps.list", "[Default Applications]\napplication/pdf=console.desktop;\n");
+    EXPECT_EQ(applicationFor("a.pdf", "console"), "console");
+    const QByteArray programs = qgetenv("PATH");
+    qputenv("PATH", "/nowhere"); // so that there is no terminal
+    EXPECT_EQ(ShellExecute(path("a.pdf")), ShellAccessDenied);
+    programs.isNull() ? qunsetenv("PATH") : qputenv("PATH", programs);
 }
 
 TEST_F(DesktopTest, TheChooserStartsWhatIsPicked) {
@@ -137,6 +156,8 @@ TEST_F(DesktopTest, TheChooserStartsWhatIsPicked) {
     install("zebra", QStringLiteral("cp %f %1").arg(path("by-zebra")));
     install("ant", QStringLiteral("cp %f %1").arg(path("by-ant")));
     install("helper", "sh", "NoDisplay=true");
+    install("stranger", "sh", "OnlyShowIn=Elsewhere;");
+    EXPECT_TRUE(QTest::qWaitFor([] { return DesktopEntry::all().size() == 2; }));
     modal().driveForm([](Form &form) { form.findChild<QPushButton *>("cmdCancel")->click(); });
     ShellOpenAs(path("a.xyz"));
     modal().driveForm([](Form &form) {
@@ -147,7 +168,7 @@ TEST_F(DesktopTest, TheChooserStartsWhatIsPicked) {
         QTest::keyClick(list, Qt::Key_Return);
     });
     ShellOpenAs(path("a.xyz"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(path("by-zebra")); }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return QFile::exists(path("by-zebra")); }));
     EXPECT_FALSE(QFile::exists(path("by-ant")));
 }
 

@@ -27,7 +27,7 @@ ApplicationChooser::ApplicationChooser(const QString &file)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     for (const DesktopEntry &application : m_applications)
-        lstApplications->addItem(application.name);
+        lstApplications->addItem(application.name());
     lstApplications->setCurrentRow(0);
     cmdOpen->setEnabled(!m_applications.isEmpty());
 
@@ -56,5 +56,5 @@ void ApplicationChooser::choose() {
     const QString file = m_file;
     Unload();
     if (!application.open(file))
-        MsgBox(QStringLiteral("'%1' could not be started.").arg(application.name), vbExclamation);
+        MsgBox(QStringLiteral("'%1' could not be started.").arg(application.name()), vbExclamation);
 }
