@@ -72,9 +72,19 @@ TEST(IncludeRules, PlatformPartsStandInOrder) {
 TEST(IncludeRules, ProgramReachesNoLibraryPastThePlatform) {
     for (const QString &part : ProgramParts)
         EXPECT_EQ(matching(linesBelow(part),
-                           "#include [<\"](sqlite3|mdbtools|mdbsql|glib|qcustomplot|QtHelp|QHelp)")
+                           "#include [<\"](sqlite3|mdbtools|mdbsql|glib|gio|qpdf|qcustomplot|QtHelp|QHelp)")
                       .toStdString(),
                   "");
+}
+
+TEST(IncludeRules, ALibraryIsKnownToOnePartOfThePlatform) {
+    const QHash<QString, QString> owners = {
+        {"sqlite3", "dao"}, {"qcustomplot", "forms"}, {"qpdf", "printing"}, {"gio", "desktop"}};
+    for (auto owner = owners.begin(); owner != owners.end(); ++owner)
+        for (const QString part : {"runtime", "dao", "forms", "printing", "desktop"})
+            EXPECT_EQ(!matching(linesBelow("platform/" + part), "#include [<\"]" + owner.key()).isEmpty(),
+                      part == owner.value())
+                << owner.key().toStdString() << " in " << part.toStdString();
 }
 
 TEST(IncludeRules, OnlyTheHelperReachesTheLibraryThatDamagedFilesCanBringDown) {
