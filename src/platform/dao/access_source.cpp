@@ -7,7 +7,6 @@
 #include <QFileInfo>
 
 #include "platform/dao/date_serial.h"
-#include "platform/dao/frame_reader.h"
 #include "platform/dao/mdb_protocol.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/runtime_error.h"
@@ -159,6 +158,14 @@ void AccessSource::readMatching(const QString &table, const QVector<ColumnCondit
     if (!bound) return;
     read(index, *bound, [&](const QVector<QVariant> &row) {
         if (meetsTexts(row, *bound)) sink(row);
+QString AccessSource::whatElse(const QString &name) {
+    const auto found = std::find_if(m_catalog.others.begin(), m_catalog.others.end(),
+                                    [&](const Other &other) { return isSameName(other.name, name); });
+    if (found == m_catalog.others.end()) return {};
+    return found->kind == MdbProtocol::OtherKind::Query ? QStringLiteral("a stored query")
+                                                        : QStringLiteral("a link to another file");
+}
+
     });
 }
 
@@ -199,22 +206,7 @@ AccessSource::Catalog AccessSource::openHelper() {
         const Frame answer = receiveFrame();
         if (answer.kind != Reply::Catalog) raiseDamaged();
         FrameReader frame(answer.content);
-        Catalog catalog;
-        catalog.file = frame.number<FileIdentity>();
-        catalog.tables.resize(frame.number<quint16>());
-        for (Table &table : catalog.tables) {
-            table.name = frame.name();
-            table.rows = frame.number<quint32>();
-            table.fields.resize(frame.number<quint16>());
-            // Its rows would take no bytes, and a frame of them would never end.
-            if (table.fields.isEmpty()) throw MalformedFrame();
-            for (FieldDefinition &field : table.fields) {
-                field.name = frame.name();
-                field.type = fieldType(frame.number<CellType>());
-                field.size = frame.number<quint16>();
-            }
-        }
-        return catalog;
+        return readCatalog(frame);
     } catch (const MalformedFrame &) {
         m_helper.stop();
         raiseDamaged();
@@ -244,3 +236,27 @@ AccessSource::Frame AccessSource::receiveFrame() {
 void AccessSource::raiseDamaged() const {
     throw RuntimeError(3343, "Unrecognized database format '" + m_path + "'.");
 }
+AccessSource::Catalog AccessSource::readCatalog(FrameReader &frame) {
+    Catalog catalog;
+    catalog.file = frame.number<FileIdentity>();
+    catalog.tables.resize(frame.number<quint16>());
+    for (Table &table : catalog.tables) {
+        table.name = frame.name();
+        table.rows = frame.number<quint32>();
+        table.fields.resize(frame.number<quint16>());
+        // Its rows would take no bytes, and a frame of them would never end.
+        if (table.fields.isEmpty()) throw MalformedFrame();
+        for (FieldDefinition &field : table.fields) {
+            field.name = frame.name();
+            field.type = fieldType(frame.number<CellType>());
+            field.size = frame.number<quint16>();
+        }
+    }
+    catalog.others.resize(frame.number<quint16>());
+    for (Other &other : catalog.others) {
+        other.name = frame.name();
+        other.kind = frame.number<MdbProtocol::OtherKind>();
+    }
+    return catalog;
+}
+

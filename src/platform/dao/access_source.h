@@ -4,6 +4,7 @@
 #include "platform/dao/bound_condition.h"
 #include "platform/dao/child_process.h"
 #include "platform/dao/file_identity.h"
+#include "platform/dao/frame_reader.h"
 #include "platform/dao/mdb_protocol.h"
 #include "platform/dao/table_source.h"
 
@@ -27,6 +28,7 @@ public:
     void readAll(const QString &table, const RowSink &sink) override;
     void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                       const RowSink &sink) override;
+    QString whatElse(const QString &name) override;
 
     /// The helper's process, -1 where none runs.
     pid_t helperId() const { return m_helper.id(); }
@@ -44,9 +46,16 @@ private:
         QVector<Table> tables;
 
         bool operator==(const Catalog &other) const = default;
+    struct Other {
+        QString name;
+        MdbProtocol::OtherKind kind = MdbProtocol::OtherKind::Query;
+
+        bool operator==(const Other &other) const = default;
+    };
     };
     struct Frame {
         MdbProtocol::Reply kind = MdbProtocol::Reply::Failure;
+        QVector<Other> others;
         QByteArray content;
     };
 
@@ -59,5 +68,6 @@ private:
 
     QString m_path;
     ChildProcess m_helper;
+    static Catalog readCatalog(FrameReader &frame);
     Catalog m_catalog;
 };
