@@ -1,10 +1,12 @@
 #include "platform/dao/access_source.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <optional>
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include "platform/dao/date_serial.h"
 #include "platform/dao/mdb_protocol.h"
@@ -88,6 +90,13 @@ void readRows(FrameReader &frame, const FieldDefinitions &fields, const RowSink 
     }
 }
 
+/// `systemError` is what the system says against running the program. It finds no file, too, where the
+/// program is there and what it needs is not.
+RuntimeError notRun(const QString &program, int systemError) {
+    const bool isDenied = systemError == EACCES || systemError == EPERM;
+    return RuntimeError::ofFile(isDenied ? 70 : QFileInfo::exists(program) ? 75 : 53, program);
+}
+
 template <typename Number>
 void append(QByteArray &request, Number value) {
     request.append(reinterpret_cast<const char *>(&value), sizeof value);
@@ -116,9 +125,11 @@ QByteArray rowsRequest(qsizetype table, const QVector<BoundCondition> &condition
 
 } // namespace
 
-AccessSource::AccessSource(QString path, const QString &helper, int patience)
+AccessSource::AccessSource(QString path, const QString &helper, WaitsOn waitsOn, int patience)
     : m_path(std::move(path))
-    , m_helper(helper, {QFileInfo(m_path).absoluteFilePath()}, patience) {
+    , m_waitsOn(std::move(waitsOn))
+    , m_helper(helper, {QFileInfo(m_path).absoluteFilePath()}, patience,
+               [this](bool isBusy) { return onSilence(isBusy); }) {
     m_catalog = openHelper();
 }
 
@@ -126,9 +137,11 @@ QString AccessSource::helperProgram() {
     const App &app = App::current();
     const QString name = QStringLiteral("/mdb_reader");
     const QString expected = (app.helperPath.isEmpty() ? app.path : app.helperPath) + name;
-    for (const QString &candidate : {expected, QCoreApplication::applicationDirPath() + name})
+    const QString besideProgram = QCoreApplication::applicationDirPath() + name;
+    for (const QString &candidate : {expected, besideProgram})
         if (QFileInfo(candidate).isExecutable()) return candidate;
-    return expected;
+    // Of two that cannot be run, the one that is there tells more.
+    return QFileInfo::exists(besideProgram) && !QFileInfo::exists(expected) ? besideProgram : expected;
 }
 
 QStringList AccessSource::tableNames() {
@@ -136,6 +149,14 @@ QStringList AccessSource::tableNames() {
     for (const Table &table : m_catalog.tables)
         names << table.name;
     return names;
+}
+
+QString AccessSource::whatElse(const QString &name) {
+    const auto found = std::find_if(m_catalog.others.begin(), m_catalog.others.end(),
+                                    [&](const Other &other) { return isSameName(other.name, name); });
+    if (found == m_catalog.others.end()) return {};
+    return found->kind == MdbProtocol::OtherKind::Query ? QStringLiteral("a stored query")
+                                                        : QStringLiteral("a link to another file");
 }
 
 FieldDefinitions AccessSource::fields(const QString &table) {
@@ -158,14 +179,6 @@ void AccessSource::readMatching(const QString &table, const QVector<ColumnCondit
     if (!bound) return;
     read(index, *bound, [&](const QVector<QVariant> &row) {
         if (meetsTexts(row, *bound)) sink(row);
-QString AccessSource::whatElse(const QString &name) {
-    const auto found = std::find_if(m_catalog.others.begin(), m_catalog.others.end(),
-                                    [&](const Other &other) { return isSameName(other.name, name); });
-    if (found == m_catalog.others.end()) return {};
-    return found->kind == MdbProtocol::OtherKind::Query ? QStringLiteral("a stored query")
-                                                        : QStringLiteral("a link to another file");
-}
-
     });
 }
 
@@ -177,6 +190,9 @@ qsizetype AccessSource::indexOf(const QString &table) const {
 }
 
 void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
+    // Whoever is asked whether to wait on may come back here; the two answers would be mixed up.
+    if (m_isReading) raiseSilent();
+    const QScopedValueRollback<bool> reading(m_isReading, true);
     if (!m_helper.isRunning() && openHelper() != m_catalog) raiseDamaged();
     try {
         if (!m_helper.send(rowsRequest(table, conditions))) raiseDamaged();
@@ -201,7 +217,7 @@ void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditio
 }
 
 AccessSource::Catalog AccessSource::openHelper() {
-    if (!m_helper.start()) throw RuntimeError::ofFile(53, m_helper.program());
+    if (const int failure = m_helper.start()) throw notRun(m_helper.program(), failure);
     try {
         const Frame answer = receiveFrame();
         if (answer.kind != Reply::Catalog) raiseDamaged();
@@ -216,26 +232,6 @@ AccessSource::Catalog AccessSource::openHelper() {
     }
 }
 
-AccessSource::Frame AccessSource::receiveFrame() {
-    quint32 length = 0;
-    Frame frame;
-    if (!m_helper.receive(&length, sizeof length)) raiseDamaged();
-    if (length == 0 || length > MdbProtocol::LongestFrame) throw MalformedFrame();
-    if (!m_helper.receive(&frame.kind, sizeof frame.kind)) raiseDamaged();
-    --length;
-    while (frame.content.size() < qsizetype(length)) {
-        const qsizetype have = frame.content.size();
-        // A length is believed only as far as there are bytes.
-        const qsizetype piece = std::min(PieceOfFrame, qsizetype(length) - have);
-        frame.content.resize(have + piece);
-        if (!m_helper.receive(frame.content.data() + have, static_cast<std::size_t>(piece))) raiseDamaged();
-    }
-    return frame;
-}
-
-void AccessSource::raiseDamaged() const {
-    throw RuntimeError(3343, "Unrecognized database format '" + m_path + "'.");
-}
 AccessSource::Catalog AccessSource::readCatalog(FrameReader &frame) {
     Catalog catalog;
     catalog.file = frame.number<FileIdentity>();
@@ -260,3 +256,33 @@ AccessSource::Catalog AccessSource::readCatalog(FrameReader &frame) {
     return catalog;
 }
 
+AccessSource::Frame AccessSource::receiveFrame() {
+    quint32 length = 0;
+    Frame frame;
+    if (!m_helper.receive(&length, sizeof length)) raiseDamaged();
+    if (length == 0 || length > MdbProtocol::LongestFrame) throw MalformedFrame();
+    if (!m_helper.receive(&frame.kind, sizeof frame.kind)) raiseDamaged();
+    --length;
+    while (frame.content.size() < qsizetype(length)) {
+        const qsizetype have = frame.content.size();
+        // A length is believed only as far as there are bytes.
+        const qsizetype piece = std::min(PieceOfFrame, qsizetype(length) - have);
+        frame.content.resize(have + piece);
+        if (!m_helper.receive(frame.content.data() + have, static_cast<std::size_t>(piece))) raiseDamaged();
+    }
+    return frame;
+}
+
+bool AccessSource::onSilence(bool isBusy) const {
+    if (isBusy) return false; // a damaged file has made it spin
+    if (!m_waitsOn || !m_waitsOn(m_path)) raiseSilent();
+    return true;
+}
+
+void AccessSource::raiseSilent() const {
+    throw RuntimeError(3043, "Disk or network error: the file '" + m_path + "' does not answer.");
+}
+
+void AccessSource::raiseDamaged() const {
+    throw RuntimeError(3343, "Unrecognized database format '" + m_path + "'.");
+}

@@ -10,25 +10,30 @@
 
 /// The file is read by a helper program in a process of its own: a damaged one can crash the library that
 /// knows the format, or make it spin. A helper that has gone between two requests is started again; one that
-/// goes, stays silent or talks nonsense while it answers is a damaged file, 3343. A sink must not call back
-/// into its source.
+/// goes, spins or talks nonsense while it answers is a damaged file, 3343. One that waits for the file itself
+/// is waited for as long as somebody wants it; then comes 3043. A sink must not call back into its source.
 class AccessSource : public TableSource {
 public:
     static constexpr int Patience = 5000; // milliseconds of silence
 
-    /// Opens the file and reads its catalog. Raises 3343, or 53 where the helper program is missing.
-    explicit AccessSource(QString path, const QString &helper = helperProgram(), int patience = Patience);
+    /// Asked each time the file has been silent for the patience; true waits on.
+    using WaitsOn = std::function<bool(const QString &path)>;
+
+    /// Opens the file and reads its catalog. Raises 3343 and 3043; 53 where the helper program is missing, 70
+    /// where it may not be run, 75 where it cannot be.
+    explicit AccessSource(QString path, const QString &helper = helperProgram(), WaitsOn waitsOn = {},
+                          int patience = Patience);
 
     /// `mdb_reader` among the program's helpers, or beside the program.
     static QString helperProgram();
 
     QStringList tableNames() override;
+    QString whatElse(const QString &name) override;
     FieldDefinitions fields(const QString &table) override;
     qint64 rowCount(const QString &table) override;
     void readAll(const QString &table, const RowSink &sink) override;
     void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                       const RowSink &sink) override;
-    QString whatElse(const QString &name) override;
 
     /// The helper's process, -1 where none runs.
     pid_t helperId() const { return m_helper.id(); }
@@ -41,21 +46,21 @@ private:
 
         bool operator==(const Table &other) const = default;
     };
-    struct Catalog {
-        FileIdentity file;
-        QVector<Table> tables;
-
-        bool operator==(const Catalog &other) const = default;
     struct Other {
         QString name;
         MdbProtocol::OtherKind kind = MdbProtocol::OtherKind::Query;
 
         bool operator==(const Other &other) const = default;
     };
+    struct Catalog {
+        FileIdentity file;
+        QVector<Table> tables;
+        QVector<Other> others;
+
+        bool operator==(const Catalog &other) const = default;
     };
     struct Frame {
         MdbProtocol::Reply kind = MdbProtocol::Reply::Failure;
-        QVector<Other> others;
         QByteArray content;
     };
 
@@ -63,11 +68,15 @@ private:
     Catalog openHelper();
     qsizetype indexOf(const QString &table) const;
     void read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink);
+    static Catalog readCatalog(FrameReader &frame);
     Frame receiveFrame();
+    bool onSilence(bool isBusy) const;
     [[noreturn]] void raiseDamaged() const;
+    [[noreturn]] void raiseSilent() const;
 
     QString m_path;
+    WaitsOn m_waitsOn;
     ChildProcess m_helper;
-    static Catalog readCatalog(FrameReader &frame);
     Catalog m_catalog;
+    bool m_isReading = false;
 };
