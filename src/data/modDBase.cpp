@@ -95,6 +95,13 @@ void logError(const RuntimeError &error) {
     writeErrorLog(lines);
 }
 
+/// A file server may only have to wake.
+bool waitsOn(const QString &path) {
+    return MsgBox("The database file does not answer." + LineEnd + LineEnd + path + LineEnd + LineEnd +
+                      "Do you wish to wait on?",
+                  vbYesNo + vbExclamation, "Database Not Answering") == vbYes;
+}
+
 bool isQuestion(int number) {
     return number == FileNotFound || number == PathNotValid || number == WrongFormat;
 }
@@ -116,6 +123,7 @@ bool bDatabaseFailed() {
 bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathFile, bool exclusive,
                bool readOnly, const QString &password, const QString &missingMessage,
                const std::function<void()> &help) {
+    DBEngine::instance().setWaitsOn(waitsOn);
     QString path = PathFile::ReadPathFile(pathFile);
     if (path.isEmpty()) path = App::current().path + '/' + dbName;
     for (;;) {

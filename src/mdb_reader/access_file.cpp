@@ -23,6 +23,7 @@ namespace {
 constexpr std::uint32_t CatalogPage = 2;
 constexpr std::uint32_t PageBits = 0xffffff;
 constexpr std::uint16_t TypeBits = 0x7f;
+constexpr int OdbcLink = 4;
 constexpr std::uint32_t SystemFlags = 0x80000002;
 
 CellType cellType(int storedType) {
@@ -167,17 +168,28 @@ void AccessFile::readCatalog() {
     TableScan scan(*this, catalog);
     for (const std::uint32_t page : scan.pages()) {
         scan.visit(page, [&](const Row &row) {
-            if ((number<std::uint16_t>(row, type) & TypeBits) != MDB_TABLE) return;
+            const int kind = number<std::uint16_t>(row, type) & TypeBits;
+            if (kind != MDB_TABLE && kind != MDB_QUERY && kind != MDB_LINKED_TABLE && kind != OdbcLink)
+                return;
             if ((number<std::uint32_t>(row, flags) & SystemFlags) != 0) return;
             const CellBytes cell = row.bit(name) ? row.cell(name) : CellBytes();
             texts.decode(cell.data, cell.size, text);
-            const std::uint32_t definition = number<std::uint32_t>(row, id) & PageBits;
-            if (std::any_of(m_tables.begin(), m_tables.end(),
-                            [&](const Table &table) { return table.definitionPage == definition; }))
-                throw Damaged("two tables in one place");
-            m_tables.push_back(readTable(utf8(text), definition));
+            addObject(utf8(text), kind, number<std::uint32_t>(row, id));
         });
     }
+}
+
+void AccessFile::addObject(const std::string &name, int type, std::uint32_t id) {
+    if (type != MDB_TABLE) {
+        using MdbProtocol::OtherKind;
+        m_others.push_back({name, type == MDB_QUERY ? OtherKind::Query : OtherKind::Link});
+        return;
+    }
+    const std::uint32_t definition = id & PageBits;
+    if (std::any_of(m_tables.begin(), m_tables.end(),
+                    [&](const Table &table) { return table.definitionPage == definition; }))
+        throw Damaged("two tables in one place");
+    m_tables.push_back(readTable(name, definition));
 }
 
 std::vector<std::uint32_t> AccessFile::pagesOf(const Table &table) const {

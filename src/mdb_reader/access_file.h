@@ -38,6 +38,12 @@ struct Table {
     std::vector<std::uint8_t> usageMap;
 };
 
+/// What the catalog lists by name like a table, and what has no rows in the file.
+struct OtherObject {
+    std::string name; // UTF-8
+    MdbProtocol::OtherKind kind = MdbProtocol::OtherKind::Query;
+};
+
 class AccessFile {
 public:
     /// Reads the catalog, by hand: libmdb passes over what it cannot read, and a table would be missing.
@@ -50,6 +56,7 @@ public:
     MdbHandle *handle() const { return m_handle; }
     bool isJet3() const { return m_jet3; }
     const std::vector<Table> &tables() const { return m_tables; }
+    const std::vector<OtherObject> &others() const { return m_others; }
     const FileIdentity &identity() const { return m_identity; }
     /// Raises Damaged where the file was written to after it was opened.
     void checkUnchanged() const;
@@ -62,10 +69,12 @@ public:
 private:
     Table readTable(const std::string &name, std::uint32_t definitionPage);
     void readCatalog();
+    void addObject(const std::string &name, int type, std::uint32_t id);
 
     MdbHandle *m_handle = nullptr;
     int m_file = -1;
     FileIdentity m_identity;
     bool m_jet3 = false;
     std::vector<Table> m_tables;
+    std::vector<OtherObject> m_others;
 };

@@ -36,6 +36,11 @@ void sendCatalog(const AccessFile &file, Reply &reply) {
             reply.number(static_cast<std::uint16_t>(column.size));
         }
     }
+    reply.number(static_cast<std::uint16_t>(file.others().size()));
+    for (const OtherObject &other : file.others()) {
+        reply.name(other.name);
+        reply.number(other.kind);
+    }
     reply.send(MdbProtocol::Reply::Catalog);
 }
 

@@ -85,7 +85,7 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
             groups.ofPage.push_back(searchPage(page, conditions, reply));
         else if (mayHold(groups.ofPage[i]))
             searchPage(page, conditions, reply);
-        if (i % 64 == 0) reply.stillBusy();
+        reply.stillBusy();
     }
     // A page that another use has taken, or that the map has lost, leaves no other trace than this.
     if (readsAll && m_rows != m_table.rows) throw Damaged("rows that cannot be found");

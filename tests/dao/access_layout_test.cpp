@@ -253,6 +253,31 @@ TEST(AccessLayout, DecimalIsTheDoubleNearestToIt) {
     EXPECT_EQ(errorOf([&] { AccessSource(writeFile(folder, "absurd.mdb", absurd), helperPath()); }), 3343);
 }
 
+TEST(AccessLayout, NameOfAQueryOrALinkIsToldWhereATableOfItIsMissing) {
+    const QVector<JetFile::Object> others = {{"GetInfo", 5}, {"Linked", 6}, {"Remote", 4}, {"Form", 2}};
+    const QTemporaryDir folder;
+    for (const JetFile::Version version : {JetFile::Version::Access97, JetFile::Version::Access2000}) {
+        const QByteArray bytes = JetFile(version).make("T", {{"id", JetFile::Type::Long}}, {{1}}, others);
+        Database database =
+            databaseOver(std::make_unique<AccessSource>(writeFile(folder, "query.mdb", bytes), helperPath()));
+        const auto endOf = [&](const QString &sql) {
+            const std::string text = errorText([&] { database.OpenRecordset(sql); });
+            EXPECT_EQ(text.rfind("3078: The database engine cannot find the input table or query '", 0), 0u);
+            return text.substr(text.rfind("  ") + 2);
+        };
+        const std::string query =
+            "In this file it is a stored query, which cannot be read here: make it a table.";
+        EXPECT_EQ(endOf("select * from getinfo where id = 1"), query);
+        EXPECT_EQ(endOf("GetInfo"), query);
+        for (const char *link : {"Linked", "Remote"})
+            EXPECT_EQ(
+                endOf(link),
+                "In this file it is a link to another file, which cannot be read here: make it a table.");
+        EXPECT_EQ(endOf("Form"), "Make sure it exists and that its name is spelled correctly.");
+        EXPECT_EQ(shownRows(database, "T"), std::vector<std::string>{"1"});
+    }
+}
+
 TEST(AccessLayout, ColumnOfATypeThatIsNotReadHarmsOnlyThoseWhoAskForIt) {
     using Type = JetFile::Type;
     JetFile::Columns columns = {{"id", Type::Long}, {"name", Type::Text}};

@@ -13,6 +13,7 @@
 #include <sys/wait.h>
 
 #include "tests/dao/source_support.h"
+#include "tests/dao/sql_support.h"
 #include "tests/support/csv_table.h"
 
 namespace {
@@ -39,6 +40,12 @@ void expectKeysAgree(AccessSource &source, const QString &table, qsizetype colum
             << table.toStdString() << "." << name.toStdString() << " = " << cellText(asked);
     }
     EXPECT_TRUE(matchingRows(source, table, {{name, QVariant()}}).isEmpty());
+}
+
+QString writeScript(const QTemporaryDir &folder, const QByteArray &script) {
+    const QString path = writeFile(folder, "helper", "#!/bin/sh\n" + script + "\n");
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+    return path;
 }
 
 } // namespace
@@ -117,14 +124,75 @@ TEST(AccessSource, HelperThatHasGoneIsStartedAgain) {
     EXPECT_NE(source.helperId(), first);
 }
 
-TEST(AccessSource, HelperThatStaysSilentIsADamagedFile) {
-    AccessSource source(samplePath("Velmar_PED.mdb"), helperPath(), 200);
-    kill(source.helperId(), SIGSTOP);
+TEST(AccessSource, FileThatDoesNotAnswerIsWaitedForAsLongAsSomebodyWants) {
+    const QString path = samplePath("Velmar_PED.mdb");
+    constexpr int Patience = 200;
+    int patient = 0; // so many times
+    int asked = 0;
+    pid_t helper = -1;
+    const auto waitsOn = [&](const QString &silent) {
+        EXPECT_EQ(silent, path);
+        ++asked;
+        if (--patient == 0) kill(helper, SIGCONT);
+        return patient >= 0;
+    };
+    AccessSource source(path, helperPath(), waitsOn, Patience);
+    helper = source.helperId();
+    kill(helper, SIGSTOP);
+    patient = 3;
+    EXPECT_EQ(allRows(source, "Units").size(), 7);
+    EXPECT_EQ(asked, 3);
+
+    kill(helper, SIGSTOP);
+    patient = 0;
     QElapsedTimer clock;
     clock.start();
-    EXPECT_EQ(errorOf([&] { allRows(source, "Units"); }), 3343);
+    EXPECT_EQ(errorText([&] { allRows(source, "Columns"); }),
+              "3043: Disk or network error: the file '" + path.toStdString() + "' does not answer.");
     EXPECT_LT(clock.elapsed(), 1000);
     EXPECT_EQ(allRows(source, "Units").size(), 7);
+
+    const QTemporaryDir folder;
+    const QString slow = writeScript(folder, "sleep 1; exec " + helperPath().toUtf8() + " \"$@\"");
+    patient = 100;
+    EXPECT_EQ(AccessSource(path, slow, waitsOn, Patience).tableNames().size(), 27);
+    EXPECT_EQ(errorOf([&] { AccessSource(path, slow, {}, Patience); }), 3043);
+}
+
+TEST(AccessSource, QuestionThatReadsTheSameFileGetsNoRows) {
+    AccessSource *asking = nullptr;
+    int inner = 0;
+    AccessSource source(
+        samplePath("Velmar_PED.mdb"), helperPath(),
+        [&](const QString &) {
+            inner = errorOf([&] { allRows(*asking, "Columns"); });
+            kill(asking->helperId(), SIGCONT);
+            return true;
+        },
+        200);
+    asking = &source;
+    kill(source.helperId(), SIGSTOP);
+    EXPECT_EQ(allRows(source, "Units").size(), 7);
+    EXPECT_EQ(inner, 3043);
+}
+
+TEST(AccessSource, HelperThatCannotBeRunIsTold) {
+    const QTemporaryDir folder;
+    const QString path = samplePath("Velmar_PED.mdb");
+    const auto errorWith = [&](const QString &helper) {
+        return errorText([&] { AccessSource(path, helper); });
+    };
+    const QString helper = writeFile(folder, "helper", "no program");
+    const std::string quoted = ": '" + helper.toStdString() + "'";
+    EXPECT_EQ(errorWith(helper), "70: Permission denied" + quoted);
+    QFile::setPermissions(helper, QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_EQ(errorWith(helper), "75: Path/File access error" + quoted);
+    QFile::remove(helper);
+    writeScript(folder, "");
+    EXPECT_EQ(errorWith(writeFile(folder, "helper", "#!/no/such/shell")),
+              "75: Path/File access error" + quoted);
+    QFile::remove(helper);
+    EXPECT_EQ(errorWith(helper), "53: File not found" + quoted);
 }
 
 TEST(AccessSource, SinkThatRaisesLeavesTheSourceUsable) {
@@ -141,11 +209,11 @@ TEST(AccessSource, HelperThatTalksNonsenseIsADamagedFile) {
     const char *const scripts[] = {
         "exit 1",
         "kill -SEGV $$",
-        "exec sleep 30",
+        "while :; do :; done",
         "exec yes",
         "exec cat /dev/zero",
         "printf '\\377\\377\\377\\377\\001'",                     // a frame of 4 GB
-        "printf '\\377\\377\\377\\007\\001'; exec sleep 30",      // one of 128 MB that never comes
+        "printf '\\377\\377\\377\\007\\001'",                     // one of 128 MB that never comes
         "printf '\\003\\0\\0\\0\\001\\001\\0'",                   // a catalog cut off
         "printf '\\003\\0\\0\\0\\001\\377\\377'",                 // 65535 tables, none there
         "printf '\\003\\0\\0\\0\\002\\0\\0'",                     // rows nobody asked for
@@ -153,14 +221,17 @@ TEST(AccessSource, HelperThatTalksNonsenseIsADamagedFile) {
         "printf '\\064\\0\\0\\0\\001'; head -c 40 /dev/zero;"
         "printf '\\001\\0\\001\\0T\\0\\0\\0\\0\\0\\0'; exec sleep 30", // a table without columns
     };
+    const auto unasked = [](const QString &) {
+        ADD_FAILURE() << "asked to wait on";
+        return false;
+    };
     for (const char *script : scripts) {
-        const QString helper = writeFile(folder, "helper", QByteArray("#!/bin/sh\n") + script + "\n");
-        QFile::setPermissions(helper, QFile::ReadOwner | QFile::ExeOwner);
+        const QString helper = writeScript(folder, script);
         QElapsedTimer clock;
         clock.start();
-        EXPECT_EQ(errorOf([&] { AccessSource(samplePath("Velmar_PED.mdb"), helper, 300); }), 3343) << script;
+        EXPECT_EQ(errorOf([&] { AccessSource(samplePath("Velmar_PED.mdb"), helper, unasked, 300); }), 3343)
+            << script;
         EXPECT_LT(clock.elapsed(), 2000) << script;
         QFile::remove(helper);
     }
-    EXPECT_EQ(errorOf([&] { AccessSource(samplePath("Velmar_PED.mdb"), folder.filePath("none")); }), 53);
 }

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <unistd.h>
+
 #include "platform/dao/access_header.h"
 #include "platform/dao/db_engine.h"
 #include "tests/dao/sql_support.h"
@@ -50,6 +52,25 @@ TEST_F(Engine, RefusesWhatIsNoDatabase) {
     for (const QString &path :
          {m_folder.path(), file("text.mdb", "no database"), file("empty.mdb", ""), QString("/dev/null")})
         EXPECT_EQ(error(path), text("3343: Unrecognized database format '%1'.", path));
+}
+
+TEST_F(Engine, FileThatMayNotBeReadIsTold) {
+    const QString hidden = m_folder.filePath("hidden");
+    ASSERT_TRUE(QDir().mkdir(hidden));
+    const QString paths[] = {file("unreadable.mdb", "Standard Jet DB"), hidden + "/in.mdb"};
+    QFile::setPermissions(m_folder.path(),
+                          QFile::ReadOwner | QFile::ReadOther | QFile::ExeOwner | QFile::ExeOther);
+    QFile::setPermissions(paths[0], {});
+    QFile::setPermissions(hidden, {});
+    const bool isRoot = geteuid() == 0; // who may read everything
+    constexpr uid_t Nobody = 65534;
+    const auto become = [&](uid_t user) { return isRoot ? setresuid(user, user, 0) : 0; };
+    ASSERT_EQ(become(Nobody), 0);
+    for (const QString &path : paths)
+        EXPECT_EQ(error(path), "70: Permission denied: '" + path.toStdString() + "'");
+    ASSERT_EQ(become(0), 0);
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(hidden, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 TEST_F(Engine, AsksForThePasswordOnceAndSharesTheRows) {

@@ -317,6 +317,29 @@ TEST_F(Start, ADatabaseHeldByAnotherRunIsLogged) {
     modal().clear();
 }
 
+TEST_F(Start, ADatabaseThatDoesNotAnswerIsWaitedForOrLogged) {
+    copyDatabase(program("Velmar_PED.mdb"));
+    QFile helper(program("mdb_reader"));
+    ASSERT_TRUE(helper.open(QIODevice::WriteOnly));
+    helper.write("#!/bin/sh\nexec sleep 60\n");
+    helper.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    helper.close();
+    modal().answerMsgBox(vbYes);
+    modal().answerMsgBox(vbNo);
+    modal().answerMsgBox(vbOK);
+    start();
+    EXPECT_FALSE(isRunning());
+    ASSERT_EQ(modal().asked().size(), 3);
+    EXPECT_EQ(modal().asked()[1].title, "Database Not Answering");
+    EXPECT_EQ(modal().asked()[1].text, "The database file does not answer.\r\n\r\n" +
+                                           program("Velmar_PED.mdb") + "\r\n\r\nDo you wish to wait on?");
+    const QStringList log = TextFile::readLines(program("ErrorLog.txt"));
+    EXPECT_EQ(log.value(1), "Error No. - 3043");
+    EXPECT_EQ(log.value(5),
+              "Disk or network error: the file '" + program("Velmar_PED.mdb") + "' does not answer.");
+    modal().clear();
+}
+
 TEST_F(Start, ScreensDecideTheSizeOfTheSearchWindow) {
     copyDatabase(program("Velmar_PED.mdb"));
     struct Case {

@@ -1,13 +1,14 @@
 #include "platform/dao/access_source.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <optional>
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include "platform/dao/date_serial.h"
-#include "platform/dao/frame_reader.h"
 #include "platform/dao/mdb_protocol.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/runtime_error.h"
@@ -89,6 +90,13 @@ void readRows(FrameReader &frame, const FieldDefinitions &fields, const RowSink 
     }
 }
 
+/// `systemError` is what the system says against running the program. It finds no file, too, where the
+/// program is there and what it needs is not.
+RuntimeError notRun(const QString &program, int systemError) {
+    const bool isDenied = systemError == EACCES || systemError == EPERM;
+    return RuntimeError::ofFile(isDenied ? 70 : QFileInfo::exists(program) ? 75 : 53, program);
+}
+
 template <typename Number>
 void append(QByteArray &request, Number value) {
     request.append(reinterpret_cast<const char *>(&value), sizeof value);
@@ -117,9 +125,11 @@ QByteArray rowsRequest(qsizetype table, const QVector<BoundCondition> &condition
 
 } // namespace
 
-AccessSource::AccessSource(QString path, const QString &helper, int patience)
+AccessSource::AccessSource(QString path, const QString &helper, WaitsOn waitsOn, int patience)
     : m_path(std::move(path))
-    , m_helper(helper, {QFileInfo(m_path).absoluteFilePath()}, patience) {
+    , m_waitsOn(std::move(waitsOn))
+    , m_helper(helper, {QFileInfo(m_path).absoluteFilePath()}, patience,
+               [this](bool isBusy) { return onSilence(isBusy); }) {
     m_catalog = openHelper();
 }
 
@@ -127,9 +137,11 @@ QString AccessSource::helperProgram() {
     const App &app = App::current();
     const QString name = QStringLiteral("/mdb_reader");
     const QString expected = (app.helperPath.isEmpty() ? app.path : app.helperPath) + name;
-    for (const QString &candidate : {expected, QCoreApplication::applicationDirPath() + name})
+    const QString besideProgram = QCoreApplication::applicationDirPath() + name;
+    for (const QString &candidate : {expected, besideProgram})
         if (QFileInfo(candidate).isExecutable()) return candidate;
-    return expected;
+    // Of two that cannot be run, the one that is there tells more.
+    return QFileInfo::exists(besideProgram) && !QFileInfo::exists(expected) ? besideProgram : expected;
 }
 
 QStringList AccessSource::tableNames() {
@@ -137,6 +149,14 @@ QStringList AccessSource::tableNames() {
     for (const Table &table : m_catalog.tables)
         names << table.name;
     return names;
+}
+
+QString AccessSource::whatElse(const QString &name) {
+    const auto found = std::find_if(m_catalog.others.begin(), m_catalog.others.end(),
+                                    [&](const Other &other) { return isSameName(other.name, name); });
+    if (found == m_catalog.others.end()) return {};
+    return found->kind == MdbProtocol::OtherKind::Query ? QStringLiteral("a stored query")
+                                                        : QStringLiteral("a link to another file");
 }
 
 FieldDefinitions AccessSource::fields(const QString &table) {
@@ -170,6 +190,9 @@ qsizetype AccessSource::indexOf(const QString &table) const {
 }
 
 void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
+    // Whoever is asked whether to wait on may come back here; the two answers would be mixed up.
+    if (m_isReading) raiseSilent();
+    const QScopedValueRollback<bool> reading(m_isReading, true);
     if (!m_helper.isRunning() && openHelper() != m_catalog) raiseDamaged();
     try {
         if (!m_helper.send(rowsRequest(table, conditions))) raiseDamaged();
@@ -194,27 +217,12 @@ void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditio
 }
 
 AccessSource::Catalog AccessSource::openHelper() {
-    if (!m_helper.start()) throw RuntimeError::ofFile(53, m_helper.program());
+    if (const int failure = m_helper.start()) throw notRun(m_helper.program(), failure);
     try {
         const Frame answer = receiveFrame();
         if (answer.kind != Reply::Catalog) raiseDamaged();
         FrameReader frame(answer.content);
-        Catalog catalog;
-        catalog.file = frame.number<FileIdentity>();
-        catalog.tables.resize(frame.number<quint16>());
-        for (Table &table : catalog.tables) {
-            table.name = frame.name();
-            table.rows = frame.number<quint32>();
-            table.fields.resize(frame.number<quint16>());
-            // Its rows would take no bytes, and a frame of them would never end.
-            if (table.fields.isEmpty()) throw MalformedFrame();
-            for (FieldDefinition &field : table.fields) {
-                field.name = frame.name();
-                field.type = fieldType(frame.number<CellType>());
-                field.size = frame.number<quint16>();
-            }
-        }
-        return catalog;
+        return readCatalog(frame);
     } catch (const MalformedFrame &) {
         m_helper.stop();
         raiseDamaged();
@@ -222,6 +230,30 @@ AccessSource::Catalog AccessSource::openHelper() {
         m_helper.stop();
         throw;
     }
+}
+
+AccessSource::Catalog AccessSource::readCatalog(FrameReader &frame) {
+    Catalog catalog;
+    catalog.file = frame.number<FileIdentity>();
+    catalog.tables.resize(frame.number<quint16>());
+    for (Table &table : catalog.tables) {
+        table.name = frame.name();
+        table.rows = frame.number<quint32>();
+        table.fields.resize(frame.number<quint16>());
+        // Its rows would take no bytes, and a frame of them would never end.
+        if (table.fields.isEmpty()) throw MalformedFrame();
+        for (FieldDefinition &field : table.fields) {
+            field.name = frame.name();
+            field.type = fieldType(frame.number<CellType>());
+            field.size = frame.number<quint16>();
+        }
+    }
+    catalog.others.resize(frame.number<quint16>());
+    for (Other &other : catalog.others) {
+        other.name = frame.name();
+        other.kind = frame.number<MdbProtocol::OtherKind>();
+    }
+    return catalog;
 }
 
 AccessSource::Frame AccessSource::receiveFrame() {
@@ -239,6 +271,16 @@ AccessSource::Frame AccessSource::receiveFrame() {
         if (!m_helper.receive(frame.content.data() + have, static_cast<std::size_t>(piece))) raiseDamaged();
     }
     return frame;
+}
+
+bool AccessSource::onSilence(bool isBusy) const {
+    if (isBusy) return false; // a damaged file has made it spin
+    if (!m_waitsOn || !m_waitsOn(m_path)) raiseSilent();
+    return true;
+}
+
+void AccessSource::raiseSilent() const {
+    throw RuntimeError(3043, "Disk or network error: the file '" + m_path + "' does not answer.");
 }
 
 void AccessSource::raiseDamaged() const {

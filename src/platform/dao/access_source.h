@@ -4,24 +4,31 @@
 #include "platform/dao/bound_condition.h"
 #include "platform/dao/child_process.h"
 #include "platform/dao/file_identity.h"
+#include "platform/dao/frame_reader.h"
 #include "platform/dao/mdb_protocol.h"
 #include "platform/dao/table_source.h"
 
 /// The file is read by a helper program in a process of its own: a damaged one can crash the library that
 /// knows the format, or make it spin. A helper that has gone between two requests is started again; one that
-/// goes, stays silent or talks nonsense while it answers is a damaged file, 3343. A sink must not call back
-/// into its source.
+/// goes, spins or talks nonsense while it answers is a damaged file, 3343. One that waits for the file itself
+/// is waited for as long as somebody wants it; then comes 3043. A sink must not call back into its source.
 class AccessSource : public TableSource {
 public:
     static constexpr int Patience = 5000; // milliseconds of silence
 
-    /// Opens the file and reads its catalog. Raises 3343, or 53 where the helper program is missing.
-    explicit AccessSource(QString path, const QString &helper = helperProgram(), int patience = Patience);
+    /// Asked each time the file has been silent for the patience; true waits on.
+    using WaitsOn = std::function<bool(const QString &path)>;
+
+    /// Opens the file and reads its catalog. Raises 3343 and 3043; 53 where the helper program is missing, 70
+    /// where it may not be run, 75 where it cannot be.
+    explicit AccessSource(QString path, const QString &helper = helperProgram(), WaitsOn waitsOn = {},
+                          int patience = Patience);
 
     /// `mdb_reader` among the program's helpers, or beside the program.
     static QString helperProgram();
 
     QStringList tableNames() override;
+    QString whatElse(const QString &name) override;
     FieldDefinitions fields(const QString &table) override;
     qint64 rowCount(const QString &table) override;
     void readAll(const QString &table, const RowSink &sink) override;
@@ -39,9 +46,16 @@ private:
 
         bool operator==(const Table &other) const = default;
     };
+    struct Other {
+        QString name;
+        MdbProtocol::OtherKind kind = MdbProtocol::OtherKind::Query;
+
+        bool operator==(const Other &other) const = default;
+    };
     struct Catalog {
         FileIdentity file;
         QVector<Table> tables;
+        QVector<Other> others;
 
         bool operator==(const Catalog &other) const = default;
     };
@@ -54,10 +68,15 @@ private:
     Catalog openHelper();
     qsizetype indexOf(const QString &table) const;
     void read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink);
+    static Catalog readCatalog(FrameReader &frame);
     Frame receiveFrame();
+    bool onSilence(bool isBusy) const;
     [[noreturn]] void raiseDamaged() const;
+    [[noreturn]] void raiseSilent() const;
 
     QString m_path;
+    WaitsOn m_waitsOn;
     ChildProcess m_helper;
     Catalog m_catalog;
+    bool m_isReading = false;
 };

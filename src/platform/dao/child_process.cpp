@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <vector>
 
 #include <QDeadlineTimer>
@@ -22,6 +23,8 @@ namespace {
 
 constexpr qsizetype BufferSize = 256 * 1024;
 constexpr int FirstInheritedFile = 3;
+// A child that waits for a medium uses next to none of the time that passes, one that spins all it can get.
+constexpr int BusyShare = 20;
 
 /// This program's environment without what would change the way in which the child reads.
 std::vector<char *> childEnvironment() {
@@ -63,20 +66,22 @@ public:
 
 } // namespace
 
-ChildProcess::ChildProcess(QString program, QStringList arguments, int patienceInMilliseconds)
+ChildProcess::ChildProcess(QString program, QStringList arguments, int patienceInMilliseconds,
+                           OnSilence onSilence)
     : m_program(std::move(program))
     , m_arguments(std::move(arguments))
     , m_patience(patienceInMilliseconds)
+    , m_onSilence(std::move(onSilence))
     , m_buffer(BufferSize, Qt::Uninitialized) {}
 
 ChildProcess::~ChildProcess() {
     stop();
 }
 
-bool ChildProcess::start() {
+int ChildProcess::start() {
     stop();
     int ends[2];
-    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return false;
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return errno;
 
     std::vector<QByteArray> words = {QFile::encodeName(m_program)};
     for (const QString &argument : m_arguments)
@@ -93,12 +98,12 @@ bool ChildProcess::start() {
     if (failure != 0) {
         close(ends[0]);
         m_id = -1;
-        return false;
+        return failure;
     }
     m_socket = ends[0];
     fcntl(m_socket, F_SETFL, O_NONBLOCK);
     m_begin = m_end = 0;
-    return true;
+    return 0;
 }
 
 bool ChildProcess::isRunning() {
@@ -162,12 +167,28 @@ bool ChildProcess::receiveSome() {
 }
 
 bool ChildProcess::waitFor(short event) {
+    while (true) {
+        const qint64 before = processorTime();
+        const int ready = waitOnce(event);
+        if (ready >= 0) return ready > 0;
+        if (!m_onSilence((processorTime() - before) * BusyShare > m_patience)) return false;
+    }
+}
+
+int ChildProcess::waitOnce(short event) {
     const QDeadlineTimer deadline(m_patience);
     while (!deadline.hasExpired()) {
         pollfd watched = {m_socket, event, 0};
         const int ready = poll(&watched, 1, static_cast<int>(deadline.remainingTime()));
-        if (ready > 0) return true;
-        if (ready < 0 && errno != EINTR) return false;
+        if (ready > 0) return 1;
+        if (ready < 0 && errno != EINTR) return 0;
     }
-    return false;
+    return -1;
+}
+
+qint64 ChildProcess::processorTime() const {
+    clockid_t clock = 0;
+    timespec used = {};
+    if (clock_getcpuclockid(m_id, &clock) != 0 || clock_gettime(clock, &used) != 0) return 0;
+    return qint64(used.tv_sec) * 1000 + used.tv_nsec / 1000000;
 }

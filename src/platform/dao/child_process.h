@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 #include <QByteArray>
 #include <QString>
@@ -11,16 +12,21 @@
 
 /// Its standard input and output are one end of a socket pair, so that a child that has gone is an error here
 /// and no signal. Whatever the child does, no call waits longer than the patience given for the next byte to
-/// pass, and nothing is raised.
+/// pass, unless `OnSilence` wants it to; nothing is raised but by that one.
 class ChildProcess {
 public:
-    ChildProcess(QString program, QStringList arguments, int patienceInMilliseconds);
+    /// Asked each time the patience has come to its end: true waits on. `isBusy` where the child has used a
+    /// good deal of processor time meanwhile, and so does not wait for anything itself.
+    using OnSilence = std::function<bool(bool isBusy)>;
+
+    ChildProcess(QString program, QStringList arguments, int patienceInMilliseconds, OnSilence onSilence);
     ~ChildProcess();
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
 
-    /// False where the program cannot be run. A child that still runs is ended first.
-    bool start();
+    /// 0, or the system's error number where the program cannot be run. A child that still runs is ended
+    /// first.
+    int start();
     /// False also for a child that has gone by itself.
     bool isRunning();
     /// At once, whatever it is doing.
@@ -28,18 +34,23 @@ public:
     const QString &program() const { return m_program; }
     pid_t id() const { return m_id; }
 
-    /// False where the child has gone, or takes nothing for longer than the patience.
+    /// False where the child has gone, or takes nothing and nobody waits on.
     bool send(const QByteArray &bytes);
-    /// False where the child has gone, or stays silent for longer than the patience.
+    /// False where the child has gone, or stays silent and nobody waits on.
     bool receive(void *to, std::size_t size);
 
 private:
     bool waitFor(short event);
+    /// 0 where poll() fails, 1 for the event, -1 for silence.
+    int waitOnce(short event);
+    /// In milliseconds.
+    qint64 processorTime() const;
     bool receiveSome();
 
     QString m_program;
     QStringList m_arguments;
     int m_patience;
+    OnSilence m_onSilence;
     pid_t m_id = -1;
     int m_socket = -1;
     QByteArray m_buffer;

@@ -1,6 +1,11 @@
 #include "platform/dao/db_engine.h"
 
+#include <cerrno>
+
+#include <QFile>
 #include <QFileInfo>
+
+#include <unistd.h>
 
 #include "platform/dao/access_header.h"
 #include "platform/dao/access_source.h"
@@ -18,13 +23,10 @@ QString passwordOf(const QString &connect) {
     return {};
 }
 
-std::unique_ptr<TableSource> openSource(const QString &path, const QString &password) {
-    if (const std::optional<AccessHeader> header = AccessHeader::read(path)) {
-        if (!header->accepts(password)) throw RuntimeError(3031);
-        return std::make_unique<AccessSource>(path);
-    }
-    if (SqliteSource::isSqliteFile(path)) return std::make_unique<SqliteSource>(path);
-    throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
+/// A folder that may not be searched hides what is in it, and a look at the file would find nothing.
+void checkPermission(const QString &path) {
+    if (access(QFile::encodeName(path).constData(), R_OK) != 0 && errno == EACCES)
+        throw RuntimeError::ofFile(70, path);
 }
 
 } // namespace
@@ -42,6 +44,7 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclu
     // what is open goes on being read, whatever has become of the file of that name
     if (const std::shared_ptr<TableStore> open = path.isEmpty() ? nullptr : m_open.value(fullPath).lock())
         return std::make_shared<Database>(fullPath, open);
+    if (!path.isEmpty()) checkPermission(fullPath);
     if (!path.isEmpty() && !QFileInfo(file.absolutePath()).isDir())
         throw RuntimeError(3044, QString("'%1' is not a valid path.  Make sure that the path name is spelled "
                                          "correctly and that you are connected to the server on which the "
@@ -49,8 +52,7 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclu
                                      .arg(path));
     if (path.isEmpty() || !file.exists())
         throw RuntimeError(3024, QString("Could not find file '%1'.").arg(path));
-    if (!file.isFile() || !file.isReadable())
-        throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
+    if (!file.isFile()) throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
 
     const QString identity = file.canonicalFilePath();
     std::shared_ptr<TableStore> store = m_open.value(identity).lock();
@@ -62,4 +64,14 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclu
     }
     m_open.insert(fullPath, store);
     return std::make_shared<Database>(fullPath, store);
+}
+
+std::unique_ptr<TableSource> DBEngine::openSource(const QString &path, const QString &password) const {
+    if (const std::optional<AccessHeader> header = AccessHeader::read(path)) {
+        if (!header->accepts(password)) throw RuntimeError(3031);
+        const auto waitsOn = [this](const QString &silent) { return m_waitsOn && m_waitsOn(silent); };
+        return std::make_unique<AccessSource>(path, AccessSource::helperProgram(), waitsOn);
+    }
+    if (SqliteSource::isSqliteFile(path)) return std::make_unique<SqliteSource>(path);
+    throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
 }

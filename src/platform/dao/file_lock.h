@@ -4,7 +4,8 @@
 #include <QString>
 
 /// An advisory lock on the file itself: nothing is written beside it, so it works on a medium that cannot be
-/// written. It goes with the process that holds it, however that ends.
+/// written. It goes with the process that holds it, however that ends. On NFS it holds among all computers as
+/// far as the server takes part in it.
 class FileLock {
 public:
     enum class Kind { Shared, Exclusive };

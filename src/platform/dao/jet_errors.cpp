@@ -25,10 +25,14 @@ RuntimeError unknownCriterionName(const QString &name) {
                   .arg(name));
 }
 
-RuntimeError unknownTable(const QString &name) {
-    return RuntimeError(3078, QString("The database engine cannot find the input table or query '%1'.  Make "
-                                      "sure it exists and that its name is spelled correctly.")
-                                  .arg(name));
+RuntimeError unknownTable(const QString &name, const QString &whatElse) {
+    QString description = QString("The database engine cannot find the input table or query '%1'.  Make sure "
+                                  "it exists and that its name is spelled correctly.")
+                              .arg(name);
+    if (!whatElse.isEmpty())
+        description +=
+            QString("  In this file it is %1, which cannot be read here: make it a table.").arg(whatElse);
+    return RuntimeError(3078, description);
 }
 
 RuntimeError unknownFunction(const QString &name) {

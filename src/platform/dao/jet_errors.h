@@ -15,8 +15,8 @@ RuntimeError clauseSyntax(const QString &clause);
 RuntimeError missingParameters(int count);
 /// 3070.
 RuntimeError unknownCriterionName(const QString &name);
-/// 3078.
-RuntimeError unknownTable(const QString &name);
+/// 3078. `whatElse` has the name and is no table: "a stored query", or nothing.
+RuntimeError unknownTable(const QString &name, const QString &whatElse);
 /// 3085.
 RuntimeError unknownFunction(const QString &name);
 /// 3093.

@@ -116,7 +116,7 @@ JetStatement statementOf(const TableStore &store, const QString &text) {
         statement.select.table = name;
         return statement;
     }
-    if (!first.isKeyword("select") && !first.isKeyword("transform")) throw JetErrors::unknownTable(name);
+    if (!first.isKeyword("select") && !first.isKeyword("transform")) throw store.unknownTable(name);
     return JetParser::statement(text);
 }
 

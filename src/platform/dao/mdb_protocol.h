@@ -19,7 +19,8 @@ enum class Request : std::uint8_t {
 enum class Reply : std::uint8_t {
     /// Sent once, unasked, as soon as the file is open. The file's FileIdentity; number of tables (16 bits),
     /// and for each one its name, its rows (32 bits), the number of its columns (16 bits, one at least), and
-    /// for each of these its name, a CellType and its size in characters (16 bits).
+    /// for each of these its name, a CellType and its size in characters (16 bits). Then the number of the
+    /// other things that could be taken for tables (16 bits), and for each one its name and an OtherKind.
     Catalog = 1,
     /// Any number of whole rows. A row is one bit for each column, set where it is Null, in whole bytes from
     /// the lowest bit, and then the other columns' values.
@@ -31,6 +32,8 @@ enum class Reply : std::uint8_t {
     /// What is wrong with the file, as UTF-8. It ends the answer.
     Failure,
 };
+
+enum class OtherKind : std::uint8_t { Query = 1, Link };
 
 enum class ValueKind : std::uint8_t { Integer = 1, Text };
 

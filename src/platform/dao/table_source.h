@@ -34,6 +34,9 @@ public:
     virtual ~TableSource() = default;
 
     virtual QStringList tableNames() = 0;
+    /// What has this name and is no table, in the middle of a sentence; nothing for nothing. Capitals do not
+    /// count.
+    virtual QString whatElse(const QString &) { return {}; }
     /// `table` as tableNames() spells it.
     virtual FieldDefinitions fields(const QString &table) = 0;
     /// Rows that the file says the table has: an estimate, good enough to choose a way of reading.

@@ -23,9 +23,13 @@ bool TableStore::contains(const QString &table) const {
     return m_indexOfName.contains(table.toCaseFolded());
 }
 
+RuntimeError TableStore::unknownTable(const QString &name) const {
+    return JetErrors::unknownTable(name, m_source->whatElse(name));
+}
+
 TableAccess TableStore::access(const JetSelect &select) {
     const int index = m_indexOfName.value(select.table.toCaseFolded(), -1);
-    if (index < 0) throw JetErrors::unknownTable(select.table);
+    if (index < 0) throw unknownTable(select.table);
     StoredTable &stored = m_tables[static_cast<std::size_t>(index)];
     if (!stored.fields) stored.fields = m_source->fields(stored.name);
     const QString name = select.alias.isEmpty() ? stored.name : select.alias;

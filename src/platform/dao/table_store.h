@@ -14,6 +14,7 @@
 #include "platform/dao/jet_table.h"
 #include "platform/dao/key_condition.h"
 #include "platform/dao/table_source.h"
+#include "platform/runtime/runtime_error.h"
 
 class MemoryDatabase;
 
@@ -38,6 +39,8 @@ public:
 
     /// Capitals do not count.
     bool contains(const QString &table) const;
+    /// 3078, with the reason where one is known.
+    RuntimeError unknownTable(const QString &name) const;
 
     /// Raises 3078 for an unknown table.
     TableAccess access(const JetSelect &select);
