@@ -25,6 +25,7 @@ QPlainTextEdit *readOnlyText(QWidget *parent) {
     auto *box = new QPlainTextEdit(parent);
     box->setReadOnly(true);
     box->setTabChangesFocus(true);
+    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // a blank at a line's end would bring it
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setBackColor(box, vbInfoBackground);
     return box;
@@ -217,7 +218,8 @@ void MaterialControls::makeGraph(QWidget *window) {
     for (int i = 0; i < axes.size(); ++i)
         place(lblAxis.add(i, new QLabel(axes[i], framAxisCols), axes[i]), 150, 150 + i * 525, 750, BoxHeight);
     lblXAxis = named(new QLabel(framAxisCols), "lblXAxis", "Column of the X axis");
-    place(lblXAxis, 960, 150, 2505, BoxHeight);
+    lblXAxis->setWordWrap(true); // three lines have room, for as long a name as a column may have
+    place(lblXAxis, 960, 0, 2505, 645);
     cboColumnList = named(new QComboBox(framAxisCols), "cboColumnList", "Column of the Y axis");
     place(cboColumnList, 960, 675, 2505, BoxHeight);
     lblAxis(1)->setBuddy(cboColumnList);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModel>
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QSignalSpy>
@@ -98,12 +99,9 @@ TEST(DesignWindowTest, AreCopiedWithTheCaptionsOfTheirTables) {
     window.ShowTable("Design");
     type(window, "100");
     auto *view = window.tdbDesign->findChild<QTableView *>();
-    view->setCurrentIndex(view->model()->index(1, 1));
-    view->setFocus();
-    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(view, Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    const auto cell = [view](int row, int column) { return view->model()->index(row, column); };
+    view->selectionModel()->select({cell(1, 1), cell(4, 1)}, QItemSelectionModel::ClearAndSelect);
+    view->findChild<QAction *>("CopyWithHeadings")->trigger();
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               "Rp0,2 [MPa]\t(  ) - 16mm\n\t(220)\n\t\nRp1,0 [MPa]\t[MPa]\n\t245,25");
 }

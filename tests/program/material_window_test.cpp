@@ -291,7 +291,7 @@ TEST_F(MaterialWindow, TellsThatThereIsNoData) {
 
 TEST_F(MaterialWindow, TheKeyboardStaysOnTheButtonThatStandsInForTheOther) {
     frmMaterial2 &window = show(P265GH, "Rp02");
-    window.SetFocus();
+    QApplication::setActiveWindow(window.window());
     const auto pressed = [](QPushButton *button) {
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Space);
