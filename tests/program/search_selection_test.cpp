@@ -102,7 +102,7 @@ TEST_F(SearchSelectionTest, AMaterialOfAnUnknownStandardIsRefusedAndGetsNoOther)
         EXPECT_TRUE(selected().isEmpty());
         search().txtSearch(1)->clear();
     }
-    search().txtSearch(1)->clear();
+    type(search().txtSearch(1), "Grade");
     click(search().cmdSelectMat);
     EXPECT_EQ(main().colMaterials.Item(1)->Standard(), "S");
 }
