@@ -22,8 +22,8 @@ bool bDatabaseFailed();
 
 /// Finds the database by the path file in the user's folder, else beside the program, else by asking. Handles
 /// its own errors to the end, with message boxes; True when dbMain is open. `pathFile` and `dbName` are file
-/// names without a folder. `help` shows the help beside the question for the database. From here on a box asks
-/// whether to wait on for a database file that does not answer.
+/// names without a folder. `help` shows the help beside the question for the database. From here on a box
+/// asks whether to wait on for a database file that does not answer.
 bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathFile, bool exclusive,
                bool readOnly, const QString &password, const QString &missingMessage,
                const std::function<void()> &help = {});

@@ -22,8 +22,8 @@ public:
     ///
     /// `connect` is ";Pwd=..." or "Access 2000;". Raises 3024 (no such file), 3044 (no such folder), 3343 (no
     /// database, or a damaged one), 3031 (wrong password), 3356 (held exclusively by another run), 70 (the
-    /// file, or its folder, may not be read), 3043 (the file does not answer), 3045 (changes to an SQLite file
-    /// stand beside it), 3049 (an SQLite file that is cut off).
+    /// file, or its folder, may not be read), 3043 (the file does not answer), 3045 (changes to an SQLite
+    /// file stand beside it), 3049 (an SQLite file that is cut off).
     std::shared_ptr<Database> OpenDatabase(const QString &path, bool exclusive, bool readOnly,
                                            const QString &connect);
 
