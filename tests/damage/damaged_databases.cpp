@@ -29,6 +29,7 @@ namespace {
 
 constexpr int WrongPassword = 3031;
 constexpr int NoSuchColumn = 3061;
+constexpr int UnreadColumn = 3259;
 constexpr int NoSuchTable = 3078;
 constexpr int WrongFormat = 3343;
 
@@ -257,7 +258,8 @@ private:
         for (const Reading &reading : table.readings) {
             Rows rows;
             const int error = step(damage, table.name, [&] { rows = rowsOf(database, reading.statement); });
-            const bool allowed = error == WrongFormat || error == NoSuchTable || error == NoSuchColumn;
+            const bool allowed = error == WrongFormat || error == NoSuchTable || error == NoSuchColumn ||
+                                 error == UnreadColumn;
             if (error != 0 && !allowed) fault(damage, table.name, errorText(error));
             isRefused = isRefused || error != 0;
             if (error != 0) continue;
