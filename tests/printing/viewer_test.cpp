@@ -24,6 +24,7 @@
 #include "tests/printing/test_report.h"
 #include "tests/support/gui.h"
 #include "tests/support/pdf_tool.h"
+#include "tests/support/qt_warnings.h"
 
 using namespace Printing;
 
@@ -218,6 +219,7 @@ TEST(PrintDialog, NamesTheFileInFull) {
 
 TEST_F(ViewerTest, TellsThatThePrinterFailed) {
     QTemporaryDir folder;
+    const ExpectedQtWarnings ofTheDevice{"QIODevice::seek", "QPainter::begin(): Returned false"};
     for (const QString &file : {folder.filePath("missing/a.pdf"), QStringLiteral("/dev/full")}) {
         viewer.setPrinterChooser([&](QPrinter &printer) {
             printer.setOutputFormat(QPrinter::PdfFormat);

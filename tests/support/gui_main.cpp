@@ -13,6 +13,7 @@
 #include "platform/forms/forms.h"
 #include "platform/forms/mdi_form.h"
 #include "tests/support/gui.h"
+#include "tests/support/qt_warnings.h"
 
 namespace {
 
@@ -50,6 +51,7 @@ void deleteUnloaded() {
 int main(int argc, char **argv) {
     ::testing::InitGoogleTest(&argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    onQtWarning([](const QString &message) { ADD_FAILURE() << "Qt warns: " << qPrintable(message); });
     Application application(argc, argv);
     seam.emplace();
     seam->setUnexpectedHandler(

@@ -70,6 +70,7 @@ private:
 
     int m_log;
     ModalSeam *m_seam = nullptr;
+    bool m_hasWarned = false;
 };
 
 class ProgramRun {

@@ -40,7 +40,7 @@ Application *Application::instance() {
 }
 
 bool Application::notify(QObject *receiver, QEvent *event) {
-    bool handled = false;
+    bool handled = true; // as an event is that an error has ended
     guarded([&] { handled = QApplication::notify(receiver, event); });
     return handled;
 }

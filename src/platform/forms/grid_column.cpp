@@ -1,5 +1,6 @@
 #include "platform/forms/grid_column.h"
 
+#include <QFileInfo>
 #include <QSvgRenderer>
 
 GridColumn::GridColumn(std::function<void(const GridColumn &)> changed)
@@ -43,7 +44,7 @@ void GridColumn::setWordWrap(bool wrap) {
 void GridColumn::setHeadPicture(const QString &svgFile) {
     if (m_headPicture == svgFile) return;
     m_headPicture = svgFile;
-    m_picture = svgFile.isEmpty() ? nullptr : std::make_shared<QSvgRenderer>(svgFile);
+    m_picture = QFileInfo::exists(svgFile) ? std::make_shared<QSvgRenderer>(svgFile) : nullptr;
     m_changed(*this);
 }
 
