@@ -148,6 +148,19 @@ TEST_F(Commands, BackToTheSearchKeepsTheSelection) {
     EXPECT_EQ(Forms::Count(), 2);
     EXPECT_EQ(Forms::byName("frmSearch")->Top(), 45); // 50 on whole pixels
     EXPECT_EQ(main().colMaterials.Count(), 2);
+    main().menu.mnuFileElem(0).trigger();
+    main().menu.mnuFileElem(0).trigger(); // by the menu
+    EXPECT_TRUE(main().stbStatus->PanelText(1).startsWith("You can search"));
+}
+
+TEST_F(Commands, ASeparatorHasNoText) {
+    int separators = 0;
+    for (const QAction *action : main().findChildren<QAction *>()) {
+        if (!action->isSeparator()) continue;
+        ++separators;
+        EXPECT_EQ(action->text(), "") << action->objectName().toStdString();
+    }
+    EXPECT_GE(separators, 5);
 }
 
 TEST_F(Commands, BackColoursGoRoundInTheirCycle) {
