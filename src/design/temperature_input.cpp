@@ -64,7 +64,9 @@ void TemperatureInput::textReplaced() {
     // sign of a number at all, the point stays: it is the one that converts.
     const RegionalSettings &settings = RegionalSettings::current();
     if (settings.decimalSign == Comma || settings.groupSign == Comma) text.replace(Point, Comma);
-    if (!text.contains(Comma)) forgetDecimals();
+    const qsizetype sign = std::max(text.lastIndexOf(Comma), text.lastIndexOf(Point));
+    bDecimalTyped = sign >= 0;
+    iDecimalDigits = bDecimalTyped ? static_cast<int>(text.size() - sign - 1) : 0;
 }
 
 // The flags start anew for every key, also where a decimal sign stays behind outside the selection: meant so.

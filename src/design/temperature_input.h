@@ -13,7 +13,8 @@ public:
     /// From 0; with a selection, where it begins.
     int caret = 0;
     int selectionLength = 0;
-    /// The flags follow the keys, not the text: a text written by code leaves them as they are.
+    /// The flags follow the keys and the clipboard, not the text: a text written by code leaves them as they
+    /// are.
     bool bDecimalTyped = false;
     int iDecimalDigits = 0;
 
@@ -30,7 +31,8 @@ public:
     void backspaceDown();
     /// The whole of the Delete key, which types nothing.
     void deleteDown();
-    /// To be called when `text` was pasted or cut: gives it the one decimal sign and no blanks around it.
+    /// To be called when `text` was pasted or cut: gives it the one decimal sign and no blanks around it, and
+    /// takes the flags from it.
     void textReplaced();
 
 private:

@@ -184,10 +184,35 @@ TEST(TemperatureBoxTest, APasteIsFreeAndLeadsTheOthers) {
     EXPECT_EQ(typed.box.text(), QStringLiteral("37,5"));
 }
 
+TEST(TemperatureBoxTest, AfterAPasteOrACutTheKeysGoByTheText) {
+    const struct {
+        const char *pasted, *keys, *text;
+    } cases[] = {
+        {"12,5", ",", "12,5"}, // a second decimal sign
+        {"12,5", "6", "12,5"}, // a second decimal digit
+        {"12,5", "b6", "12,6"},     {"12,", "56", "12,5"},
+        {"12,55", "bb,", "12,"}, // the sign is still there
+        {"12,55", "bbb,7", "12,7"}, {"125", ",7", "125,7"},
+        {"1.5", ".", "1,5"},
+    };
+    for (const auto &item : cases) {
+        TypedBox typed;
+        typed.paste(item.pasted);
+        typed.type(item.keys);
+        EXPECT_EQ(typed.box.text().toStdString(), item.text) << item.pasted << ' ' << item.keys;
+    }
+    TypedBox typed;
+    typed.type("12,5(");
+    QTest::keyClick(&typed.box, Qt::Key_X, Qt::ControlModifier);
+    typed.type("7,");
+    EXPECT_EQ(typed.box.text(), QStringLiteral("12,7"));
+}
+
 TEST(TemperatureBoxTest, APastedPointStaysWhereOnlyItConverts) {
     const PinnedSettings settings(u'.', u'\'');
     TypedBox typed;
     typed.paste(QStringLiteral("212.5"));
+    typed.type(",6");
     EXPECT_EQ(typed.box.text(), QStringLiteral("212.5"));
 }
 
