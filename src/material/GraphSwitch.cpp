@@ -10,8 +10,13 @@ GraphSwitch::GraphSwitch(MaterialControls &controls)
 
 void GraphSwitch::Choose(bool graph) {
     bGraphShown = graph;
+    const QPushButton *pressed = graph ? m_controls.CommandShowGraph : m_controls.CommandShowTable;
+    QPushButton *counterpart = graph ? m_controls.CommandShowTable : m_controls.CommandShowGraph;
+    // A control that is hidden gives the focus away, to whatever comes next.
+    const bool hadFocus = pressed->window()->focusWidget() == pressed;
     ShowChartFrames(graph);
     SetShowButtons(!graph);
+    if (hadFocus) counterpart->setFocus();
 }
 
 void GraphSwitch::ShowBoundPage(bool hasGraph) {
@@ -46,11 +51,15 @@ void GraphSwitch::ShowChartFrames(bool graph) {
 }
 
 void GraphSwitch::ShowUnboundGraph(bool graph) {
+    const QPushButton *pressed = graph ? m_controls.cmdUnBoundGraph : m_controls.cmdUnBoundTable;
+    QPushButton *counterpart = graph ? m_controls.cmdUnBoundTable : m_controls.cmdUnBoundGraph;
+    const bool hadFocus = pressed->window()->focusWidget() == pressed;
     for (QWidget *part : QList<QWidget *>{m_controls.framBlank, m_controls.framChart, m_controls.framAxisCols,
                                           m_controls.ImgPic(2)})
         part->setVisible(graph);
     m_controls.framNotes->setVisible(!graph);
     m_controls.tdbTable->setVisible(!graph);
+    if (hadFocus) counterpart->setFocus();
 }
 
 void GraphSwitch::ResetBlank() {
