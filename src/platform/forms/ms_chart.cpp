@@ -104,8 +104,11 @@ void MSChart::changed() {
         for (const ChartSeries &series : content().series)
             curves.append(series.label.simplified());
     }
-    const QString axes =
-        tr("%1 over %2").arg(m_content.axisTitle[1].simplified(), m_content.axisTitle[0].simplified());
+    // Curves that are bands of one property have it in the title alone.
+    const QString over = m_content.axisTitle[0].simplified();
+    const QString up = m_content.axisTitle[1].simplified();
+    const QString what = up.isEmpty() ? title : up;
+    const QString axes = what.isEmpty() || over.isEmpty() ? what + over : tr("%1 over %2").arg(what, over);
     setAccessibleDescription(curves.isEmpty() ? axes : tr("%1. Curves: %2").arg(axes, curves.join(", ")));
     update();
 }
