@@ -75,6 +75,11 @@ void frmSelData::Form_Load() {
 
 /// The window goes through its tables, which the user need not watch.
 void frmSelData::checkTables() {
+/// By its close box; the other ways out hand the status line back themselves.
+void frmSelData::Form_QueryUnload(bool &, UnloadMode mode) {
+    if (mode == vbFormControlMenu) mdiVelmar::instance().ShowStatus(100);
+}
+
     mdiVelmar &main = mdiVelmar::instance();
     Form &window = *m_material->MyForm();
     main.setMousePointer(vbHourglass);

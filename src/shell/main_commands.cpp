@@ -144,6 +144,7 @@ void MainCommands::backToSearch() {
     menu.mnuFileElem(2).setEnabled(false);
     menu.mnuFileElem(3).setEnabled(false);
 }
+    m_window.ShowStatus(0);
 
 void MainCommands::leaveProgram() {
     for (FormBase &form : Forms())
