@@ -9,7 +9,9 @@
 #include "platform/forms/colours.h"
 #include "platform/forms/ms_chart.h"
 #include "platform/runtime/runtime_error.h"
+#include "platform/forms/screen.h"
 #include "reports/report_commands.h"
+#include "platform/runtime/twips.h"
 #include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
 
@@ -72,6 +74,8 @@ void frmChart::Form_Load() {
     strCurrentTable = material.property("strCurrentTable").toString();
 
     cmdGraph(2)->setFocus(); // the way back is the first in the tab order
+    const QSize beside(toPixels(5 * Margin + ButtonSize), toPixels(4 * Margin));
+    setMinimumSize((MSChart1->smallestSize() + beside).boundedTo(Screen::freeArea(*this).size()));
 }
 
 /// Into a file the graph goes as a PDF, whatever the button's tip says.

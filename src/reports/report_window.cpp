@@ -3,7 +3,6 @@
 #include <QPointer>
 
 #include "platform/forms/msg_box.h"
-#include "platform/forms/screen.h"
 #include "platform/printing/report.h"
 #include "platform/printing/viewer.h"
 #include "platform/runtime/runtime_error.h"
@@ -15,8 +14,6 @@ namespace {
 // A page can be read as a whole in its width.
 constexpr int WishedWidth = 15000;
 constexpr int WishedHeight = 13800;
-/// What a desktop keeps for itself, frame included.
-constexpr int DesktopShare = 1200;
 
 constexpr int CancelSelected = 32755;
 
@@ -34,8 +31,7 @@ ReportWindow::ReportWindow(Printing::Report &report, const QString &name)
     , m_viewer(new Printing::Viewer(report.document(), this)) {
     setCaption(report.Caption);
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
-    setScaleSize(std::min(WishedWidth, Screen::Width() - DesktopShare),
-                 std::min(WishedHeight, Screen::Height() - DesktopShare));
+    setScaleSize(WishedWidth, WishedHeight);
     m_viewer->setWindowFlags(Qt::Widget);
     m_viewer->setSaveHandler([this] { save(); });
     connect(m_viewer, &QDialog::finished, this, [this] { Unload(); });

@@ -79,8 +79,9 @@ mdiVelmar::~mdiVelmar() = default;
 
 void mdiVelmar::buildControls() {
     setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
-    setWidth(qMin(RoomyWidth, Screen::Width()));
-    setHeight(qMin(RoomyHeight, Screen::Height()));
+    setWidth(RoomyWidth);
+    setHeight(RoomyHeight);
+    Screen::fit(*this);
     Toolbar1 = new Toolbar("Toolbar1", this);
     addToolBar(Toolbar1);
     MainToolbar::addButtons(*Toolbar1);

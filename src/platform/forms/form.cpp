@@ -17,6 +17,7 @@
 #include "platform/forms/platform_style.h"
 #include "platform/forms/pointer_pause.h"
 #include "platform/runtime/runtime_error.h"
+#include "platform/forms/screen.h"
 
 Form::Form(const QString &name, Kind kind)
     : m_kind(kind) {
@@ -172,6 +173,8 @@ void Form::standAbove(QWidget *owner) {
 }
 
 void Form::endModal() {
+    m_fitted = false;
+    Screen::fit(*this);
     if (m_modalLoop == nullptr) return;
     m_modalLoop->quit();
     m_modalLoop = nullptr;
@@ -229,6 +232,9 @@ void Form::keyPressEvent(QKeyEvent *event) {
 
 bool Form::event(QEvent *event) {
     const bool handled = QWidget::event(event);
-    if (event->type() == QEvent::WindowActivate && !isMdiChild()) becomeActive();
+    if (event->type() == QEvent::WindowActivate && !isMdiChild()) {
+        activatedByDesktop();
+        becomeActive();
+    }
     return handled;
 }

@@ -218,3 +218,4 @@ bool MDIForm::childKey(const QKeyEvent &event) {
         return false;
     }
 }
+        activatedByDesktop();

@@ -95,6 +95,10 @@ ChartPicture MSChart::picture(QSize size) const {
     return drawChart(content(), size, ChartMedium::Paper);
 }
 
+QSize MSChart::smallestSize() const {
+    return smallestChart(content());
+}
+
 void MSChart::changed() {
     m_screen = {};
     const QString title = m_content.title.simplified();
