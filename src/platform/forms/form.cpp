@@ -83,6 +83,11 @@ void Form::setIcon(const QIcon &icon) {
 }
 
 void Form::setDefaultButton(QAbstractButton *button) {
+void Form::bringUp() {
+    if (WindowState() == vbMinimized) setWindowState(vbNormal);
+    SetFocus();
+}
+
     m_defaultButton = button;
 }
 

@@ -31,6 +31,9 @@ public:
     void ShowModal(QWidget *owner = nullptr);
 
     /// Whether the user can change its size; sizable at first.
+    /// SetFocus, and out of the minimised state.
+    void bringUp();
+
     void setSizable(bool sizable);
     void setMinMaxButtons(bool minimise, bool maximise);
     /// A window without a frame, as a start window is.
