@@ -2,6 +2,7 @@
 
 #include <QPointer>
 
+#include "platform/forms/help_context.h"
 #include "platform/forms/msg_box.h"
 #include "platform/printing/report.h"
 #include "platform/printing/viewer.h"
@@ -30,6 +31,7 @@ ReportWindow::ReportWindow(Printing::Report &report, const QString &name)
     , m_report(report)
     , m_viewer(new Printing::Viewer(report.document(), this)) {
     setCaption(report.Caption);
+    HelpContext::set(*this, "Reports.htm");
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     setScaleSize(WishedWidth, WishedHeight);
     m_viewer->setWindowFlags(Qt::Widget);

@@ -7,6 +7,7 @@
 #include "platform/forms/default_instance.h"
 #include "platform/forms/form.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/help_context.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/placement.h"
 #include "platform/forms/screen.h"
@@ -18,6 +19,7 @@
 #include "platform/runtime/runtime_error.h"
 #include "search/frmSearch.h"
 #include "shell/grid_colours.h"
+#include "shell/HTMLHelp.h"
 #include "shell/main_commands.h"
 #include "shell/main_settings.h"
 #include "shell/main_toolbar.h"
@@ -110,6 +112,12 @@ void mdiVelmar::connectCommands() {
             [commands](ButtonMenu *entry) { commands->toolbarMenu(*entry); });
     connect(stbStatus, &StatusBar::PanelDblClick, commands, [commands] { commands->settings(1); });
     connect(this, &MDIForm::DblClick, commands, [commands] { commands->settings(4); });
+    HelpContext::setViewer([](const QString &topic) {
+        if (topic.isEmpty())
+            HTMLHelp::ShowHelpContents(1);
+        else
+            HTMLHelp::ShowHelpTopic(1, topic);
+    });
 }
 
 void mdiVelmar::Form_Load() {

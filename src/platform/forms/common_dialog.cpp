@@ -1,12 +1,13 @@
 #include "platform/forms/common_dialog.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "platform/forms/help_context.h"
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/modality.h"
 #include "platform/forms/pointer_pause.h"
 #include "platform/runtime/runtime_error.h"
 
@@ -60,8 +61,10 @@ void CommonDialog::show(bool save) {
 
 QString CommonDialog::ask(bool save) const {
     const QString folder = localPath(InitDir);
-    QFileDialog dialog(QApplication::activeWindow(), DialogTitle, folder);
+    QFileDialog dialog(Modality::front(), DialogTitle, folder);
     dialog.setObjectName(QStringLiteral("CommonDialog"));
+    if (!Topic.isEmpty()) HelpContext::set(dialog, Topic);
+    Modality::narrow(dialog); // now, for where the desktop shows a dialog of its own instead
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (!Filter.isEmpty()) dialog.setNameFilters(nameFilters(Filter));

@@ -17,6 +17,8 @@ public:
     QString Filter;
     /// Put behind a chosen name that has no extension.
     QString DefaultExt;
+    /// Of the help; see HelpContext.
+    QString Topic;
     /// Cancel raises 32755; otherwise it leaves FileName as it was.
     bool CancelError = false;
 

@@ -26,14 +26,15 @@ public:
 
     bool isMdiChild() const { return m_kind == Kind::MdiChild; }
 
-    /// Shows a form of its own above `owner` (without one, above the active form) and returns when it is
-    /// hidden or unloaded; every other window is disabled meanwhile. Raises 400 when it already shows.
+    /// Shows a form of its own above `owner` (without one, above the form in front) and returns when it is
+    /// hidden or unloaded; the other forms are disabled meanwhile. It is moved and made smaller where it
+    /// would not fit on the screen. Raises 400 when it already shows.
     void ShowModal(QWidget *owner = nullptr);
 
-    /// Whether the user can change its size; sizable at first.
     /// SetFocus, and out of the minimised state.
     void bringUp();
 
+    /// Whether the user can change its size; sizable at first.
     void setSizable(bool sizable);
     void setMinMaxButtons(bool minimise, bool maximise);
     /// A window without a frame, as a start window is.
