@@ -7,8 +7,11 @@
 #include "design/chart_copy.h"
 #include "platform/forms/call_by_name.h"
 #include "platform/forms/colours.h"
+#include "platform/forms/help_context.h"
 #include "platform/forms/ms_chart.h"
+#include "platform/forms/screen.h"
 #include "platform/runtime/runtime_error.h"
+#include "platform/runtime/twips.h"
 #include "reports/report_commands.h"
 #include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
@@ -31,6 +34,7 @@ frmChart::frmChart()
     , framChart(named(new QFrame(this), "framChart", "Graph"))
     , MSChart1(named(new MSChart(framChart), "MSChart1")) {
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
+    HelpContext::set(*this, "Graphs.htm");
     setWidth(DesignedWidth);
     setHeight(DesignedHeight);
     setMinMaxButtons(false, true);
@@ -70,6 +74,8 @@ void frmChart::Form_Load() {
     MSChart1->setUniformAxis(source->UniformAxis());
     setCaption(material.Caption());
     strCurrentTable = material.property("strCurrentTable").toString();
+    const QSize beside(toPixels(5 * Margin + ButtonSize), toPixels(4 * Margin));
+    setMinimumSize((MSChart1->smallestSize() + beside).boundedTo(Screen::freeArea(*this).size()));
 
     cmdGraph(2)->setFocus(); // the way back is the first in the tab order
 }

@@ -9,6 +9,7 @@
 #include "material/menu_place.h"
 #include "platform/dao/database.h"
 #include "platform/forms/default_instance.h"
+#include "platform/forms/help_context.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/frmSave.h"
 #include "reports/report_commands.h"
@@ -53,6 +54,7 @@ frmMaterial2::frmMaterial2()
     , m_design(*this, *this, m_sourceArrays, m_unboundTables.columns.creep,
                [this](const QString &key) { ShowTable(key); }) {
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
+    HelpContext::set(*this, "Material_Window.htm");
     setWidth(WindowWidth);
     setHeight(WindowHeight);
     connectControls();

@@ -10,6 +10,7 @@
 #include "platform/dao/recordset.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/data_control.h"
+#include "platform/forms/help_context.h"
 #include "platform/forms/placement.h"
 #include "platform/forms/tdb_grid.h"
 #include "platform/runtime/app.h"
@@ -61,6 +62,7 @@ frmPmaIndex::frmPmaIndex()
     , fraInfo(named(new QGroupBox("PMA - DRAFTED BY HARMOTEK", this), "fraInfo", "PMA - DRAFTED BY HARMOTEK"))
     , lblInfo(named(new QLabel(InfoText, fraInfo), "lblInfo")) {
     setCaption("PMA Index");
+    HelpContext::set(*this, "PMA.htm");
     dtaPmaIndex->setObjectName("dtaPmaIndex");
     lblInfo->setWordWrap(true);
     lblInfo->setAlignment(Qt::AlignLeft | Qt::AlignTop);

@@ -4,6 +4,7 @@
 
 #include "data/Material.h"
 #include "platform/forms/call_by_name.h"
+#include "platform/forms/help_context.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/report_commands.h"
 #include "shell/mdiVelmar.h"
@@ -12,6 +13,7 @@ frmSave::frmSave()
     : Form("frmSave")
     , FormatChoice(this) {
     setCaption("Save Graph / Design Values...");
+    HelpContext::set(*this, "Reports.htm");
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     setSizable(false);
     setMinMaxButtons(false, false);

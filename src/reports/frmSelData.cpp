@@ -6,6 +6,7 @@
 
 #include "data/Material.h"
 #include "platform/forms/call_by_name.h"
+#include "platform/forms/help_context.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/report_commands.h"
 #include "shell/mdiVelmar.h"
@@ -43,6 +44,7 @@ frmSelData::frmSelData()
     , cmdSavePrint(named(new QPushButton(this), "cmdSavePrint", "Save or print the report"))
     , cmdCancel(named(new QPushButton("Cancel", this), "cmdCancel", "Cancel")) {
     setCaption("Select Data...");
+    HelpContext::set(*this, "Reports.htm");
     setSizable(false);
     setMinMaxButtons(false, false);
     setScaleSize(RightPart + 3240, 5400);
@@ -71,6 +73,11 @@ void frmSelData::Form_Load() {
     checkTables();
     placeBoxes();
     setTabOrders();
+}
+
+/// By its close box; the other ways out hand the status line back themselves.
+void frmSelData::Form_QueryUnload(bool &, UnloadMode mode) {
+    if (mode == vbFormControlMenu) mdiVelmar::instance().ShowStatus(100);
 }
 
 /// The window goes through its tables, which the user need not watch.

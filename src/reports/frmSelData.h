@@ -25,6 +25,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_QueryUnload(bool &cancel, UnloadMode mode) override;
 
 private:
     void checkTables();

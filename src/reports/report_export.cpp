@@ -31,6 +31,7 @@ void saveAsking(const Printing::Document &document, int format, const QString &n
     dialog.Filter = chosen.filter;
     dialog.DefaultExt = chosen.extension;
     dialog.CancelError = true;
+    dialog.Topic = "Reports.htm";
     dialog.ShowSave();
     MsgBox(dialog.FileName);
     if (dialog.FileName.isEmpty()) return;

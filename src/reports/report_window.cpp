@@ -2,8 +2,8 @@
 
 #include <QPointer>
 
+#include "platform/forms/help_context.h"
 #include "platform/forms/msg_box.h"
-#include "platform/forms/screen.h"
 #include "platform/printing/report.h"
 #include "platform/printing/viewer.h"
 #include "platform/runtime/runtime_error.h"
@@ -15,8 +15,6 @@ namespace {
 // A page can be read as a whole in its width.
 constexpr int WishedWidth = 15000;
 constexpr int WishedHeight = 13800;
-/// What a desktop keeps for itself, frame included.
-constexpr int DesktopShare = 1200;
 
 constexpr int CancelSelected = 32755;
 
@@ -33,9 +31,9 @@ ReportWindow::ReportWindow(Printing::Report &report, const QString &name)
     , m_report(report)
     , m_viewer(new Printing::Viewer(report.document(), this)) {
     setCaption(report.Caption);
+    HelpContext::set(*this, "Reports.htm");
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
-    setScaleSize(std::min(WishedWidth, Screen::Width() - DesktopShare),
-                 std::min(WishedHeight, Screen::Height() - DesktopShare));
+    setScaleSize(WishedWidth, WishedHeight);
     m_viewer->setWindowFlags(Qt::Widget);
     m_viewer->setSaveHandler([this] { save(); });
     connect(m_viewer, &QDialog::finished, this, [this] { Unload(); });

@@ -3,6 +3,7 @@
 #include "data/modDBase.h"
 #include "data/queries.h"
 #include "platform/dao/recordset.h"
+#include "platform/forms/help_context.h"
 #include "shell/mdiVelmar.h"
 
 namespace {
@@ -25,6 +26,7 @@ PickWindow::PickWindow(const QString &name, int width, int height)
     , cmdCancel(named(new QPushButton("&Cancel"), "cmdCancel", "Cancel")) {
     setScaleSize(width, height);
     setMinMaxButtons(false, true);
+    HelpContext::set(*this, "Searching.htm");
     dtaSelect->setObjectName("dtaSelect");
     dtaSelect->setRecordSource(Queries::sqlInitialSelection());
     makeFrames();

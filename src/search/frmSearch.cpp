@@ -5,6 +5,7 @@
 #include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/default_instance.h"
+#include "platform/forms/help_context.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/conversions.h"
 #include "pma/frmPmaIndex.h"
@@ -33,6 +34,7 @@ frmSearch::frmSearch()
     , m_results(std::make_unique<ResultGrid>(*this, *m_criteria))
     , m_selected(std::make_unique<SelectedList>(*this)) {
     setCaption("Select Material(s)...");
+    HelpContext::set(*this, "Selecting.htm");
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     setSizable(false);
     setMinMaxButtons(true, false);

@@ -5,6 +5,7 @@
 #include <QTextEdit>
 
 #include "platform/forms/default_instance.h"
+#include "platform/forms/help_context.h"
 #include "platform/forms/image_box.h"
 #include "platform/forms/placement.h"
 #include "platform/runtime/app.h"
@@ -31,6 +32,7 @@ frmAbout::frmAbout()
     , txtContact(named(new QTextEdit(this), "txtContact", "Contact"))
     , cmdOK(named(new QPushButton("OK", this), "cmdOK", "OK")) {
     setSizable(false);
+    HelpContext::set(*this, "How_To_Contact_Us.htm");
     setMinMaxButtons(false, false);
     setScaleSize(7500, 4800);
     imgLogo->setPicture(":/velmar/app/velmar-ped.svg");

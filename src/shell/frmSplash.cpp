@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "platform/forms/default_instance.h"
+#include "platform/forms/help_context.h"
 #include "platform/forms/image_box.h"
 #include "platform/forms/placement.h"
 #include "platform/forms/screen.h"
@@ -32,6 +33,7 @@ frmSplash::frmSplash()
     , Timer1(new QTimer(this))
     , Timer2(new QTimer(this)) {
     setBorderless();
+    HelpContext::set(*this, "Cant_Start.htm");
     setScaleSize(7500, 4500);
     setFocusPolicy(Qt::StrongFocus);
     Frame1->setFrameStyle(QFrame::Box | QFrame::Plain);

@@ -82,6 +82,7 @@ void MainCommands::file(int index) {
 void MainCommands::selectData(bool save) {
     const auto &current = m_window.mCurrent;
     if (!current || !current->MyForm()) throw RuntimeError(91);
+    current->MyForm()->bringUp(); // what is printed is to be seen
     SetPropertyByName(*current->MyForm(), "iReportType", 0);
     auto &dialog = DefaultInstance<frmSelData>();
     dialog.setCaption(save ? "Save " + current->Name() + " As Text File - " + dialog.Caption()
@@ -143,6 +144,7 @@ void MainCommands::backToSearch() {
         menu.mnuViewElem(i).setChecked(false);
     menu.mnuFileElem(2).setEnabled(false);
     menu.mnuFileElem(3).setEnabled(false);
+    m_window.ShowStatus(0);
 }
 
 void MainCommands::leaveProgram() {

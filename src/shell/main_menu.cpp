@@ -20,7 +20,7 @@ QKeySequence ctrl(char key) {
 
 /// A separator is an entry of its own in its array.
 void addSeparator(MenuArray &array, MenuEntry *menu, int index) {
-    array.add(menu, index, "-").setSeparator(true);
+    array.add(menu, index, {}).setSeparator(true);
 }
 
 void buildFile(MainMenu &menu) {

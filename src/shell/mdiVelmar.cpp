@@ -7,6 +7,7 @@
 #include "platform/forms/default_instance.h"
 #include "platform/forms/form.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/help_context.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/placement.h"
 #include "platform/forms/screen.h"
@@ -80,8 +81,9 @@ mdiVelmar::~mdiVelmar() = default;
 
 void mdiVelmar::buildControls() {
     setWindowIcon(QIcon(":/velmar/app/velmar-ped.svg"));
-    setWidth(qMin(RoomyWidth, Screen::Width()));
-    setHeight(qMin(RoomyHeight, Screen::Height()));
+    setWidth(RoomyWidth);
+    setHeight(RoomyHeight);
+    Screen::fit(*this);
     Toolbar1 = new Toolbar("Toolbar1", this);
     addToolBar(Toolbar1);
     MainToolbar::addButtons(*Toolbar1);
@@ -110,6 +112,12 @@ void mdiVelmar::connectCommands() {
             [commands](ButtonMenu *entry) { commands->toolbarMenu(*entry); });
     connect(stbStatus, &StatusBar::PanelDblClick, commands, [commands] { commands->settings(1); });
     connect(this, &MDIForm::DblClick, commands, [commands] { commands->settings(4); });
+    HelpContext::setViewer([](const QString &topic) {
+        if (topic.isEmpty())
+            HTMLHelp::ShowHelpContents(1);
+        else
+            HTMLHelp::ShowHelpTopic(1, topic);
+    });
 }
 
 void mdiVelmar::Form_Load() {

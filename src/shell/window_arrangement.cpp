@@ -14,22 +14,25 @@ constexpr int CascadeStep = 300;
 constexpr int TileWidth = 11280;
 constexpr int SecondRow = 5050;
 
-/// A window that the user has maximised or minimised keeps its place.
-bool takesPart(FormBase &form, const QStringList &excluded) {
-    return !excluded.contains(form.Name()) && form.WindowState() == vbNormal;
+/// A window that the user has maximised or minimised keeps its place. They are told before any of them takes
+/// the focus, and with it the maximised state of another.
+QList<Form *> takingPart(const QStringList &excluded) {
+    QList<Form *> forms;
+    for (FormBase &form : Forms())
+        if (!excluded.contains(form.Name()) && form.WindowState() == vbNormal) forms << form.as<Form>();
+    return forms;
 }
 
 } // namespace
 
 void cascade(int mainWidth, const std::function<void(Form &)> &placed) {
     int top = 0;
-    for (FormBase &form : Forms()) {
-        if (!takesPart(form, {"frmPmaIndex", "mdiVelmar", "frmSearch"})) continue;
-        form.setTop(top);
-        form.setLeft((mainWidth - form.Width()) / 2);
+    for (Form *form : takingPart({"frmPmaIndex", "mdiVelmar", "frmSearch"})) {
+        form->setTop(top);
+        form->setLeft((mainWidth - form->Width()) / 2);
         top += CascadeStep;
-        form.SetFocus();
-        placed(*form.as<Form>());
+        form->SetFocus();
+        placed(*form);
     }
 }
 
@@ -38,14 +41,13 @@ void tileHorizontal(int mainWidth, int materials, const std::function<void(Form 
     const int left = CInt((mainWidth - TileWidth) / 2.0);
     Form *first = nullptr;
     int i = 1;
-    for (FormBase &form : Forms()) {
-        if (!takesPart(form, {"mdiVelmar", "frmSearch"})) continue;
+    for (Form *form : takingPart({"mdiVelmar", "frmSearch"})) {
         const bool isFirst = first == nullptr;
-        if (isFirst) first = form.as<Form>();
-        form.setTop(isFirst || i <= even / 2 ? 0 : SecondRow);
-        form.setLeft(left);
+        if (isFirst) first = form;
+        form->setTop(isFirst || i <= even / 2 ? 0 : SecondRow);
+        form->setLeft(left);
         ++i;
-        placed(*form.as<Form>());
+        placed(*form);
     }
     if (first == nullptr) return;
     first->SetFocus();

@@ -138,6 +138,29 @@ TEST_F(ChartTest, SaysItsNameAndCurvesToAScreenReader) {
     EXPECT_EQ(chart.accessibleName(), "Chart: Strength");
     EXPECT_EQ(chart.accessibleDescription(),
               QString::fromUtf8("[MPa] over Temperature [°C]. Curves: thin, thick"));
+    chart.setAxisTitle(1, {}); // as where the curves are bands of one property
+    EXPECT_EQ(chart.accessibleDescription(),
+              QString::fromUtf8("Strength over Temperature [°C]. Curves: thin, thick"));
+    chart.setAxisTitle(0, {});
+    EXPECT_EQ(chart.accessibleDescription(), "Strength. Curves: thin, thick");
+}
+
+TEST_F(ChartTest, ItsSmallestSizeHoldsEveryEntryOfTheLegend) {
+    MSChart chart;
+    fillTwoCurves(chart);
+    const QSize few = chart.smallestSize();
+    XArrayDB many;
+    many.ReDim(1, 1, 0, 59);
+    chart.setChartData(many);
+    for (int curve = 0; curve < 30; ++curve) {
+        chart.setColumn(2 * curve + 1);
+        chart.setColumnLabel(QStringLiteral("(%1) - %2mm").arg(curve).arg(curve + 1));
+    }
+    EXPECT_GE(chart.smallestSize().height(), few.height() + 80);
+    chart.setColumnLabel(QString(100, 'w'));
+    EXPECT_GT(chart.smallestSize().width(), 700);
+    chart.setShowLegend(false);
+    EXPECT_LE(chart.smallestSize().height(), few.height());
 }
 
 TEST_F(ChartTest, PrintsAsLinesAndTextsWithoutAnyRasterImage) {

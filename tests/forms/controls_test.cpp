@@ -3,10 +3,13 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "platform/forms/colours.h"
 #include "platform/forms/control_array.h"
@@ -103,6 +106,35 @@ TEST(KeyHooks, KeyDownComesFirstAndMayKeepTheKey) {
     QTest::keyClicks(&box, "ab");
     EXPECT_EQ(box.text(), "a");
     EXPECT_EQ(order, QStringList({"down", "press 97", "down"}));
+}
+
+TEST(Wheel, TurnsAListOrANumberOnlyWhereItHasTheFocus) {
+    QWidget page;
+    auto *box = new QLineEdit(&page);
+    auto *list = new QComboBox(&page);
+    auto *number = new QSpinBox(&page);
+    list->addItems({"EN", "SS", "ASME"});
+    list->move(0, 100);
+    number->move(0, 200);
+    page.show();
+    page.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    const auto turn = [](QWidget *over) {
+        const QPointF place = QRectF(over->rect()).center();
+        QWheelEvent event(place, over->mapToGlobal(place), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(over, &event);
+        return event.isAccepted();
+    };
+    box->setFocus();
+    for (QWidget *control : {static_cast<QWidget *>(list), static_cast<QWidget *>(number)}) {
+        EXPECT_EQ(control->focusPolicy(), Qt::StrongFocus) << "the wheel does not fetch the focus";
+        EXPECT_FALSE(turn(control)) << "it is left to the page";
+    }
+    EXPECT_EQ(list->currentText(), "EN");
+    EXPECT_EQ(number->value(), 0);
+    list->setFocus();
+    EXPECT_TRUE(turn(list));
+    EXPECT_EQ(list->currentText(), "SS");
 }
 
 TEST(Pictures, FillTheirBoxAndTakeClicks) {

@@ -134,7 +134,42 @@ TEST_F(MdiFormTest, AMaximisedOrMinimisedChildKeepsItsPlace) {
     EXPECT_EQ(child[0]->Width(), 4500);
 }
 
+TEST_F(MdiFormTest, TheNextChildTakesTheMaximisedStateOver) {
+    main->menuBar()->show();
+    const auto expectMaximised = [&](int which) {
+        for (int i = 0; i < 3; ++i) {
+            const bool isThat = child[i]->WindowState() == vbMaximized;
+            EXPECT_TRUE(child[i]->isUnloaded() || isThat == (i == which)) << which << i;
+        }
+        EXPECT_EQ(active(), QStringLiteral("child%1").arg(which));
+        EXPECT_EQ(Forms::active(), child[which]);
+        EXPECT_EQ(main->windowTitle(), QStringLiteral("main - [child%1]").arg(which));
+    };
+    child[2]->Move(0, 300, 4500, 3000);
+    child[2]->setWindowState(vbMaximized);
+    expectMaximised(2);
+    QTest::keyClick(main->activeChild(), Qt::Key_Tab, Qt::ControlModifier);
+    expectMaximised(0);
+    EXPECT_EQ(child[2]->Top(), 300);
+    child[2]->Hide(); // and comes back, as for a while of work unseen
+    child[2]->Show();
+    expectMaximised(2);
+    child[1]->SetFocus();
+    expectMaximised(1);
+
+    QWidget *boxes = main->menuBar()->cornerWidget();
+    ASSERT_NE(boxes, nullptr);
+    QTest::mouseClick(boxes, Qt::LeftButton, {}, {boxes->width() - 6, boxes->height() / 2});
+    EXPECT_TRUE(child[1]->isUnloaded()) << "the close box in the menu bar is that of the child in front";
+    expectMaximised(2);
+    child[2]->setWindowState(vbNormal);
+    EXPECT_EQ(active(), "child2");
+    EXPECT_EQ(child[0]->WindowState(), vbNormal);
+    EXPECT_EQ(main->windowTitle(), "main");
+}
+
 TEST_F(MdiFormTest, AMaximisedChildDoesNotMaximiseOneThatCannotBe) {
+    main->menuBar()->show();
     child[1]->setMinMaxButtons(true, false);
     child[1]->Move(0, 0, 4500, 3000);
     child[1]->Hide();
@@ -146,6 +181,30 @@ TEST_F(MdiFormTest, AMaximisedChildDoesNotMaximiseOneThatCannotBe) {
     EXPECT_EQ(child[1]->WindowState(), vbNormal);
     EXPECT_EQ(child[1]->Width(), 4500);
     EXPECT_EQ(active(), "child1");
+    EXPECT_EQ(child[0]->WindowState(), vbNormal);
+    EXPECT_EQ(main->windowTitle(), "main") << "not the name of a child behind";
+}
+
+TEST_F(MdiFormTest, AMinimisedChildIsCurrentOnlyWhereNoOtherShows) {
+    main->menuBar()->show();
+    const auto next = [&] {
+        QTest::keyClick(main->activeChild(), Qt::Key_Tab, Qt::ControlModifier);
+        return active();
+    };
+    child[2]->setWindowState(vbMinimized);
+    EXPECT_EQ(active(), "child1") << "the one used before";
+    EXPECT_EQ(Forms::active(), child[1]);
+    EXPECT_EQ(next(), "child0");
+    EXPECT_EQ(next(), "child1") << "passes the minimised one";
+    child[1]->setWindowState(vbMaximized);
+    child[1]->setWindowState(vbMinimized);
+    EXPECT_EQ(active(), "child0");
+    EXPECT_EQ(main->windowTitle(), "main");
+    child[0]->setWindowState(vbMinimized);
+    EXPECT_EQ(active(), "child0");
+    EXPECT_EQ(child[1]->WindowState(), vbMinimized) << "none comes up unasked";
+    EXPECT_EQ(next(), "child1");
+    EXPECT_EQ(child[1]->WindowState(), vbNormal);
 }
 
 TEST_F(MdiFormTest, AFixedChildStaysAsItIs) {
@@ -179,6 +238,11 @@ TEST_F(MdiFormTest, TheWindowMenuListsTheVisibleChildren) {
     QCoreApplication::processEvents();
     EXPECT_EQ(active(), "child2");
     EXPECT_EQ(entries(), QStringList({"&1 A && B", "&2 child2*"}));
+    child[0]->setWindowState(vbMinimized);
+    menu.SubMenu()->actions().at(2)->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(entries(), QStringList({"&1 A && B*", "&2 child2"}));
+    EXPECT_EQ(child[0]->WindowState(), vbNormal) << "choosing restores";
     child[0]->Hide();
     child[2]->Hide();
     EXPECT_EQ(menu.SubMenu()->actions().size(), 1) << "no separator above an empty list";

@@ -4,8 +4,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,7 +18,9 @@
 #include "platform/forms/common_dialog.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/help_context.h"
 #include "platform/forms/msg_box.h"
+#include "platform/forms/screen.h"
 #include "platform/runtime/app.h"
 #include "tests/forms/recording_form.h"
 #include "tests/support/error_of.h"
@@ -101,6 +105,119 @@ TEST(ModalForm, TheHourglassIsGoneWhileItWaitsForAPerson) {
     ASSERT_NE(QApplication::overrideCursor(), nullptr);
     working->setMousePointer(vbDefault);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+/// What waits for a person shuts off the forms, and leaves what stands beside them in use.
+TEST(Modality, AWindowBesideTheProgramStaysInUse) {
+    const ModalSeam::Pause person;
+    QMainWindow beside;
+    auto *button = new QPushButton(&beside);
+    beside.setCentralWidget(button);
+    beside.show();
+    auto *form = NewForm<RecordingForm>();
+    auto *below = new QPushButton(form);
+    form->Show();
+    int used = 0, shutOff = 0;
+    QObject::connect(button, &QPushButton::clicked, [&] { ++used; });
+    QObject::connect(below, &QPushButton::clicked, [&] { ++shutOff; });
+    const auto tryBoth = [&] {
+        for (QWidget *control : {button, below}) {
+            QWindow *window = control->window()->windowHandle();
+            QTest::mouseClick(window, Qt::LeftButton, {}, control->mapTo(control->window(), QPoint(5, 5)));
+        }
+    };
+    tryBoth();
+    ASSERT_EQ(shutOff, 1);
+    const std::pair<const char *, std::function<void()>> ways[] = {
+        {"a form", [] { NewForm<RecordingForm>()->ShowModal(); }},
+        {"a box", [] { MsgBox("Text"); }},
+        {"a file dialog", [] { CommonDialog().ShowOpen(); }},
+        {"a box of the library", [&] { QMessageBox::question(form, "Title", "Text"); }},
+        {"a form above a form", [&] {
+             auto *lower = NewForm<RecordingForm>();
+             QTimer::singleShot(0, [] { NewForm<RecordingForm>()->ShowModal(); });
+             lower->ShowModal(form);
+         }}};
+    for (const auto &[name, show] : ways) {
+        int tries = 0;
+        const int before = used;
+        QTimer closing;
+        QObject::connect(&closing, &QTimer::timeout, [&] {
+            QWidget *modal = QApplication::activeModalWidget();
+            if (modal == nullptr) return;
+            beside.activateWindow(); // which is no owner for the next box
+            tryBoth();
+            ++tries;
+            modal->close();
+        });
+        closing.start(20);
+        show();
+        EXPECT_GT(tries, 0) << name;
+        EXPECT_EQ(used, before + tries) << name;
+        EXPECT_EQ(shutOff, 1) << name;
+    }
+}
+
+TEST(Modality, F1AsksForTheTopicOfTheModalWindowOrOfWhatItStandsAbove) {
+    QStringList asked;
+    HelpContext::setViewer([&](const QString &topic) { asked.append(topic); });
+    const auto never = qScopeGuard([] { HelpContext::setViewer({}); });
+    auto *main = NewForm<RecordingMain>();
+    RecordingForm *child = newChild("child");
+    HelpContext::set(*child, "Child.htm");
+    child->Show();
+    QTest::keyClick(child, Qt::Key_F1);
+    EXPECT_EQ(asked, QStringList()) << "the menu's key";
+    const auto pressInBox = [] {
+        const ModalSeam::Pause person;
+        QTimer::singleShot(0, [] {
+            QWidget *box = QApplication::activeModalWidget();
+            QTest::keyClick(box->focusWidget(), Qt::Key_F1);
+            box->close();
+        });
+        MsgBox("Text");
+    };
+    pressInBox();
+    for (const char *topic : {"Dialog.htm", ""}) {
+        modal().driveForm([&](Form &form) {
+            HelpContext::set(form, topic);
+            auto *box = new QLineEdit(&form);
+            box->show();
+            QTest::keyClick(box, Qt::Key_F1);
+            QTest::keyClick(box, Qt::Key_F1, Qt::ShiftModifier);
+            pressInBox();
+            form.Unload();
+        });
+        NewForm<RecordingForm>()->ShowModal(main);
+    }
+    EXPECT_EQ(asked, QStringList({"Child.htm", "Dialog.htm", "Dialog.htm", "Child.htm", "Child.htm"}));
+}
+
+TEST(ModalForm, LiesOnTheScreenBesideItsPanels) {
+    const QRect free(40, 24, 760, 540);
+    Screen::setSizeForTest({800, 600}, free);
+    const auto systemScreen = qScopeGuard([] { Screen::setSizeForTest({}); });
+    const struct {
+        const char *name;
+        QRect twips;
+        bool sizable;
+        QSize expected;
+    } cases[] = {{"too large", {0, 0, 15000, 12000}, true, {754, 515}},
+                 {"too far to the right and below", {9000, 6000, 6000, 4500}, true, {394, 275}},
+                 {"of one size", {-300, 0, 6000, 4500}, false, {394, 275}},
+                 {"where it fits", {1500, 1500, 6000, 4500}, true, {394, 275}}};
+    for (const auto &item : cases) {
+        auto *dialog = NewForm<RecordingForm>();
+        dialog->Move(item.twips.left(), item.twips.top(), item.twips.width(), item.twips.height());
+        dialog->setSizable(item.sizable);
+        modal().driveForm([&](Form &form) {
+            EXPECT_EQ(form.size(), item.expected) << item.name;
+            EXPECT_TRUE(free.contains(form.geometry())) << item.name;
+            EXPECT_TRUE(item.twips.left() != 1500 || form.Left() == 1500) << item.name;
+            form.Unload();
+        });
+        dialog->ShowModal();
+    }
 }
 
 TEST(MsgBoxes, AnswerIsTakenFromTheQueueAndTheQuestionKept) {

@@ -137,6 +137,20 @@ TEST_F(ChartWindowTest, TableAndGraphChangePlaces) {
     EXPECT_TRUE(window.tdbTable->isVisible());
 }
 
+TEST_F(ChartWindowTest, ByKeysTheFocusGoesToTheButtonThatLeadsBack) {
+    const auto expectFocus = [&](QPushButton *pressed, QPushButton *counterpart) {
+        pressed->setFocus();
+        QTest::keyClick(pressed, Qt::Key_Space);
+        EXPECT_EQ(window.focusWidget(), counterpart) << pressed->objectName().toStdString();
+    };
+    window.ShowTable("Rp02");
+    expectFocus(window.CommandShowGraph, window.CommandShowTable);
+    expectFocus(window.CommandShowTable, window.CommandShowGraph);
+    window.ShowTable("CreepProp");
+    expectFocus(window.cmdUnBoundGraph, window.cmdUnBoundTable);
+    expectFocus(window.cmdUnBoundTable, window.cmdUnBoundGraph);
+}
+
 TEST_F(ChartWindowTest, TheEnlargedGraphIsACopy) {
     mdiVelmar &main = mdiVelmar::instance();
     main.ShowStatus(1);

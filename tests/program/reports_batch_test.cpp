@@ -4,6 +4,7 @@
 #include <QProgressBar>
 
 #include "platform/forms/forms.h"
+#include "platform/forms/status_bar.h"
 #include "platform/runtime/app.h"
 #include "reports/actRepBatchPrint.h"
 #include "search/frmSearch.h"
@@ -61,6 +62,7 @@ TEST_F(Batch, PrintsEveryTableWithDataAndReturnsToTheSearch) {
         EXPECT_FALSE(poor->PrintTable(i)) << i;
     EXPECT_FALSE(main().bBatchPrint);
     EXPECT_TRUE(search().isVisible());
+    EXPECT_TRUE(main().stbStatus->PanelText(1).startsWith("You can search"));
     EXPECT_EQ(main().colMaterials.Count(), 2);
 }
 

@@ -86,7 +86,7 @@ TEST_F(ReportDialogs, OfferTheTablesWithData) {
         EXPECT_EQ(shownBoxes(dialog), QStringList("References"));
         click(dialog.chkData(0));
         EXPECT_TRUE(dialog.chkData(0)->isChecked());
-        click(dialog.cmdCancel);
+        dialog.close(); // its close box
     });
     command(3);
     EXPECT_EQ(status(), standing);

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QHelpEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -12,11 +13,14 @@
 #include <QToolTip>
 
 #include "data/Material.h"
+#include "design/frmChart.h"
 #include "material/frmMaterial2.h"
 #include "platform/forms/default_instance.h"
+#include "platform/forms/ms_chart.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/toolbar.h"
 #include "search/frmSearch.h"
+#include "shell/HTMLHelp.h"
 #include "shell/mdiVelmar.h"
 #include "tests/support/gui.h"
 #include "tests/support/program.h"
@@ -127,6 +131,55 @@ TEST(PlainText, TagsOfADatabaseAreShownAsTheyStand) {
     window.cmdUnBoundGraph->click();
     EXPECT_TRUE(window.lblXAxis->text().contains(tags));
     EXPECT_EQ(shownAsPage(), "");
+}
+
+TEST(SmallScreens, EveryWindowLiesBesideThePanels) {
+    TestProgram::Given given;
+    given.screen = {800, 600};
+    given.freeArea = {0, 28, 800, 532};
+    const TestProgram program(given);
+    QFile::copy(BINARY_FOLDER "/Velmar_PED_HELP.qch", program.folder() + "/Velmar_PED_HELP.qch");
+    const auto expectInside = [&](QWidget &window) {
+        EXPECT_LE(window.width(), 794) << window.objectName().toStdString();
+        EXPECT_LE(window.height(), 507) << window.objectName().toStdString();
+        const bool placed = window.testAttribute(Qt::WA_Moved);
+        EXPECT_TRUE(!placed || given.freeArea.contains(window.geometry()))
+            << window.objectName().toStdString();
+    };
+    const auto inside = [&](Form &form) {
+        expectInside(form);
+        form.Unload();
+    };
+    auto &main = mdiVelmar::instance();
+    expectInside(main);
+    modal().driveForm(inside);
+    DefaultInstance<frmSearch>().cmdShowPmaIndex->click();
+    HTMLHelp::ShowHelpContents(1);
+    for (QWidget *window : QApplication::topLevelWidgets())
+        if (window->objectName() == QLatin1String("HelpViewer")) {
+            expectInside(*window);
+            window->close();
+        }
+
+    frmMaterial2 &window = program.open(program.material(2));
+    main.menu.mnuFileElem(3).setEnabled(true);
+    modal().driveForm(inside);
+    main.menu.mnuFileElem(3).trigger();
+    window.ShowTable("Rp02");
+    modal().driveForm(inside); // the preview
+    window.cmdPrintSave(1)->click();
+    modal().driveForm([&](Form &form) {
+        expectInside(form);
+        auto &enlarged = *form.as<frmChart>();
+        enlarged.resize(10, 10);
+        QCoreApplication::processEvents();
+        EXPECT_GE(enlarged.MSChart1->width(), enlarged.MSChart1->smallestSize().width());
+        EXPECT_GE(enlarged.MSChart1->height(), enlarged.MSChart1->smallestSize().height());
+        for (const auto &[index, button] : enlarged.cmdGraph)
+            EXPECT_TRUE(enlarged.framChart->rect().contains(button->geometry())) << index;
+        form.Unload();
+    });
+    window.cmdPrintSave(2)->click();
 }
 
 TEST(SmallScreens, EveryPartOfTheSearchWindowCanBeReached) {

@@ -148,6 +148,19 @@ TEST_F(Commands, BackToTheSearchKeepsTheSelection) {
     EXPECT_EQ(Forms::Count(), 2);
     EXPECT_EQ(Forms::byName("frmSearch")->Top(), 45); // 50 on whole pixels
     EXPECT_EQ(main().colMaterials.Count(), 2);
+    main().menu.mnuFileElem(0).trigger();
+    main().menu.mnuFileElem(0).trigger(); // by the menu
+    EXPECT_TRUE(main().stbStatus->PanelText(1).startsWith("You can search"));
+}
+
+TEST_F(Commands, ASeparatorHasNoText) {
+    int separators = 0;
+    for (const QAction *action : main().findChildren<QAction *>()) {
+        if (!action->isSeparator()) continue;
+        ++separators;
+        EXPECT_EQ(action->text(), "") << action->objectName().toStdString();
+    }
+    EXPECT_GE(separators, 5);
 }
 
 TEST_F(Commands, BackColoursGoRoundInTheirCycle) {
@@ -186,17 +199,52 @@ TEST_F(Commands, TheFirstWindowIsCurrentAfterTilingThoughItWasInFrontBefore) {
     EXPECT_EQ(main().mCurrent->ID(), 2);
 }
 
+/// It keeps its place, and hands its state on to the window that takes the front.
 TEST_F(Commands, AMaximisedWindowKeepsItsPlaceAndIsNotCounted) {
     show({2, 3, 4});
+    const auto places = [&] {
+        for (int i : {0, 1, 2})
+            window(i).setWindowState(vbNormal);
+        return QList<int>{window(0).Top(), window(1).Top(), window(2).Top()};
+    };
+    window(1).SetFocus();
     window(1).setWindowState(vbMaximized);
     main().menu.mnuWindowElem(1).trigger();
-    EXPECT_EQ(window(1).WindowState(), vbMaximized);
-    EXPECT_EQ(window(0).Top(), 0);
-    EXPECT_EQ(window(2).Top(), 5055); // the second of those that were laid out
+    EXPECT_EQ(main().mCurrent->ID(), 2);
+    EXPECT_EQ(window(0).WindowState(), vbMaximized);
+    EXPECT_TRUE(main().windowTitle().contains(window(0).Caption()));
+    EXPECT_EQ(places(), QList<int>({0, 300, 5055})); // the third is the second of those that were laid out
+    window(1).SetFocus();
+    window(1).setWindowState(vbMaximized);
     main().menu.mnuWindowElem(0).trigger();
-    EXPECT_EQ(window(1).WindowState(), vbMaximized);
-    EXPECT_EQ(window(2).Top(), 300);
     EXPECT_EQ(main().mCurrent->ID(), 4);
+    EXPECT_EQ(window(2).WindowState(), vbMaximized);
+    EXPECT_EQ(places(), QList<int>({0, 300, 300}));
+}
+
+TEST_F(Commands, WhatIsPrintedIsSeen) {
+    show({2, 3});
+    const auto printed = [&] {
+        QString caption;
+        modal().driveForm([&](Form &form) {
+            caption = form.Caption();
+            form.Unload();
+        });
+        main().menu.mnuFileElem(3).trigger();
+        return caption.section(' ', 1, 1);
+    };
+    window(1).setWindowState(vbMaximized);
+    main().Toolbar1->Buttons("Next").widget()->click();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(main().windowTitle().contains(window(0).Caption()));
+    EXPECT_EQ(printed(), window(0).mMat()->Name());
+    EXPECT_EQ(window(0).WindowState(), vbMaximized);
+    window(0).setWindowState(vbMinimized);
+    EXPECT_EQ(printed(), window(1).mMat()->Name());
+    window(1).setWindowState(vbMinimized);
+    EXPECT_EQ(printed(), window(1).mMat()->Name());
+    EXPECT_EQ(window(1).WindowState(), vbNormal) << "comes up for it";
+    modal().clear();
 }
 
 TEST_F(Commands, NextWalksTheWindowsAndTheirOwnCloseBoxKeepsTheSelection) {

@@ -19,12 +19,15 @@
 #include <QToolButton>
 #include <QWindow>
 
+#include "material/frmMaterial2.h"
 #include "platform/desktop/help_viewer.h"
 #include "platform/forms/default_instance.h"
+#include "platform/forms/forms.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
 #include "platform/runtime/app.h"
+#include "reports/frmSave.h"
 #include "search/frmSearch.h"
 #include "shell/frmAbout.h"
 #include "shell/HTMLHelp.h"
@@ -155,6 +158,44 @@ TEST_F(HelpFile, ItsKeysDoWhatTheKeyboardTopicSays) {
     }
     press(Qt::Key_Escape, Qt::NoModifier);
     EXPECT_FALSE(viewer() != nullptr && viewer()->isVisible());
+}
+
+TEST_F(HelpFile, F1InADialogOpensItsTopicWhichCanBeReadBesideIt) {
+    program.open(program.material(2)).ShowTable("ModElast");
+    auto &search = DefaultInstance<frmSearch>();
+    const auto button = [](const char *name) {
+        return [name] {
+            Forms::byName("frmMaterial2")->asWidget()->findChild<QAbstractButton *>(name)->click();
+        };
+    };
+    const struct {
+        const char *window, *topic;
+        std::function<void()> open;
+    } dialogs[] = {
+        {"frmAbout", "How_To_Contact_Us.htm", [&] { main().ShowAbout(); }},
+        {"frmPmaIndex", "PMA.htm", [&] { search.cmdShowPmaIndex->click(); }},
+        {"frmSelectStand", "Searching.htm", [&] { search.cmdSelect(0)->click(); }},
+        {"frmSelect", "Searching.htm", [&] { search.cmdSelect(1)->click(); }},
+        {"frmSelData", "Reports.htm",
+         [&] { main().menu.mnuFileElem(3).setEnabled(true), main().menu.mnuFileElem(3).trigger(); }},
+        {"frmSave", "Reports.htm", [] { DefaultInstance<frmSave>().ShowModal(); }},
+        {"actRepMain", "Reports.htm", button("cmdPrintSave(1)")},
+        {"frmChart", "Graphs.htm", button("cmdPrintSave(2)")},
+    };
+    for (const auto &dialog : dialogs) {
+        HTMLHelp::ShowHelpTopic(1, "Start.htm");
+        modal().driveForm([&](Form &form) {
+            EXPECT_EQ(form.Name(), dialog.window);
+            QTest::keyClick(form.focusWidget() != nullptr ? form.focusWidget() : &form, Qt::Key_F1);
+            EXPECT_EQ(topic(), dialog.topic) << dialog.window;
+            QTest::keyClick(viewer()->windowHandle(), Qt::Key_S, Qt::AltModifier);
+            EXPECT_EQ(page(), "Search") << dialog.window;
+            QTest::keyClick(viewer()->windowHandle(), Qt::Key_C, Qt::AltModifier);
+            form.Unload();
+        });
+        dialog.open();
+        deleteUnloaded();
+    }
 }
 
 TEST_F(HelpFile, AMissingFileIsToldWithItsNameAndNothingElseHappens) {

@@ -42,7 +42,7 @@ TestProgram::TestProgram(const Given &given)
     , m_appDataBefore(qgetenv("APPDATA")) {
     qputenv("APPDATA", m_appData.path().toUtf8());
     ProgramVersion::apply(m_folder.path());
-    Screen::setSizeForTest(given.screen);
+    Screen::setSizeForTest(given.screen, given.freeArea);
     given.putDatabase(m_folder.filePath("Velmar_PED.mdb"));
     if (given.pmaIndex)
         QFile::copy(SOURCE_FOLDER "/sample/PMA_Index.mdb", m_folder.filePath("PMA_Index.mdb"));

@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-#include <QSize>
+#include <QRect>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -20,6 +20,8 @@ public:
     /// What the program finds when it starts.
     struct Given {
         QSize screen{1280, 1024};
+        /// Of the screen; all of it where empty.
+        QRect freeArea;
         bool pmaIndex = true;
         /// The lines of Settings.vlp; without any there is no such file.
         QStringList settings;

@@ -41,5 +41,6 @@ int main(int argc, char **argv) {
     showAbout(tour);
     readHelp(tour);
     useSmallScreens(tour);
+    useAScreenWithPanels(tour);
     return 0;
 }

@@ -94,3 +94,40 @@ void useSmallScreens(Tour &tour) {
     }
     Screen::setSizeForTest({});
 }
+
+/// The smallest screen that the program is made for, with a panel above and one below.
+void useAScreenWithPanels(Tour &tour) {
+    leave(tour);
+    Screen::setSizeForTest({800, 600}, {0, 28, 800, 536});
+    tour.press(DefaultInstance<frmSplash>(), Qt::Key_Space);
+    tour.screenPicture("panels-search", {&tour.main()});
+
+    FormBase &search = tour.form("frmSearch");
+    tour.boxes().driveForm([&](Form &form) {
+        tour.screenPicture("panels-pma-index", {&tour.main(), &form});
+        form.Unload();
+    });
+    tour.click(tour.control<QAbstractButton>(search, "cmdShowPmaIndex"));
+
+    tour.menu("mnuHelpElem(0)");
+    HelpViewer &help = *helpWindow();
+    HTMLHelp::ShowHelpTopic(1, "Graphs.htm");
+    tour.screenPicture("panels-help", {&tour.main(), &help});
+    help.close();
+
+    auto &name = tour.control<QLineEdit>(search, "txtSearch(1)");
+    tour.type(name, "16Mo3");
+    tour.press(name, Qt::Key_Return);
+    tour.menu("mnuFileElem(0)");
+    tour.menu("mnuViewMechElem(1)");
+    FormBase &window = tour.windowOf("16Mo3");
+    tour.boxes().driveForm([&](Form &form) {
+        tour.screenPicture("panels-enlarged-graph", {&tour.main(), &form});
+        form.resize(form.minimumSize());
+        tour.picture("smallest-enlarged-graph", form);
+        form.Unload();
+    });
+    tour.click(window, "CommandShowGraph");
+    tour.click(window, "cmdPrintSave(2)");
+    Screen::setSizeForTest({});
+}

@@ -8,10 +8,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPainter>
 #include <QTest>
+#include <QWindow>
 
 #include "platform/forms/forms.h"
 #include "platform/forms/mdi_form.h"
+#include "platform/forms/screen.h"
 
 namespace {
 
@@ -57,10 +60,34 @@ void Tour::picture(const QString &name) {
     picture(name, main());
 }
 
+QString Tour::nextFile(const QString &name) {
+    return QStringLiteral("%1/%2-%3.png").arg(m_folder).arg(++m_number, 2, 10, QLatin1Char('0')).arg(name);
+}
+
+void Tour::screenPicture(const QString &name, const QList<QWidget *> &windows) {
+    settle();
+    QImage screen(Screen::Width() / Screen::TwipsPerPixelX(), Screen::Height() / Screen::TwipsPerPixelX(),
+                  QImage::Format_RGB32);
+    screen.fill(Qt::black);
+    QPainter painter(&screen);
+    painter.fillRect(Screen::freeArea(main()), QColor(0x5a, 0x78, 0x6e));
+    for (QWidget *window : windows) {
+        const QMargins frame = window->windowHandle()->frameMargins();
+        QRect place = window->geometry();
+        if (!window->testAttribute(Qt::WA_Moved)) // the desktop places it
+            place.moveTopLeft(Screen::freeArea(*window).topLeft() + QPoint(frame.left(), frame.top()));
+        painter.fillRect(place.marginsAdded(frame), QColor(0x30, 0x50, 0x90));
+        painter.drawPixmap(place.topLeft(), window->grab());
+    }
+    painter.end();
+    const QString file = nextFile(name);
+    if (!screen.save(file)) giveUp("cannot write " + file);
+    std::printf("%s\n", qPrintable(file));
+}
+
 void Tour::picture(const QString &name, QWidget &window) {
     settle();
-    const QString file =
-        QStringLiteral("%1/%2-%3.png").arg(m_folder).arg(++m_number, 2, 10, QLatin1Char('0')).arg(name);
+    const QString file = nextFile(name);
     if (!window.grab().save(file)) giveUp("cannot write " + file);
     std::printf("%s\n", qPrintable(file));
 }

@@ -24,6 +24,8 @@ public:
     /// A picture of the main window, or of another one, under the next number.
     void picture(const QString &name);
     void picture(const QString &name, QWidget &window);
+    /// The windows in their places on the screen, with its panels.
+    void screenPicture(const QString &name, const QList<QWidget *> &windows);
 
     QWidget &main() const;
     /// The loaded form of that name; `index` counts several from 0.
@@ -47,6 +49,7 @@ public:
     void settle();
 
 private:
+    QString nextFile(const QString &name);
     QWidget *find(QWidget &parent, const QString &name, const QMetaObject *type) const;
 
     QString m_folder;
@@ -66,3 +69,4 @@ void printAndSave(Tour &tour);
 void showAbout(Tour &tour);
 void readHelp(Tour &tour);
 void useSmallScreens(Tour &tour);
+void useAScreenWithPanels(Tour &tour);

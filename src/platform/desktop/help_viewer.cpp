@@ -1,5 +1,7 @@
 #include "platform/desktop/help_viewer.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QHelpContentModel>
@@ -20,6 +22,7 @@
 
 #include "platform/desktop/help_browser.h"
 #include "platform/forms/placement.h"
+#include "platform/forms/screen.h"
 #include "platform/runtime/app.h"
 
 namespace {
@@ -111,6 +114,13 @@ void HelpViewer::build() {
     addAction(close);
     connect(close, &QAction::triggered, this, &QWidget::close);
     resize(1000, 680);
+    Screen::fit(*this);
+}
+
+bool HelpViewer::event(QEvent *event) {
+    // Once, when the desktop has put its frame around the window.
+    if (event->type() == QEvent::WindowActivate && !std::exchange(m_fitted, true)) Screen::fit(*this);
+    return QMainWindow::event(event);
 }
 
 QWidget *HelpViewer::buildIndexPage() {

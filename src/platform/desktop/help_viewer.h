@@ -12,7 +12,8 @@ class HelpBrowser;
 class QHelpEngine;
 class QTabWidget;
 
-/// Not one of the program's forms: it outlives a modal dialog and ends with the program.
+/// Not one of the program's forms: it stays in use beside a modal dialog, outlives it and ends with the
+/// program.
 class HelpViewer : public QMainWindow {
     Q_OBJECT
 
@@ -24,6 +25,9 @@ public:
     /// Empty when the help can be read, else what is wrong with it.
     QString failure() const { return m_failure; }
     void open(HelpCommand command, const QString &topic);
+
+protected:
+    bool event(QEvent *event) override;
 
 private:
     bool isAtWork() const;
@@ -49,4 +53,5 @@ private:
     bool m_searching = false;
     QDeadlineTimer m_searchDeadline;
     bool m_searchesAgain = false;
+    bool m_fitted = false;
 };

@@ -5,18 +5,36 @@
 #include <new>
 #include <utility>
 
+#include <QDialog>
 #include <QEvent>
 #include <QFont>
+#include <QKeyEvent>
 
 #include "platform/forms/end_signals.h"
 #include "platform/forms/forms.h"
+#include "platform/forms/help_context.h"
+#include "platform/forms/modality.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/platform_style.h"
 #include "platform/runtime/runtime_error.h"
 
 namespace {
+
 Application *theApplication = nullptr;
+
+/// The library's dialogs and those that they open. At each showing: the kind is forgotten when one is left.
+void narrowDialog(QObject *receiver, const QEvent *event) {
+    if (event->type() != QEvent::Show) return;
+    auto *dialog = qobject_cast<QDialog *>(receiver);
+    if (dialog != nullptr && dialog->windowModality() == Qt::ApplicationModal) Modality::narrow(*dialog);
 }
+
+bool asksForHelp(QObject *receiver, QEvent *event) {
+    return event->type() == QEvent::KeyPress && receiver->isWidgetType() &&
+           HelpContext::pressed(*static_cast<QWidget *>(receiver), *static_cast<QKeyEvent *>(event));
+}
+
+} // namespace
 
 Application::Application(int &argc, char **argv)
     : QApplication(argc, argv) {
@@ -41,7 +59,10 @@ Application *Application::instance() {
 
 bool Application::notify(QObject *receiver, QEvent *event) {
     bool handled = true; // as an event is that an error has ended
-    guarded([&] { handled = QApplication::notify(receiver, event); });
+    guarded([&] {
+        narrowDialog(receiver, event);
+        handled = asksForHelp(receiver, event) || QApplication::notify(receiver, event);
+    });
     return handled;
 }
 

@@ -24,6 +24,8 @@ constexpr int LegendIconWidth = 30;
 constexpr int LegendTextGap = 5;
 constexpr int LegendColumnGap = 14;
 constexpr int SmallestFont = 8;
+constexpr int SmallestWidth = 400;
+constexpr int SmallestPlotHeight = 140;
 
 const QColor Ink(0x20, 0x20, 0x20);
 const QColor GridLine(0xd4, 0xd8, 0xdc);
@@ -124,6 +126,17 @@ QCPRange rangeAround(const std::vector<double> &values) {
     return {*least - margin, *most + margin};
 }
 
+int legendEntryWidth(const ChartContent &content) {
+    if (!content.showLegend) return 0;
+    const QFontMetrics metrics(chartFont(11));
+    int width = 0;
+    for (const ChartSeries &series : content.series) {
+        const int text = metrics.horizontalAdvance(onOneLine(series.label));
+        width = std::max(width, LegendIconWidth + LegendTextGap + text + LegendColumnGap);
+    }
+    return width;
+}
+
 class ChartDrawing {
 public:
     ChartDrawing(const ChartContent &content, QSize size)
@@ -151,6 +164,11 @@ public:
         m_plot.toPainter(&painter, m_size.width(), m_size.height());
         painter.end();
         return {drawing, m_size};
+    }
+
+    int plotHeight() {
+        m_plot.replot(QCustomPlot::rpQueuedRefresh);
+        return m_plot.axisRect()->height();
     }
 
 private:
@@ -225,12 +243,7 @@ void ChartDrawing::layOutAxis(QCPAxis *axis, QCPAxis *opposite, const QString &t
 
 void ChartDrawing::layOutLegend() {
     if (!m_content.showLegend || m_content.series.empty()) return;
-    const QFont font = chartFont(11);
-    int entryWidth = 0;
-    for (const ChartSeries &series : m_content.series) {
-        const int text = QFontMetrics(font).horizontalAdvance(onOneLine(series.label));
-        entryWidth = std::max(entryWidth, LegendIconWidth + LegendTextGap + text + LegendColumnGap);
-    }
+    const int entryWidth = legendEntryWidth(m_content);
     const int count = int(m_content.series.size());
     const int fitting = std::clamp((m_size.width() - 10) / entryWidth, 1, count);
     const int rows = (count + fitting - 1) / fitting;
@@ -240,7 +253,7 @@ void ChartDrawing::layOutLegend() {
     QCPLegend *legend = m_plot.legend;
     m_plot.plotLayout()->addElement(1, 0, legend);
     m_plot.plotLayout()->setRowStretchFactor(1, 0.001);
-    legend->setFont(font);
+    legend->setFont(chartFont(11));
     legend->setTextColor(Ink);
     legend->setBorderPen(Qt::NoPen);
     legend->setBrush(Qt::NoBrush);
@@ -294,6 +307,11 @@ std::vector<ChartSeries> seriesFromPairs(const XArrayDB &cells, int columnCount)
         all.push_back(series);
     }
     return all;
+}
+
+QSize smallestChart(const ChartContent &content) {
+    const QSize roomy(std::max(SmallestWidth, legendEntryWidth(content) + 10), 1000);
+    return {roomy.width(), roomy.height() - ChartDrawing(content, roomy).plotHeight() + SmallestPlotHeight};
 }
 
 ChartPicture drawChart(const ChartContent &content, QSize size, ChartMedium medium) {

@@ -36,6 +36,9 @@ enum class ChartMedium {
     Paper,  ///< lines are drawn where they are
 };
 
+/// In pixels of 1/96 inch: title, legend and axes are whole, and a plot is left that can be read.
+QSize smallestChart(const ChartContent &content);
+
 /// Lays the chart out for `size` pixels of 1/96 inch. Black on white whatever the desktop's colours, so that
 /// a curve has the same colour on the screen as on paper.
 ChartPicture drawChart(const ChartContent &content, QSize size, ChartMedium medium);

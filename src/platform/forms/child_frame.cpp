@@ -1,6 +1,7 @@
 #include "platform/forms/child_frame.h"
 
 #include <QCloseEvent>
+#include <QScopedValueRollback>
 #include <QWindowStateChangeEvent>
 
 #include "platform/forms/form.h"
@@ -23,15 +24,24 @@ void ChildFrame::closeEvent(QCloseEvent *event) {
 }
 
 void ChildFrame::changeEvent(QEvent *event) {
-    QMdiSubWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
-        // Every other change of state resizes the form inside, which hears of it by itself.
-        const bool wasMinimized =
-            static_cast<QWindowStateChangeEvent *>(event)->oldState().testFlag(Qt::WindowMinimized);
-        if (form() != nullptr && isMinimized() != wasMinimized) form()->sizeChanged();
+        stateChanged(static_cast<QWindowStateChangeEvent *>(event));
+        return;
     }
+    QMdiSubWindow::changeEvent(event);
     if (event->type() == QEvent::WindowTitleChange && MDIForm::current() != nullptr)
         MDIForm::current()->childChanged();
+}
+
+void ChildFrame::stateChanged(QWindowStateChangeEvent *event) {
+    {
+        const QScopedValueRollback changing(m_changingState, true);
+        QMdiSubWindow::changeEvent(event);
+    }
+    // Every other change of state resizes the form inside, which hears of it by itself.
+    if (isMinimized() == event->oldState().testFlag(Qt::WindowMinimized)) return;
+    if (form() != nullptr) form()->sizeChanged();
+    if (isMinimized() && MDIForm::current() != nullptr) MDIForm::current()->activateBehind(this);
 }
 
 void ChildFrame::showEvent(QShowEvent *event) {
@@ -41,7 +51,7 @@ void ChildFrame::showEvent(QShowEvent *event) {
 
 void ChildFrame::hideEvent(QHideEvent *event) {
     QMdiSubWindow::hideEvent(event);
-    if (MDIForm::current() == nullptr || !isHidden()) return;
+    if (m_changingState || MDIForm::current() == nullptr || !isHidden()) return;
     MDIForm::current()->activateBehind(this);
     MDIForm::current()->childChanged();
 }

@@ -4,6 +4,7 @@
 #include <QMdiSubWindow>
 
 class Form;
+class QWindowStateChangeEvent;
 
 /// Its close box asks the form, which alone decides.
 class ChildFrame : public QMdiSubWindow {
@@ -22,6 +23,10 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void stateChanged(QWindowStateChangeEvent *event);
+
     QPointer<QWidget> m_content;
     Form *m_form;
+    /// Between two window states the frame is hidden for a moment, which is no leaving.
+    bool m_changingState = false;
 };

@@ -1,6 +1,5 @@
 #include "platform/forms/common_dialog.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -8,7 +7,9 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "platform/forms/help_context.h"
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/modality.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/pointer_pause.h"
 #include "platform/runtime/runtime_error.h"
@@ -122,8 +123,10 @@ void CommonDialog::take(const QString &chosen) {
 }
 
 QString CommonDialog::ask(bool save, const QString &folder, const QString &name) const {
-    FileDialog dialog(QApplication::activeWindow(), DialogTitle, folder);
+    FileDialog dialog(Modality::front(), DialogTitle, folder);
     dialog.setObjectName(QStringLiteral("CommonDialog"));
+    if (!Topic.isEmpty()) HelpContext::set(dialog, Topic);
+    Modality::narrow(dialog); // now, for where the desktop shows a dialog of its own instead
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (!Filter.isEmpty()) dialog.setNameFilters(nameFilters(Filter));

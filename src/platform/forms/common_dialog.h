@@ -18,6 +18,8 @@ public:
     /// Such as ".txt". To save, it is put behind every name that does not end in it; to open, behind a name
     /// without any extension.
     QString DefaultExt;
+    /// Of the help; see HelpContext.
+    QString Topic;
     /// Cancel raises 32755; otherwise it leaves FileName as it was.
     bool CancelError = false;
 

@@ -14,8 +14,10 @@
 #include "platform/forms/forms.h"
 #include "platform/forms/mdi_form.h"
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/modality.h"
 #include "platform/forms/platform_style.h"
 #include "platform/forms/pointer_pause.h"
+#include "platform/forms/screen.h"
 #include "platform/runtime/runtime_error.h"
 
 Form::Form(const QString &name, Kind kind)
@@ -81,6 +83,11 @@ void Form::setIcon(const QIcon &icon) {
     if (m_frame) m_frame->setWindowIcon(icon);
 }
 
+void Form::bringUp() {
+    if (WindowState() == vbMinimized) setWindowState(vbNormal);
+    SetFocus();
+}
+
 void Form::setDefaultButton(QAbstractButton *button) {
     m_defaultButton = button;
 }
@@ -131,7 +138,7 @@ void Form::ShowModal(QWidget *owner) {
         if (!drive) return;
     }
 
-    const QPointer<QWidget> below = owner != nullptr ? owner : QApplication::activeWindow();
+    const QPointer<QWidget> below = owner != nullptr ? owner : Modality::front();
     standAbove(below);
     const PointerPause pause;
     QEventLoop loop;
@@ -162,10 +169,12 @@ void Form::ShowModal(QWidget *owner) {
 }
 
 void Form::standAbove(QWidget *owner) {
-    setWindowModality(Qt::ApplicationModal);
     const bool stands = owner != nullptr && owner->isVisible() && owner->window() != this;
+    setWindowModality(stands ? Qt::WindowModal : Qt::ApplicationModal);
     if (stands && !testAttribute(Qt::WA_Moved))
         move(owner->window()->frameGeometry().center() - rect().center());
+    m_fitted = false;
+    Screen::fit(*this);
     // No widget parent: an owner that goes must not take the form with it.
     create();
     windowHandle()->setTransientParent(stands ? owner->window()->windowHandle() : nullptr);
@@ -229,6 +238,9 @@ void Form::keyPressEvent(QKeyEvent *event) {
 
 bool Form::event(QEvent *event) {
     const bool handled = QWidget::event(event);
-    if (event->type() == QEvent::WindowActivate && !isMdiChild()) becomeActive();
+    if (event->type() == QEvent::WindowActivate && !isMdiChild()) {
+        activatedByDesktop();
+        becomeActive();
+    }
     return handled;
 }

@@ -26,9 +26,13 @@ public:
 
     bool isMdiChild() const { return m_kind == Kind::MdiChild; }
 
-    /// Shows a form of its own above `owner` (without one, above the active form) and returns when it is
-    /// hidden or unloaded; every other window is disabled meanwhile. Raises 400 when it already shows.
+    /// Shows a form of its own above `owner` (without one, above the form in front) and returns when it is
+    /// hidden or unloaded; the other forms are disabled meanwhile. It is moved and made smaller where it
+    /// would not fit on the screen. Raises 400 when it already shows.
     void ShowModal(QWidget *owner = nullptr);
+
+    /// SetFocus, and out of the minimised state.
+    void bringUp();
 
     /// Whether the user can change its size; sizable at first.
     void setSizable(bool sizable);

@@ -5,6 +5,7 @@
 #include "platform/forms/application.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/platform_style.h"
+#include "platform/forms/screen.h"
 #include "platform/runtime/twips.h"
 
 namespace {
@@ -180,6 +181,12 @@ void FormBase::shown() {
     m_everShown = true;
     m_resizePending = false;
     Application::guarded([this] { Form_Resize(); });
+}
+
+void FormBase::activatedByDesktop() {
+    if (m_fitted) return;
+    m_fitted = true;
+    Screen::fit(*asWidget());
 }
 
 void FormBase::becomeActive() {

@@ -102,9 +102,13 @@ protected:
     void sizeChanged();
     void shown();
     void becomeActive();
+    /// Of a window of its own, when the desktop has put its frame around it: the first time only, since from
+    /// then on its place is the user's.
+    void activatedByDesktop();
 
 private:
     friend class Forms;
+    friend class Form;
     friend class MDIForm;
     friend class ChildFrame;
     enum class Phase { New, Loading, Loaded, Unloading, Unloaded };
@@ -116,5 +120,6 @@ private:
     Phase m_phase = Phase::New;
     int m_mousePointer = vbDefault;
     bool m_everShown = false;
+    bool m_fitted = false;
     bool m_resizePending = false;
 };

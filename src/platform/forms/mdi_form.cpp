@@ -1,9 +1,12 @@
 #include "platform/forms/mdi_form.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScopedValueRollback>
 
 #include "platform/forms/child_frame.h"
 #include "platform/forms/colours.h"
@@ -14,8 +17,14 @@
 #include "platform/runtime/runtime_error.h"
 
 namespace {
+
 MDIForm *theMainWindow = nullptr;
+
+bool isMinimised(const Form *form) {
+    return form->WindowState() == vbMinimized;
 }
+
+} // namespace
 
 MDIForm::MDIForm(const QString &name)
     : m_area(new QMdiArea)
@@ -26,7 +35,8 @@ MDIForm::MDIForm(const QString &name)
     setContextMenuPolicy(Qt::PreventContextMenu); // else a right click could hide the tool bar past the menu
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    // A window that cannot be maximised must not become so because the one before it was.
+    // A window that cannot be maximised must not become so because the one before it was; the area itself
+    // would not ask.
     m_area->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     setBackColor(m_backColor);
     setCentralWidget(m_area);
@@ -78,10 +88,16 @@ Form *MDIForm::activeChild() const {
 
 void MDIForm::activateNextChild(bool backward) {
     const QList<Form *> shown = visibleChildren();
-    if (shown.isEmpty()) return;
-    const qsizetype at = shown.indexOf(activeChild());
-    const qsizetype next = at < 0 ? 0 : (at + (backward ? shown.size() - 1 : 1)) % shown.size();
-    shown.at(next)->SetFocus();
+    const bool allMinimised = std::all_of(shown.begin(), shown.end(), isMinimised);
+    const qsizetype count = shown.size();
+    qsizetype at = shown.indexOf(activeChild());
+    if (at < 0) at = backward ? 0 : count - 1;
+    for (qsizetype step = 1; step <= count; ++step) {
+        Form *next = shown.at((at + (backward ? count - step : step)) % count);
+        if (isMinimised(next) && !allMinimised) continue;
+        next->bringUp();
+        return;
+    }
 }
 
 void MDIForm::setBackColor(int colour) {
@@ -103,20 +119,46 @@ void MDIForm::removeChild(ChildFrame *frame) {
     childChanged();
 }
 
-void MDIForm::activateBehind(const ChildFrame *hidden) {
-    if (m_area->currentSubWindow() != hidden) return;
-    const QList<QMdiSubWindow *> stack = m_area->subWindowList(QMdiArea::StackingOrder);
-    for (auto frame = stack.crbegin(); frame != stack.crend(); ++frame)
-        if (*frame != hidden && !(*frame)->isHidden()) {
-            m_area->setActiveSubWindow(*frame);
-            return;
-        }
+void MDIForm::activateBehind(const ChildFrame *leaving) {
+    if (m_area->currentSubWindow() != leaving) return;
+    ChildFrame *next = nullptr;
+    const QList<QMdiSubWindow *> stack = m_area->subWindowList(QMdiArea::ActivationHistoryOrder);
+    for (auto frame = stack.crbegin(); frame != stack.crend(); ++frame) {
+        if (*frame == leaving || (*frame)->isHidden()) continue;
+        const bool better = next == nullptr || (next->isMinimized() && !(*frame)->isMinimized());
+        if (better) next = static_cast<ChildFrame *>(*frame);
+    }
+    // Where all are minimised the last one stays the active one.
+    if (next == nullptr || (next->isMinimized() && leaving->isMinimized())) return;
+    m_area->setActiveSubWindow(next);
+    const bool handsOn = leaving->isMaximized() && !next->isMinimized();
+    if (handsOn && next->windowFlags().testFlag(Qt::WindowMaximizeButtonHint)) next->showMaximized();
+}
+
+/// The title, the boxes in the menu bar and what the commands act on are then those of one child.
+void MDIForm::takeMaximisedStateOver(ChildFrame &active) {
+    // A frame that changes its state is hidden for a moment, and the focus then wakes any other.
+    const QScopedValueRollback handingOver(m_handingOver, true);
+    bool takesOver = false;
+    for (QMdiSubWindow *frame : m_area->subWindowList()) {
+        if (frame == &active || frame->isHidden() || !frame->isMaximized()) continue;
+        frame->setWindowState(frame->windowState() & ~Qt::WindowMaximized);
+        takesOver = true;
+    }
+    if (!takesOver) return;
+    if (active.windowFlags().testFlag(Qt::WindowMaximizeButtonHint) && !active.isMinimized())
+        active.showMaximized();
+    else
+        active.raise(); // above the one that was restored
+    m_area->setActiveSubWindow(&active);
 }
 
 void MDIForm::frameActivated(QMdiSubWindow *frame) {
     // Null says that the whole main window is no longer the active one: its active child stays what it was.
-    if (frame == nullptr) return;
-    if (Form *form = static_cast<ChildFrame *>(frame)->form()) form->becomeActive();
+    if (frame == nullptr || m_handingOver) return;
+    auto &active = *static_cast<ChildFrame *>(frame);
+    takeMaximisedStateOver(active);
+    if (Form *form = active.form()) form->becomeActive();
     childChanged();
 }
 
@@ -139,7 +181,7 @@ void MDIForm::childChanged() {
         action->setChecked(form == activeChild());
         // Later, since taking the focus makes this list anew.
         connect(
-            action, &QAction::triggered, form, [form] { form->SetFocus(); }, Qt::QueuedConnection);
+            action, &QAction::triggered, form, [form] { form->bringUp(); }, Qt::QueuedConnection);
         m_windowListActions.append(action);
     }
 }
@@ -182,6 +224,7 @@ void MDIForm::changeEvent(QEvent *event) {
 bool MDIForm::event(QEvent *event) {
     const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::WindowActivate) {
+        activatedByDesktop();
         if (Form *child = activeChild())
             child->becomeActive();
         else

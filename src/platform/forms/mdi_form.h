@@ -10,7 +10,10 @@ class ChildFrame;
 class Form;
 class MenuEntry;
 
-/// At most one exists at a time. Unloading it first asks itself and then every child, and goes on only when
+/// At most one exists at a time. At most one child is maximised, and it is the active one: the next that
+/// becomes active takes the state over where it can be maximised.
+///
+///  Unloading it first asks itself and then every child, and goes on only when
 /// none cancels: the children unload first, then it.
 class MDIForm : public QMainWindow, public FormBase {
     Q_OBJECT
@@ -31,7 +34,8 @@ public:
     Form *activeChild() const;
     /// The children that show, in the order of their making.
     QList<Form *> visibleChildren() const;
-    /// What Ctrl+Tab does: the next visible child in the order of their making comes to the front.
+    /// What Ctrl+Tab does: the next visible child in the order of their making comes to the front. It passes
+    /// minimised ones, and restores one where there is no other.
     void activateNextChild(bool backward = false);
 
     /// The colour of the empty work area: a colour number, or a system colour.
@@ -68,7 +72,9 @@ private:
     void removeChild(ChildFrame *frame);
     /// A child was shown, hidden, activated or renamed.
     void childChanged();
-    void activateBehind(const ChildFrame *hidden);
+    /// The child leaves the front, hidden or minimised: the one used before it comes forward.
+    void activateBehind(const ChildFrame *leaving);
+    void takeMaximisedStateOver(ChildFrame &active);
     void frameActivated(QMdiSubWindow *frame);
     QList<Form *> forms() const;
     bool childKey(const QKeyEvent &event);
@@ -77,4 +83,5 @@ private:
     int m_backColor;
     QPointer<MenuEntry> m_windowList;
     QList<QAction *> m_windowListActions;
+    bool m_handingOver = false;
 };

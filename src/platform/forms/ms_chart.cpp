@@ -95,6 +95,10 @@ ChartPicture MSChart::picture(QSize size) const {
     return drawChart(content(), size, ChartMedium::Paper);
 }
 
+QSize MSChart::smallestSize() const {
+    return smallestChart(content());
+}
+
 void MSChart::changed() {
     m_screen = {};
     const QString title = m_content.title.simplified();
@@ -104,9 +108,11 @@ void MSChart::changed() {
         for (const ChartSeries &series : content().series)
             curves.append(series.label.simplified());
     }
-    const QString x = m_content.axisTitle[0].simplified();
-    const QString y = m_content.axisTitle[1].simplified();
-    const QString axes = x.isEmpty() || y.isEmpty() ? x + y : tr("%1 over %2").arg(y, x);
+    // Curves that are bands of one property have it in the title alone.
+    const QString over = m_content.axisTitle[0].simplified();
+    const QString up = m_content.axisTitle[1].simplified();
+    const QString what = up.isEmpty() ? title : up;
+    const QString axes = what.isEmpty() || over.isEmpty() ? what + over : tr("%1 over %2").arg(what, over);
     setAccessibleDescription(curves.isEmpty() ? axes : tr("%1. Curves: %2").arg(axes, curves.join(", ")));
     update();
 }

@@ -55,6 +55,8 @@ public:
     /// The chart for a report, laid out for `size` pixels of 1/96 inch.
     ChartPicture picture(QSize size) const;
 
+    /// At which title, legend and axes are whole.
+    QSize smallestSize() const;
     QSize sizeHint() const override { return {480, 300}; }
 
 protected:

@@ -2,13 +2,11 @@
 
 #include <vector>
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "platform/forms/form_base.h"
-#include "platform/forms/forms.h"
 #include "platform/forms/modal_seam.h"
+#include "platform/forms/modality.h"
 #include "platform/forms/pointer_pause.h"
 #include "platform/runtime/app.h"
 
@@ -54,13 +52,6 @@ QMessageBox::Icon iconOf(int style) {
     }
 }
 
-/// What the box stands above: where the desktop has not made a window the active one yet, the form used last.
-QWidget *owner() {
-    if (QWidget *window = QApplication::activeWindow()) return window;
-    FormBase *form = Forms::active();
-    return form != nullptr ? form->asWidget()->window() : nullptr;
-}
-
 /// Cut off from the box, which would close at it as at any other button.
 void addHelpButton(QMessageBox &box, const std::function<void()> &help) {
     QPushButton *button = box.addButton(QMessageBox::Help);
@@ -81,7 +72,7 @@ int MsgBox(const QString &text, int style, const QString &title, const std::func
         request.help = help;
         return seam->takeMsgBoxAnswer(request);
     }
-    QMessageBox box(owner());
+    QMessageBox box(Modality::front());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")));

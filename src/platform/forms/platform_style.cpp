@@ -1,5 +1,7 @@
 #include "platform/forms/platform_style.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QPainter>
 #include <QSize>
@@ -11,6 +13,11 @@ namespace {
 
 constexpr int frameWidth = 3;
 constexpr int titleBarHeight = 22;
+
+bool turnsByWheel(const QWidget *widget) {
+    return qobject_cast<const QComboBox *>(widget) != nullptr ||
+           qobject_cast<const QAbstractSpinBox *>(widget) != nullptr;
+}
 
 /// The picture of a window on a plate, for its colours may be those of the bar.
 void drawIcon(QPainter *painter, const QRect &place, const QIcon &icon) {
@@ -72,6 +79,25 @@ void PlatformStyle::drawTitleBar(const QStyleOptionTitleBar &bar, QPainter *pain
     painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
                       bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, place.width()));
     painter->restore();
+}
+
+void PlatformStyle::polish(QWidget *widget) {
+    QProxyStyle::polish(widget);
+    if (!turnsByWheel(widget)) return;
+    if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(this);
+}
+
+void PlatformStyle::unpolish(QWidget *widget) {
+    if (turnsByWheel(widget)) widget->removeEventFilter(this);
+    QProxyStyle::unpolish(widget);
+}
+
+bool PlatformStyle::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
+        return QProxyStyle::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 QSize PlatformStyle::frameSize() {

@@ -18,6 +18,13 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget) const override;
 
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+    /// A list or a number that has not the focus leaves the wheel to the page that it stands on.
+    void polish(QWidget *widget) override;
+    void unpolish(QWidget *widget) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     /// What the frame of a window takes beside its content, in pixels.
     static QSize frameSize();
 
