@@ -134,6 +134,8 @@ private:
         if (ending.status == 0 && keptSettings) return;
         std::printf("%s seed %u, status %d%s; the last actions:\n", allowed ? "allowed:" : "FAULT:", seed,
                     ending.status, keptSettings ? "" : ", settings lost");
+        for (const QString &warning : ending.noted("Qt warns: "))
+            std::printf("    Qt warns: %s\n", qPrintable(warning));
         for (const QString &action : done.mid(std::max<qsizetype>(0, done.size() - ActionsTold)))
             std::printf("    %s\n", qPrintable(action));
         const qsizetype last = ending.log.lastIndexOf("do: " + (done.isEmpty() ? QString() : done.last()));

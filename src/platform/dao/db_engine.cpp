@@ -38,6 +38,8 @@ DBEngine &DBEngine::instance() {
 
 std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclusive, bool,
                                                  const QString &connect) {
+    // a damaged path, which Qt and the system would end at different places
+    if (path.contains(QChar::Null)) throw RuntimeError(3024, QString("Could not find file '%1'.").arg(path));
     const QFileInfo file(path);
     const QString fullPath = file.absoluteFilePath();
     m_open.removeIf([](const auto &entry) { return entry.value().expired(); });
