@@ -211,6 +211,7 @@ TEST_F(GridInput, TheMenuCopiesWithHeadings) {
         for (const QAction *entry : menu->actions())
             entries << entry->text().remove('&') + ": " + entry->shortcut().toString();
         QTest::keyClick(menu, Qt::Key_H);
+        menu->close();
     });
     QContextMenuEvent byKey(QContextMenuEvent::Keyboard, cell(1, 0), view->mapToGlobal(cell(1, 0)));
     QApplication::sendEvent(view, &byKey);

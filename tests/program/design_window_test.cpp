@@ -101,7 +101,9 @@ TEST(DesignWindowTest, AreCopiedWithTheCaptionsOfTheirTables) {
     auto *view = window.tdbDesign->findChild<QTableView *>();
     const auto cell = [view](int row, int column) { return view->model()->index(row, column); };
     view->selectionModel()->select({cell(1, 1), cell(4, 1)}, QItemSelectionModel::ClearAndSelect);
-    view->findChild<QAction *>("CopyWithHeadings")->trigger();
+    auto *copy = view->findChild<QAction *>("CopyWithHeadings");
+    ASSERT_NE(copy, nullptr);
+    copy->trigger();
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               "Rp0,2 [MPa]\t(  ) - 16mm\n\t(220)\n\t\nRp1,0 [MPa]\t[MPa]\n\t245,25");
 }
