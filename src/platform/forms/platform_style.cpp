@@ -39,6 +39,9 @@ void PlatformStyle::polish(QWidget *widget) {
     QProxyStyle::polish(widget);
     auto *label = qobject_cast<QLabel *>(widget);
     if (label != nullptr && label->textFormat() == Qt::AutoText) label->setTextFormat(Qt::PlainText);
+    if (!turnsByWheel(widget)) return;
+    if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(this);
 }
 
 int PlatformStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const {
@@ -79,13 +82,6 @@ void PlatformStyle::drawTitleBar(const QStyleOptionTitleBar &bar, QPainter *pain
     painter->drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
                       bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, place.width()));
     painter->restore();
-}
-
-void PlatformStyle::polish(QWidget *widget) {
-    QProxyStyle::polish(widget);
-    if (!turnsByWheel(widget)) return;
-    if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
-    widget->installEventFilter(this);
 }
 
 void PlatformStyle::unpolish(QWidget *widget) {

@@ -12,15 +12,14 @@ class PlatformStyle : public QProxyStyle {
 public:
     PlatformStyle();
 
-    using QProxyStyle::polish;
-    void polish(QWidget *widget) override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget) const override;
 
     using QProxyStyle::polish;
     using QProxyStyle::unpolish;
-    /// A list or a number that has not the focus leaves the wheel to the page that it stands on.
+    /// Labels show plain text. A list or a number that has not the focus leaves the wheel to the page that it
+    /// stands on.
     void polish(QWidget *widget) override;
     void unpolish(QWidget *widget) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
