@@ -155,6 +155,9 @@ TEST_F(HelpFile, ItsKeysDoWhatTheKeyboardTopicSays) {
     for (const auto &[letter, name] : pages) {
         press(letter);
         EXPECT_EQ(page(), name);
+        if (letter == Qt::Key_I) {
+            EXPECT_EQ(viewer()->focusWidget()->objectName(), "HelpIndexFilter");
+        }
     }
     press(Qt::Key_Escape, Qt::NoModifier);
     EXPECT_FALSE(viewer() != nullptr && viewer()->isVisible());

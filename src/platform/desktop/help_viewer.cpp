@@ -183,7 +183,8 @@ void HelpViewer::open(HelpCommand command, const QString &topic) {
     show();
     raise();
     activateWindow();
-    if (command != HelpTopic) m_pages->currentWidget()->setFocus();
+    QWidget *used = command == HelpTopic ? m_browser : m_pages->currentWidget();
+    used->setFocus();
 }
 
 QUrl HelpViewer::urlOfTopic(const QString &topic) const {
