@@ -39,8 +39,8 @@ protected:
         view = grid.findChild<QTableView *>();
         footer = grid.findChild<GridFooter *>();
         grid.setFocus();
-        QApplication::setActiveWindow(&window);
-        QTest::qWait(0);
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     QPoint cell(int row, int column) { return view->visualRect(view->model()->index(row, column)).center(); }

@@ -291,7 +291,8 @@ TEST_F(MaterialWindow, TellsThatThereIsNoData) {
 
 TEST_F(MaterialWindow, TheKeyboardStaysOnTheButtonThatStandsInForTheOther) {
     frmMaterial2 &window = show(P265GH, "Rp02");
-    QApplication::setActiveWindow(window.window());
+    window.window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.window()));
     const auto pressed = [](QPushButton *button) {
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Space);

@@ -118,6 +118,8 @@ QByteArray withOutline(const QByteArray &bytes, const Document &document) {
         Object information = trailer.getKey("/Info");
         information.replaceKey("/Title", pdfText(document.title));
         information.replaceKey("/Author", pdfText(document.author));
+        // Newer versions of Qt say it once more as XMP, with an identity by chance and without the author.
+        pdf.getRoot().removeKey("/Metadata");
         if (!document.headings.empty()) addOutline(pdf, document);
         return written(pdf);
     } catch (const QPDFExc &) {
