@@ -9,7 +9,7 @@ namespace {
 
 /// A button that stands in for the one just pressed takes the keyboard over; else it goes wherever.
 void passFocus(const QWidget *leaving, QWidget *coming) {
-    if (leaving->hasFocus()) coming->setFocus();
+    if (leaving->window()->focusWidget() == leaving) coming->setFocus();
 }
 
 } // namespace

@@ -289,29 +289,6 @@ TEST_F(MaterialWindow, TellsThatThereIsNoData) {
     EXPECT_TRUE(window.CommandShowGraph->isVisible());
 }
 
-TEST_F(MaterialWindow, TheKeyboardStaysOnTheButtonThatStandsInForTheOther) {
-    frmMaterial2 &window = show(P265GH, "Rp02");
-    window.window()->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.window()));
-    const auto pressed = [](QPushButton *button) {
-        button->setFocus();
-        QTest::keyClick(button, Qt::Key_Space);
-        return QApplication::focusWidget();
-    };
-    EXPECT_EQ(pressed(window.CommandShowGraph), window.CommandShowTable);
-    EXPECT_EQ(pressed(window.CommandShowTable), window.CommandShowGraph);
-    window.ShowTable("CreepProp");
-    EXPECT_EQ(pressed(window.cmdUnBoundGraph), window.cmdUnBoundTable);
-    EXPECT_EQ(pressed(window.cmdUnBoundTable), window.cmdUnBoundGraph);
-}
-
-TEST_F(MaterialWindow, TellsAScreenReaderTheAxesThatHaveTitles) {
-    frmMaterial2 &window = show(P265GH, "Rp02");
-    EXPECT_TRUE(window.MSChart1->accessibleDescription().startsWith("Temperature [°C]. Curves: "));
-    window.ShowTable("ModElast");
-    EXPECT_EQ(window.MSChart1->accessibleDescription(), "[kN/mm] over Temperature [°C]");
-}
-
 TEST_F(MaterialWindow, AValueInANarrowColumnIsMarkedAndToldWhole) {
     const std::pair<int, const char *> firstCells[] = {{17, "180"}, {18, "204"}, {19, "200"}, {20, "191"}};
     for (const auto &[matID, value] : firstCells) {

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int Grades = 38;
 
-SamplePage shown(const TDBGrid &grid) {
+SamplePage shown(TDBGrid &grid) {
     SamplePage page;
     if (grid.isHidden()) return page;
     QList<int> columns;
@@ -59,7 +59,7 @@ TEST_F(SampleOnScreen, EveryTableHasItsHeadingsRowsAndNotes) {
         for (int i = 1; i < TableVocabulary::TableCount - 1; ++i) {
             const QString key = TableVocabulary::GetShortTableName(i);
             window.ShowTable(key);
-            const TDBGrid &grid = TableVocabulary::isUnbound(key) ? *window.tdbTable : *window.tdbBoundTable;
+            TDBGrid &grid = TableVocabulary::isUnbound(key) ? *window.tdbTable : *window.tdbBoundTable;
             const SamplePage page = shown(grid);
             const SamplePage expected = sample.page(matID, key);
             EXPECT_TRUE(page == expected) << matID << ' ' << key.toStdString() << "\nis\n"

@@ -24,8 +24,11 @@ public:
     const FieldDefinitions &fields() const override { return m_fields; }
     int count() const override { return static_cast<int>(m_rows.size()); }
     QVariant value(int row, int column) const override {
-        if (m_fields[column].type == FieldType::Unsupported) throw RuntimeError(3259);
+        checkReadable(column);
         return m_rows[static_cast<std::size_t>(row)][column];
+    }
+    void checkReadable(int column) const override {
+        if (m_fields[column].type == FieldType::Unsupported) throw RuntimeError(3259);
     }
     int find(const QString &, int, int) const override { return -1; }
 

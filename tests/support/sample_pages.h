@@ -125,7 +125,7 @@ private:
             page.rows[0] << text(limits[i], "val");
             page.rows[1] << text(limits[i + 1], "val");
         }
-        return limits.isEmpty() ? SamplePage{{""}, {{""}}} : page;
+        return limits.isEmpty() ? SamplePage{{""}, {}} : page;
     }
 
     SamplePage unbound(int matID, const QString &key, const Rows &definitions, const QString &cells) {

@@ -104,6 +104,7 @@ void GridModel::onColumnChanged(const GridColumn &column) {
     const auto found = std::find_if(m_columns.begin(), m_columns.end(),
                                     [&column](const auto &own) { return own.get() == &column; });
     findFields();
+    checkReadable(); // not in the middle of painting
     Q_EMIT columnChanged(static_cast<int>(found - m_columns.begin()));
 }
 
