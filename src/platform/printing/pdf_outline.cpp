@@ -1,5 +1,7 @@
 #include "platform/printing/pdf_outline.h"
 
+#include <stdexcept>
+
 #include <QCryptographicHash>
 
 #include <qpdf/QPDF.hh>
@@ -122,7 +124,7 @@ QByteArray withOutline(const QByteArray &bytes, const Document &document) {
         pdf.getRoot().removeKey("/Metadata");
         if (!document.headings.empty()) addOutline(pdf, document);
         return written(pdf);
-    } catch (const QPDFExc &) {
+    } catch (const std::runtime_error &) { // its own QPDFExc, or since version 12 the base of that
         throw RuntimeError(321);
     }
 }
