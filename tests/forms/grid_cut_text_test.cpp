@@ -78,7 +78,7 @@ protected:
     }
     /// The ink of the first heading. The second one keeps the height, and with it the ground of both.
     QImage inkOfHeading(const QString &text, double width) {
-        grid.Columns(1).setCaption("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12");
+        grid.Columns(1).setCaption(QString("1234 ").repeated(12)); // one line that wraps
         grid.Columns(0).setWidth(width);
         grid.Columns(0).setCaption(text);
         const QImage full = headingPicture(0);
