@@ -14,7 +14,7 @@
 #include "bench/rows.h"
 #include "bench/samples.h"
 #include "platform/runtime/text_file.h"
-#include "shell/modFileHandler.h"
+#include "data/modFileHandler.h"
 
 namespace Bench {
 

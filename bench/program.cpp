@@ -11,6 +11,8 @@
 #include <QHash>
 
 #include "data/modDBase.h"
+#include "data/modFileHandler.h"
+#include "data/program_version.h"
 #include "material/frmMaterial2.h"
 #include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
@@ -19,8 +21,7 @@
 #include "platform/forms/screen.h"
 #include "search/frmSearch.h"
 #include "shell/mdiVelmar.h"
-#include "shell/modFileHandler.h"
-#include "shell/program_version.h"
+#include "start/program_start.h"
 
 namespace Bench {
 
@@ -76,6 +77,7 @@ Folders::Folders(const QString &database)
     : m_userBefore(qgetenv("APPDATA")) {
     qputenv("APPDATA", m_user.path().toUtf8());
     ProgramVersion::apply(m_folder.path());
+    ProgramStart::installActions();
     Screen::setSizeForTest({1280, 1024});
     QFile::link(QFileInfo(database).absoluteFilePath(), m_folder.filePath("Velmar_PED.mdb"));
     modFileHandler::SetupFileEnvironment();

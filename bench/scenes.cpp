@@ -10,7 +10,7 @@
 #include "bench/reports.h"
 #include "material/frmMaterial2.h"
 #include "platform/forms/default_instance.h"
-#include "shell/frmSplash.h"
+#include "start/frmSplash.h"
 
 namespace Bench {
 

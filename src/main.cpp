@@ -1,6 +1,6 @@
 // The program: says who it is, shows the start window, and runs until its last window is gone.
 #include "platform/forms/application.h"
-#include "shell/program_start.h"
+#include "start/program_start.h"
 
 int main(int argc, char **argv) {
     Application application(argc, argv);

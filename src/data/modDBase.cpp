@@ -3,19 +3,18 @@
 #include <QDateTime>
 #include <QFile>
 
+#include "data/DatabaseHost.h"
+#include "data/modFileHandler.h"
 #include "data/passing_up.h"
 #include "data/path_file.h"
 #include "platform/dao/database.h"
 #include "platform/dao/db_engine.h"
 #include "platform/dao/recordset.h"
-#include "platform/forms/common_dialog.h"
-#include "platform/forms/msg_box.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/text_file.h"
-#include "shell/modFileHandler.h"
 
 namespace modDBase {
 
@@ -37,27 +36,18 @@ constexpr int FileNotFound = 3024;
 constexpr int PathNotValid = 3044;
 constexpr int WrongFormat = 3343;
 
-/// The loop of the file dialog. Empty when the user gives up.
-QString LocateDatabase(CommonDialog &dialog, const QString &dbName) {
+/// The loop of the choice. Empty when the user gives up.
+QString LocateDatabase(DatabaseHost &host, const QString &dbName) {
     for (;;) {
-        dialog.InitDir = App::current().path + '/';
-        dialog.DialogTitle = "Locate " + dbName + "...";
-        dialog.FileName = dbName;
-        dialog.Filter = "Access files (*.mdb)|*.mdb";
-        dialog.CancelError = true;
-        try {
-            dialog.ShowOpen();
-        } catch (const RuntimeError &) {
-            return {};
-        }
-        const QString chosen = dialog.FileName;
-        if (CheckName(chosen, dbName)) {
+        const std::optional<QString> chosen = host.locate(dbName);
+        if (!chosen) return {};
+        if (CheckName(*chosen, dbName)) {
             state.bPathChanged = true;
-            return chosen;
+            return *chosen;
         }
-        const QString text = "You attempted to open wrong file." + LineEnd + LineEnd + '\'' + chosen + '\'' +
+        const QString text = "You attempted to open wrong file." + LineEnd + LineEnd + '\'' + *chosen + '\'' +
                              LineEnd + LineEnd + "Do you wish to try again ?";
-        if (MsgBox(text, vbYesNo + vbInformation, "Wrong Path...") != vbYes) {
+        if (!host.ask(DatabaseQuestion::ChooseAgain, text, "Wrong Path...")) {
             state.bPathChanged = true;
             return {};
         }
@@ -83,23 +73,24 @@ void writeErrorLog(const QStringList &lines) {
                          log);
 }
 
-void logError(const RuntimeError &error) {
+void logError(DatabaseHost &host, const RuntimeError &error) {
     const QStringList lines = {
         "Error No. - " + QString::number(error.number()), "Application EXE - " + App::current().exeName,
         "Sub/Function - modDBase.OpenDBase", "Error Description - ", error.description()};
     // the folder named is not the one written to when the user has a folder of his own: it has always been so
-    MsgBox(lines.join(LineEnd) + LineEnd + LineEnd + "Error Log - '" + LogName + "' has been created at..." +
-               LineEnd + modFileHandler::GetUserFolder() + '/' + LineEnd +
-               "Report Error To Supplier, sending a copy of the Error Log",
-           vbOKOnly, "Error Occurred!!");
+    host.tell(lines.join(LineEnd) + LineEnd + LineEnd + "Error Log - '" + LogName +
+                  "' has been created at..." + LineEnd + modFileHandler::GetUserFolder() + '/' + LineEnd +
+                  "Report Error To Supplier, sending a copy of the Error Log",
+              "Error Occurred!!");
     writeErrorLog(lines);
 }
 
 /// A file server may only have to wake.
-bool waitsOn(const QString &path) {
-    return MsgBox("The database file does not answer." + LineEnd + LineEnd + path + LineEnd + LineEnd +
-                      "Do you wish to wait on?",
-                  vbYesNo + vbExclamation, "Database Not Answering") == vbYes;
+bool waitsOn(DatabaseHost &host, const QString &path) {
+    return host.ask(DatabaseQuestion::WaitOn,
+                    "The database file does not answer." + LineEnd + LineEnd + path + LineEnd + LineEnd +
+                        "Do you wish to wait on?",
+                    "Database Not Answering");
 }
 
 bool isQuestion(int number) {
@@ -120,10 +111,9 @@ bool bDatabaseFailed() {
     return state.bDatabaseFailed;
 }
 
-bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathFile, bool exclusive,
-               bool readOnly, const QString &password, const QString &missingMessage,
-               const std::function<void()> &help) {
-    DBEngine::instance().setWaitsOn(waitsOn);
+bool OpenDBase(DatabaseHost &host, const QString &dbName, const QString &pathFile, bool exclusive,
+               bool readOnly, const QString &password, const QString &missingMessage) {
+    DBEngine::instance().setWaitsOn([&host](const QString &path) { return waitsOn(host, path); });
     QString path = PathFile::ReadPathFile(pathFile);
     if (path.isEmpty()) path = App::current().path + '/' + dbName;
     for (;;) {
@@ -134,13 +124,13 @@ bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathF
             return true;
         } catch (const RuntimeError &error) {
             if (!isQuestion(error.number())) {
-                logError(error);
+                logError(host, error);
                 break;
             }
             const QString title = error.number() == WrongFormat ? "Wrong file format" : "Database Missing";
             const QString text = questionText(error, path, dbName, missingMessage);
-            if (MsgBox(text, vbYesNo + vbCritical, title, help) != vbYes) break;
-            path = LocateDatabase(comDlg, dbName);
+            if (!host.ask(DatabaseQuestion::LookForAnother, text, title)) break;
+            path = LocateDatabase(host, dbName);
             if (path.isEmpty()) break;
         }
     }

@@ -1,14 +1,13 @@
 // Finds, opens and closes the materials database; small record helpers that the windows share.
 #pragma once
 
-#include <functional>
 #include <memory>
 
 #include <QString>
 #include <QVariant>
 
-class CommonDialog;
 class Database;
+class DatabaseHost;
 class Recordset;
 
 namespace modDBase {
@@ -20,13 +19,12 @@ const QString &strSelectedValue();
 /// OpenDBase gave up.
 bool bDatabaseFailed();
 
-/// Finds the database by the path file in the user's folder, else beside the program, else by asking. Handles
-/// its own errors to the end, with message boxes; True when dbMain is open. `pathFile` and `dbName` are file
-/// names without a folder. `help` shows the help beside the question for the database. From here on a box
-/// asks whether to wait on for a database file that does not answer.
-bool OpenDBase(CommonDialog &comDlg, const QString &dbName, const QString &pathFile, bool exclusive,
-               bool readOnly, const QString &password, const QString &missingMessage,
-               const std::function<void()> &help = {});
+/// Finds the database by the path file in the user's folder, else beside the program, else by asking `host`,
+/// which outlives the open database: it also answers whether to wait on for a file that does not answer.
+/// Handles its own errors to the end; True when dbMain is open. `pathFile` and `dbName` are file names
+/// without a folder.
+bool OpenDBase(DatabaseHost &host, const QString &dbName, const QString &pathFile, bool exclusive,
+               bool readOnly, const QString &password, const QString &missingMessage);
 void CloseDBase();
 /// Whether `path` ends in `name`; capitals count.
 bool CheckName(const QString &path, const QString &name);
@@ -34,10 +32,6 @@ bool CheckName(const QString &path, const QString &name);
 /// 0 first, 1 previous, 2 next, 3 last; never leaves a recordset with rows at its beginning or end of file.
 void RecordNavigate(Recordset &rs, int action);
 
-/// The modal picks. `database` is a path, or "DatabaseName" for the open database. Empty when cancelled.
-QString SelectFromList(const QString &sql, const QString &field, const QString &title,
-                       const QString &database);
-QString SelectStandard(const QString &sql, const QString &database);
 void SetSelectedValue(const QVariant &value);
 
 /// The text of the record whose `keyField` is `id`; empty where there is none or where it is Null. `rs` does

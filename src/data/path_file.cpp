@@ -1,9 +1,9 @@
 #include "data/path_file.h"
 
-#include "platform/desktop/drives.h"
+#include "data/modFileHandler.h"
+#include "platform/runtime/drives.h"
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/text_file.h"
-#include "shell/modFileHandler.h"
 
 namespace PathFile {
 

@@ -1,7 +1,7 @@
 // The source arrays of a material's tables over temperature, which design values are computed from.
 #pragma once
 
-#include "design/source_array.h"
+#include "data/source_array.h"
 
 struct SourceArrays {
     SourceArray aRp02;
@@ -15,4 +15,5 @@ struct SourceArrays {
 
     /// By the table's key. Raises 9 for a key without one.
     SourceArray &of(const QString &key);
+    const SourceArray &of(const QString &key) const { return const_cast<SourceArrays *>(this)->of(key); }
 };

@@ -1,94 +1,59 @@
 #include "design/chart_tables.h"
 
+#include "data/cell_values.h"
+#include "data/source_array.h"
+#include "data/table_vocabulary.h"
 #include "design/value_text.h"
 #include "platform/dao/recordset.h"
-#include "platform/runtime/conversions.h"
 
 namespace {
-
-struct KnownSeries {
-    const char *key;
-    const char *secondField;
-    const char *yAxisTitle;
-};
-
-constexpr KnownSeries Known[] = {
-    {"Rp02", nullptr, "Rp 0,2  [MPa]"},
-    {"Rp10", nullptr, "Rp 1,0  [MPa]"},
-    {"Rm", nullptr, "Rm  [MPa]"},
-    {"ModElast", nullptr, "[kN/mm]"},
-    {"ThermExp", "ThermExpDiff", "[E-6/K]"},
-    {"ThermCond", nullptr, "[W/m*K]"},
-    {"SpecThermCap", "SpecThermCapDiff", "[J/kgK]"},
-    {"SpecElecRes", nullptr, "[MPa]"}, // a resistivity, and yet meant so
-};
 
 ChartTables::SeriesTable bandSeries(const QVector<qint16> &aThickness) {
     ChartTables::SeriesTable table;
     table.ShowLegend = true;
     for (qsizetype i = 1; i < aThickness.size(); ++i) {
-        // Three blanks in the first brackets, where the design values have two: meant so.
+        // Three blanks in the first brackets, where the design values have two: graphs in design files read
+        // so.
         const QString from = i == 1 ? QStringLiteral("   ") : QString::number(aThickness[i - 1]);
-        const QString limit = QString::number(aThickness[i]);
-        table.series << ChartTables::Series{limit, QStringLiteral("(%1) - %2mm").arg(from, limit)};
+        table.legends << QStringLiteral("(%1) - %2mm").arg(from, QString::number(aThickness[i]));
     }
     return table;
 }
 
-// The pair of a value: what is drawn and what stands in the table.
-struct Cell {
-    QVariant chart = QString();
-    QString text;
-};
-
-Cell readCell(const QVariant &value, bool bDecimalPoint) {
-    if (IsNull(value)) return {};
-    const QString text = CStr(value);
+/// What is drawn of a cell.
+QString drawn(const QString &text, bool bDecimalPoint) {
     QString number = ValueText::GetNumberText(text, bDecimalPoint);
     // The chart would read past a point that groups digits, and draw 12.5 as 125 beside a design value of
     // 12,5.
     if (!bDecimalPoint) number.replace(QLatin1Char('.'), QLatin1Char(','));
-    return {number, text};
+    return number;
 }
 
 } // namespace
 
 ChartTables::SeriesTable ChartTables::seriesOf(const QString &key, const QVector<qint16> &aThickness) {
     if (!aThickness.isEmpty()) return bandSeries(aThickness);
-    for (const KnownSeries &known : Known) {
-        if (key != QLatin1String(known.key)) continue;
-        SeriesTable table;
-        table.yAxisTitle = QString::fromLatin1(known.yAxisTitle);
-        if (known.secondField == nullptr) {
-            table.series << Series{key, {}};
-        } else {
-            const QString second = QString::fromLatin1(known.secondField);
-            table.series << Series{key, key} << Series{second, second};
-            table.ShowLegend = true;
-        }
-        return table;
-    }
-    return {};
+    SeriesTable result;
+    const TableVocabulary::Table *table = TableVocabulary::find(key);
+    if (!table || !table->yAxisTitle) return result;
+    result.yAxisTitle = QString::fromUtf16(table->yAxisTitle);
+    result.ShowLegend = table->columns.size() > 1;
+    for (const TableVocabulary::Column &column : table->columns)
+        result.legends << (result.ShowLegend ? QString::fromUtf16(column.field) : QString());
+    return result;
 }
 
-ChartTables::TemperatureArrays ChartTables::temperatureArrays(Recordset &rows, const QVector<Series> &series,
-                                                              bool bDecimalPoint) {
-    const int count = rows.RecordCount();
-    const auto seriesCount = static_cast<int>(series.size());
-    TemperatureArrays arrays{{}, SourceArray(count, seriesCount)};
-    arrays.chart.ReDim(1, count, 0, 2 * seriesCount - 1);
-    rows.MoveFirst();
-    for (int row = 1; row <= count; ++row, rows.MoveNext()) {
-        const QVariant temperature = rows.Fields(QStringLiteral("temp"));
-        if (!IsNull(temperature)) arrays.text.setText(row, 0, CStr(temperature));
-        for (int i = 1; i <= seriesCount; ++i) {
-            const Cell cell = readCell(rows.Fields(series[i - 1].field), bDecimalPoint);
-            arrays.chart.Set(row, 2 * i - 2, temperature);
-            arrays.chart.Set(row, 2 * i - 1, cell.chart);
-            arrays.text.setText(row, i, cell.text);
+XArrayDB ChartTables::temperatureChart(const SourceArray &source, const QVector<QVariant> &temperatures,
+                                       bool bDecimalPoint) {
+    XArrayDB chart;
+    chart.ReDim(1, source.rowCount(), 0, 2 * source.lastColumn() - 1);
+    for (int row = 1; row <= source.rowCount(); ++row) {
+        for (int i = 1; i <= source.lastColumn(); ++i) {
+            chart.Set(row, 2 * i - 2, temperatures[row - 1]);
+            chart.Set(row, 2 * i - 1, drawn(source.text(row, i), bDecimalPoint));
         }
     }
-    return arrays;
+    return chart;
 }
 
 XArrayDB ChartTables::columnPair(Recordset &cells, int count, bool sameColumn, bool bDecimalPoint) {
@@ -97,12 +62,12 @@ XArrayDB ChartTables::columnPair(Recordset &cells, int count, bool sameColumn, b
     for (int column : {0, 1}) {
         if (column == 0 || sameColumn) cells.MoveFirst();
         for (int row = 1; row <= count; ++row) {
-            Cell cell;
+            QString point = QLatin1String("");
             if (!cells.Eof()) {
-                cell = readCell(cells.Fields(QStringLiteral("val")), bDecimalPoint);
+                point = drawn(cellText(cells.Fields(QStringLiteral("val"))), bDecimalPoint);
                 cells.MoveNext();
             }
-            pair.Set(row, column, cell.chart);
+            pair.Set(row, column, point);
         }
     }
     return pair;

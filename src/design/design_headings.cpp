@@ -4,22 +4,6 @@
 
 namespace {
 
-struct KnownHeadings {
-    const char16_t *key;
-    const char16_t *first;
-    const char16_t *second;
-};
-
-constexpr char16_t MegaPascal[] = u"[MPa]";
-
-// These are labelled by their bare key.
-constexpr KnownHeadings LabelledByKey[] = {
-    {u"ThermExp", u"\u00DF20, t [E-6/K]", u"\u00DFdiff, t [E-6/K]"},
-    {u"SpecThermCap", u"Cp20, t [J/kgK]", u"Cp diff, t [J/kgK]"},
-    {u"ThermCond", u"[W/m*K]", nullptr},
-    {u"ModElast", u"[kN/mm]", nullptr},
-};
-
 QStringList bandCaptions(const QVector<qint16> &aThickness) {
     QStringList captions;
     for (qsizetype i = 1; i < aThickness.size(); ++i) {
@@ -37,12 +21,13 @@ DesignHeadings designHeadings(const QString &key, const QVector<qint16> &aThickn
     const QString label = TableVocabulary::GetCaption(key);
     if (key == QLatin1String("CreepProp")) return {label, aCreepCaptions.mid(1)};
     if (!aThickness.isEmpty()) return {label, bandCaptions(aThickness)};
-    for (const KnownHeadings &known : LabelledByKey) {
-        if (key != QStringView(known.key)) continue;
-        QStringList columns{QString::fromUtf16(known.first)};
-        if (known.second != nullptr) columns << QString::fromUtf16(known.second);
-        return {key, columns};
-    }
-    // Also over a resistivity: meant so.
-    return {label, {QString::fromUtf16(MegaPascal)}};
+    const TableVocabulary::Table *table = TableVocabulary::find(key);
+    if (!table) return {label, {}};
+    QStringList columns;
+    if (table->designUnit)
+        columns << QString::fromUtf16(table->designUnit);
+    else
+        for (const TableVocabulary::Column &column : table->columns)
+            columns << QString::fromUtf16(column.heading).simplified();
+    return {table->designByKey ? key : label, columns};
 }

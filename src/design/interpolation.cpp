@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "design/source_array.h"
+#include "data/source_array.h"
 #include "design/value_text.h"
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/runtime_error.h"

@@ -1,18 +1,17 @@
 // The running text of a material's additional information.
 #pragma once
 
-class DataControl;
 class Material;
 class NotesPanel;
+class WindowTables;
 
 class AdditionalInfo {
 public:
-    AdditionalInfo(DataControl &dtaTable, DataControl &dtaOther, NotesPanel &panel);
+    AdditionalInfo(WindowTables &tables, NotesPanel &panel);
 
     void LoadAddInfo(Material &material);
 
 private:
-    DataControl &m_dtaTable;
-    DataControl &m_dtaOther;
+    WindowTables &m_tables;
     NotesPanel &m_panel;
 };

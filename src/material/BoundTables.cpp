@@ -1,35 +1,28 @@
 #include "material/BoundTables.h"
 
 #include "data/cell_values.h"
-#include "data/Material.h"
-#include "data/queries.h"
+#include "data/loaded_table.h"
 #include "data/table_vocabulary.h"
-#include "design/PropertyChart.h"
 #include "material/grid_columns.h"
 #include "material/material_layout.h"
 #include "material/MaterialControls.h"
-#include "material/MaterialSources.h"
 #include "material/NoDataPanel.h"
-#include "material/temperature_columns.h"
-#include "platform/dao/recordset.h"
+#include "material/NotesPanel.h"
+#include "material/PropertyChart.h"
+#include "material/WindowTables.h"
 
 namespace {
 
 constexpr int DesignedColumns = 4;
 constexpr int DesignedTemperatureWidth = 1500;
-constexpr int BandWidth = 900;
-constexpr qint16 NoBands = -1;
-
-void growMaxDesignCols(Material &material, int count) {
-    if (count > material.MaxDesignCols()) material.setMaxDesignCols(static_cast<qint16>(count));
-}
 
 } // namespace
 
-BoundTables::BoundTables(MaterialControls &controls, DataControl &dtaTable, NoDataPanel &noData,
-                         PropertyChart &chart)
+BoundTables::BoundTables(MaterialControls &controls, WindowTables &tables, NotesPanel &notes,
+                         NoDataPanel &noData, PropertyChart &chart)
     : m_controls(controls)
-    , m_dtaTable(dtaTable)
+    , m_tables(tables)
+    , m_notes(notes)
     , m_noData(noData)
     , m_chart(chart) {}
 
@@ -39,11 +32,11 @@ void BoundTables::InitColumns() {
     temperature.setCaption("Temperature " + LineEnd + LineEnd + "[°C]");
     temperature.setDataField("temp");
     temperature.setWidth(DesignedTemperatureWidth);
-    grid.setDataSource(&m_dtaTable);
     grid.Rebind();
 }
 
-/// Meant so: the temperature keeps the width of 1200 from the first reset on.
+/// The temperature keeps the width of 1200 from the first reset on: with its first 1500 a table of six bands
+/// would no longer fit beside its options.
 void BoundTables::ResetColumns() {
     TDBGrid &grid = *m_controls.tdbBoundTable;
     while (grid.ColumnCount() > DesignedColumns)
@@ -53,117 +46,44 @@ void BoundTables::ResetColumns() {
     grid.Columns(2).setVisible(false);
     grid.Columns(3).setVisible(false);
     grid.Rebind();
-    bMultiCol = false;
 }
 
 void BoundTables::LoadBoundTable(Material &material, const QString &key) {
-    const bool elevated = TableVocabulary::isElevated(key);
-    MaterialSources::Run(m_dtaTable, elevated ? Queries::sqlElevatedRows(key, material.ID())
-                                              : Queries::sqlTemperatureRows(key, material.ID()));
-    const bool hasData = m_dtaTable.recordset()->RecordCount() > 0;
-    material.setTableHasData(key, hasData);
-    if (!hasData) m_noData.ShowNoData(material, key);
-
+    const LoadedTable table = m_tables.load(material, key);
+    m_notes.LoadNotes(table);
+    if (!table.noData.isEmpty()) m_noData.ShowNoData(table);
+    setColumns(table);
     TDBGrid &grid = *m_controls.tdbBoundTable;
-    grid.Columns(1).setVisible(true);
-    if (elevated)
-        loadElevated(material, key);
-    else
-        setColumns(key);
-    if (key == QLatin1String("ImpEnergy")) HideEmptyImpactColumns(material);
-    if (key == QLatin1String("ThermExp") || key == QLatin1String("SpecThermCap"))
-        CountTemperatureRows(material);
-    setHeadPictures(key);
-    m_dtaTable.Refresh();
-    if (key != QLatin1String("ImpEnergy")) {
-        m_chart.BuildChart(material, key, *m_dtaTable.recordset()->Clone(),
-                           bMultiCol ? aThickness : QVector<qint16>());
-    }
+    grid.setArray(std::make_shared<XArrayDB>(table.cells));
+    const TableVocabulary::Table *known = TableVocabulary::find(key);
+    if (known && known->yAxisTitle) m_chart.BuildChart(table);
     grid.Rebind();
-    grid.setCaption(TableVocabulary::GetTableName(TableVocabulary::GetTableIndex(key)));
+    grid.setCaption(table.caption);
 }
 
-void BoundTables::setColumns(const QString &key) {
+void BoundTables::setColumns(const LoadedTable &table) {
     TDBGrid &grid = *m_controls.tdbBoundTable;
-    const QVector<TemperatureColumn> columns = temperatureColumns(key);
-    for (int i = 0; i < columns.size(); ++i) {
-        GridColumn &column = grid.Columns(i + 1);
-        column.setDataField(columns[i].field);
-        column.setCaption(columns[i].heading);
-        column.setVisible(true);
+    while (grid.ColumnCount() < table.columns.size())
+        AddGridColumn(grid, {}, table.columns.last().width);
+    for (int i = 1; i < grid.ColumnCount(); ++i) {
+        GridColumn &column = grid.Columns(i);
+        column.setVisible(i < table.columns.size() && !table.columns[i].hidden);
+        if (i >= table.columns.size()) continue;
+        column.setDataField(table.columns[i].field);
+        column.setCaption(table.columns[i].heading);
+        column.setWidth(table.columns[i].width);
     }
-    for (int i = static_cast<int>(columns.size()) + 1; i < DesignedColumns; ++i)
-        grid.Columns(i).setVisible(false);
-}
-
-void BoundTables::setHeadPictures(const QString &key) {
-    const MaterialControls &c = m_controls;
-    const ImageBox *first = nullptr;
-    const ImageBox *second = nullptr;
-    if (key == QLatin1String("ModElast")) first = c.imgPhys(0);
-    if (key == QLatin1String("ThermCond")) first = c.imgPhys(2);
-    if (key == QLatin1String("SpecElecRes")) first = c.imgPhys(4);
-    if (key == QLatin1String("ThermExp")) first = c.imgTherm(0), second = c.imgTherm(1);
-    if (key == QLatin1String("SpecThermCap")) first = c.imgTherm(2), second = c.imgTherm(3);
-    setHeadPicture(1, first);
-    setHeadPicture(2, second);
+    for (const int i : {1, 2})
+        setHeadPicture(i, i < table.columns.size() ? table.columns[i].picture : QString());
 }
 
 /// The heading's text then serves the reports alone.
-void BoundTables::setHeadPicture(int column, const ImageBox *picture) {
+void BoundTables::setHeadPicture(int column, const QString &formula) {
     GridColumn &heading = m_controls.tdbBoundTable->Columns(column);
-    if (picture != nullptr) heading.setHeadPicture(picture->Picture());
-    heading.setPicturePosition(picture != nullptr ? HeadPicturePosition::PictureOnly
-                                                  : HeadPicturePosition::TextOnly);
-}
-
-void BoundTables::HideEmptyImpactColumns(Material &material) {
-    const auto rows = m_dtaTable.recordset()->Clone();
-    if (rows->Eof()) return;
-    const EmptyImpactColumns empty = emptyImpactColumns(*rows);
-    TDBGrid &grid = *m_controls.tdbBoundTable;
-    grid.Columns(1).setVisible(!empty.kv);
-    grid.Columns(2).setVisible(!empty.kvLong);
-    grid.Columns(3).setVisible(!empty.kvTrans);
-    material.setImpEnergyCols(empty.columnsWithValues());
-}
-
-/// Meant so: of these two tables the rows, and not the columns, count as value columns.
-void BoundTables::CountTemperatureRows(Material &material) {
-    growMaxDesignCols(material, m_dtaTable.recordset()->RecordCount());
-}
-
-void BoundTables::loadElevated(Material &material, const QString &key) {
-    const auto rows = m_dtaTable.recordset()->Clone();
-    const bool hasRows = !rows->Eof();
-    bMultiCol = hasRows && CInt(rows->Fields("thickness")) != NoBands;
-    if (hasRows) material.setElevatedMultiCol(key, bMultiCol);
-    if (!bMultiCol) {
-        setColumns(key);
-        return;
-    }
-    // A second band gives the column its heading; without one it stays hidden, and this word with it.
-    m_controls.tdbBoundTable->Columns(2).setCaption("HIHIH");
-    m_controls.tdbBoundTable->Columns(2).setVisible(false);
-    LoadThicknessColumns(material, key);
-}
-
-void BoundTables::LoadThicknessColumns(Material &material, const QString &key) {
-    aThickness = bandLimits(*m_dtaTable.recordset()->Clone());
-    material.setElevatedColumns(key, aThickness);
-    TDBGrid &grid = *m_controls.tdbBoundTable;
-    const int bands = static_cast<int>(aThickness.size()) - 1;
-    while (grid.ColumnCount() < bands + 1)
-        AddGridColumn(grid, {}, BandWidth);
-    for (int band = 1; band <= bands; ++band) {
-        GridColumn &column = grid.Columns(band);
-        column.setVisible(true);
-        column.setCaption(bandHeading(aThickness, band));
-        column.setDataField(QString::number(aThickness[band]));
-        column.setWidth(BandWidth);
-        column.setWordWrap(true);
-    }
-    MaterialSources::Run(m_dtaTable, Queries::sqlElevatedPivot(key, material.ID()));
-    grid.Rebind();
-    growMaxDesignCols(material, bands);
+    heading.setPicturePosition(formula.isEmpty() ? HeadPicturePosition::TextOnly
+                                                 : HeadPicturePosition::PictureOnly);
+    for (const auto *store : {&m_controls.imgPhys, &m_controls.imgTherm})
+        for (const auto &[index, picture] : *store)
+            if (!formula.isEmpty() && picture->Picture().endsWith('/' + formula + ".svg"))
+                heading.setHeadPicture(picture->Picture());
 }

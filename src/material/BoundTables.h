@@ -2,42 +2,34 @@
 #pragma once
 
 #include <QString>
-#include <QVector>
 
-class DataControl;
-class ImageBox;
 class Material;
 class NoDataPanel;
+class NotesPanel;
 class PropertyChart;
+class WindowTables;
+struct LoadedTable;
 struct MaterialControls;
 
 class BoundTables {
 public:
-    BoundTables(MaterialControls &controls, DataControl &dtaTable, NoDataPanel &noData, PropertyChart &chart);
+    BoundTables(MaterialControls &controls, WindowTables &tables, NotesPanel &notes, NoDataPanel &noData,
+                PropertyChart &chart);
 
     /// As the window is designed.
     void InitColumns();
     /// Four columns, of which the first two show.
     void ResetColumns();
-    /// The notes of `key` are loaded, and the columns are reset.
+    /// The columns are reset.
     void LoadBoundTable(Material &material, const QString &key);
 
-    /// The table on show has thickness bands.
-    bool bMultiCol = false;
-    /// The upper limits of its bands in mm. The first band is element 1; element 0 is not used.
-    QVector<qint16> aThickness;
-
 private:
-    void setColumns(const QString &key);
-    void setHeadPictures(const QString &key);
-    void setHeadPicture(int column, const ImageBox *picture);
-    void HideEmptyImpactColumns(Material &material);
-    void CountTemperatureRows(Material &material);
-    void loadElevated(Material &material, const QString &key);
-    void LoadThicknessColumns(Material &material, const QString &key);
+    void setColumns(const LoadedTable &table);
+    void setHeadPicture(int column, const QString &formula);
 
     MaterialControls &m_controls;
-    DataControl &m_dtaTable;
+    WindowTables &m_tables;
+    NotesPanel &m_notes;
     NoDataPanel &m_noData;
     PropertyChart &m_chart;
 };

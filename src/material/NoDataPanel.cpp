@@ -1,6 +1,6 @@
 #include "material/NoDataPanel.h"
 
-#include "data/modVelmar.h"
+#include "data/loaded_table.h"
 #include "data/table_vocabulary.h"
 #include "material/GraphSwitch.h"
 #include "material/material_layout.h"
@@ -12,9 +12,9 @@ NoDataPanel::NoDataPanel(MaterialControls &controls, GraphSwitch &graphs)
     : m_controls(controls)
     , m_graphs(graphs) {}
 
-void NoDataPanel::ShowNoData(const Material &material, const QString &key) {
+void NoDataPanel::ShowNoData(const LoadedTable &table) {
     TDBGrid *grid = m_controls.tdbTable;
-    if (TableVocabulary::isUnbound(key)) {
+    if (TableVocabulary::isUnbound(table.key)) {
         m_controls.cmdUnBoundGraph->hide();
     } else {
         grid = m_controls.tdbBoundTable;
@@ -29,5 +29,5 @@ void NoDataPanel::ShowNoData(const Material &material, const QString &key) {
     place(m_controls.txtNoData, NoDataMargin, NoDataMargin, where.width() - 2 * NoDataMargin,
           where.height() - 2 * NoDataMargin);
     m_controls.txtNoData->show();
-    m_controls.txtNoData->setPlainText(modVelmar::NoDataText(material, key, true, true));
+    m_controls.txtNoData->setPlainText(table.noData);
 }

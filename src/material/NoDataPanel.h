@@ -1,17 +1,15 @@
 // The message in the place of a table without data.
 #pragma once
 
-#include <QString>
-
 class GraphSwitch;
-class Material;
+struct LoadedTable;
 struct MaterialControls;
 
 class NoDataPanel {
 public:
     NoDataPanel(MaterialControls &controls, GraphSwitch &graphs);
 
-    void ShowNoData(const Material &material, const QString &key);
+    void ShowNoData(const LoadedTable &table);
 
 private:
     MaterialControls &m_controls;

@@ -1,14 +1,9 @@
 #include "material/NotesPanel.h"
 
-#include "data/cell_values.h"
-#include "data/Material.h"
-#include "data/queries.h"
-#include "data/table_vocabulary.h"
+#include "data/loaded_table.h"
+#include "data/material_texts.h"
 #include "material/material_layout.h"
-#include "material/material_texts.h"
 #include "material/MaterialControls.h"
-#include "material/MaterialSources.h"
-#include "platform/dao/recordset.h"
 #include "shell/mdiVelmar.h"
 
 using namespace MaterialLayout;
@@ -25,10 +20,8 @@ void setHeight(QWidget *widget, int twips) {
 
 } // namespace
 
-NotesPanel::NotesPanel(MaterialControls &controls, DataControl &dtaNotes, DataControl &dtaTableNotes)
-    : m_controls(controls)
-    , m_dtaNotes(dtaNotes)
-    , m_dtaTableNotes(dtaTableNotes) {}
+NotesPanel::NotesPanel(MaterialControls &controls)
+    : m_controls(controls) {}
 
 void NotesPanel::StorePlace() {
     mNotesPlace = {placeOf(m_controls.txtNotes), placeOf(m_controls.framNotes)};
@@ -59,34 +52,22 @@ void NotesPanel::ShowAsPage() {
     m_controls.framNotes->show();
 }
 
-void NotesPanel::LoadNotes(Material &material, const QString &key) {
-    MaterialSources::Run(m_dtaNotes, Queries::sqlMaterialNotes(material.ID(), key));
-    m_dtaTableNotes.Refresh();
-    const auto rows = m_dtaNotes.recordset()->Clone();
-    m_hasNotes = !rows->Eof();
-    m_controls.cmdShowNotes->setVisible(m_hasNotes);
-    m_controls.lblNotes->setVisible(m_hasNotes);
-    if (!m_hasNotes) return;
-
-    QStringList notes;
-    const auto texts = m_dtaTableNotes.recordset();
-    for (; !rows->Eof(); rows->MoveNext()) {
-        texts->FindFirst(Queries::critTableNote(cellText(rows->Fields("notID")), key));
-        // meant so: a note without a text of its own repeats the one found before
-        notes << cellText(texts->Fields("notTxt"));
-    }
-    setText(textWithNotes(m_text, notes));
-    material.setTableNotes(TableVocabulary::GetTableIndex(key), m_text);
+void NotesPanel::LoadNotes(const LoadedTable &table) {
+    mHasNotes = table.hasNotes;
+    m_controls.cmdShowNotes->setVisible(mHasNotes);
+    m_controls.lblNotes->setVisible(mHasNotes);
+    if (!mHasNotes) return;
+    setText(table.notes);
     m_controls.TimerFlash->start();
 }
 
 void NotesPanel::AddOtherElements(const QString &text) {
     setText(textWithOtherElements(text, m_text));
-    if (m_hasNotes) {
+    if (mHasNotes) {
         m_controls.lblNotes->setText("Other Elements & Notes...");
         return;
     }
-    m_hasNotes = true;
+    mHasNotes = true;
     m_controls.cmdShowNotes->show();
     showCaption("Other Elements...");
     m_controls.TimerFlash->start();

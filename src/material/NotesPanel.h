@@ -4,16 +4,12 @@
 #include <QRect>
 #include <QString>
 
-class DataControl;
-class Material;
+struct LoadedTable;
 struct MaterialControls;
 
 class NotesPanel {
 public:
-    NotesPanel(MaterialControls &controls, DataControl &dtaNotes, DataControl &dtaTableNotes);
-
-    /// The table on show has notes or other elements; the markers in headings follow it.
-    bool mHasNotes() const { return m_hasNotes; }
+    explicit NotesPanel(MaterialControls &controls);
 
     /// Where box and frame stand now is their designed place.
     void StorePlace();
@@ -22,11 +18,10 @@ public:
     /// Takes the page, for a running text.
     void ShowAsPage();
 
-    void LoadNotes(Material &material, const QString &key);
+    void LoadNotes(const LoadedTable &table);
     /// In front of the notes.
     void AddOtherElements(const QString &text);
 
-    const QString &Text() const { return m_text; }
     void setText(const QString &text);
 
     /// The split between table and notes. "show" opens the notes, any other word closes them.
@@ -40,13 +35,12 @@ private:
     void showCaption(const QString &caption);
 
     MaterialControls &m_controls;
-    DataControl &m_dtaNotes;
-    DataControl &m_dtaTableNotes;
     struct {
         QRect text;
         QRect frame;
     } mNotesPlace;
     QString m_text;
     int m_picture = 0;
-    bool m_hasNotes = false;
+    /// The table on show has notes or other elements.
+    bool mHasNotes = false;
 };

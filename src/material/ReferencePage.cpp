@@ -5,14 +5,9 @@
 
 #include <QTextLayout>
 
-#include "data/cell_values.h"
-#include "data/Material.h"
-#include "data/queries.h"
+#include "data/loaded_table.h"
 #include "material/material_layout.h"
-#include "material/material_texts.h"
 #include "material/MaterialControls.h"
-#include "material/MaterialSources.h"
-#include "platform/dao/recordset.h"
 
 using namespace MaterialLayout;
 
@@ -52,22 +47,15 @@ QVector<int> sharedLines(const QVector<int> &needed) {
 
 } // namespace
 
-ReferencePage::ReferencePage(MaterialControls &controls, DataControl &dtaTable)
-    : m_controls(controls)
-    , m_dtaTable(dtaTable) {}
+ReferencePage::ReferencePage(MaterialControls &controls)
+    : m_controls(controls) {}
 
-void ReferencePage::Fill(const Material &material) {
-    const auto show = [this](int index, const QString &value) {
-        m_controls.txtMainData(index)->setPlainText(" " + value);
-    };
-    show(0, material.Standard());
-    show(1, material.StandardDescription());
-    show(2, material.Name());
-    show(3, material.Description());
-    show(4, material.Number());
-    show(5, material.Group());
-    show(6, CStr(material.RevisionDate()));
-    show(8, CStr(material.StandardRevisionDate()));
+void ReferencePage::Fill(const LoadedTable &references) {
+    for (int row = 1; row <= references.cells.UpperBound(1); ++row) {
+        const QString text = references.cells.Get(row, 1).toString();
+        const bool stays = row - 1 == FormsBox && text.isEmpty();
+        if (!stays) m_controls.txtMainData(row - 1)->setPlainText(" " + text);
+    }
     layOut();
 }
 
@@ -117,17 +105,4 @@ int ReferencePage::placeRow(const QVector<int> &boxes, int top, int lines) {
         moveTo(m_controls.lblMainData(box), placeOf(m_controls.lblMainData(box)).left(), top);
     }
     return top + height + RowGap;
-}
-
-void ReferencePage::LoadProductForms(Material &material) {
-    MaterialSources::Run(m_dtaTable, Queries::sqlStandardProdForms(material.StandardID()));
-    QVector<int> ids;
-    for (const auto rows = m_dtaTable.recordset()->Clone(); !rows->Eof(); rows->MoveNext())
-        ids << CInt(rows->Fields("prodFID"));
-    if (ids.isEmpty()) return;
-    MaterialSources::Run(m_dtaTable, Queries::sqlProdFormNames(ids));
-    const QStringList forms =
-        readProductForms(*m_dtaTable.recordset()->Clone(), static_cast<int>(ids.size()));
-    m_controls.txtMainData(7)->setPlainText(productFormLine(forms));
-    material.setProductForms(forms);
 }

@@ -3,19 +3,15 @@
 
 #include <QVector>
 
-class DataControl;
-class Material;
+struct LoadedTable;
 struct MaterialControls;
 
 class ReferencePage {
 public:
-    ReferencePage(MaterialControls &controls, DataControl &dtaTable);
+    explicit ReferencePage(MaterialControls &controls);
 
-    /// Everything but the product forms, which are to be loaded before: the rows take their heights from the
-    /// texts.
-    void Fill(const Material &material);
-    /// Raises 3021 where a form of the standard has no name.
-    void LoadProductForms(Material &material);
+    /// The rows take their heights from the texts.
+    void Fill(const LoadedTable &references);
 
 private:
     void layOut();
@@ -23,5 +19,4 @@ private:
     int placeRow(const QVector<int> &boxes, int top, int lines);
 
     MaterialControls &m_controls;
-    DataControl &m_dtaTable;
 };

@@ -1,5 +1,6 @@
 #include "material/UnboundGrid.h"
 
+#include "data/loaded_table.h"
 #include "material/grid_columns.h"
 #include "material/material_layout.h"
 #include "platform/forms/tdb_grid.h"
@@ -18,14 +19,26 @@ void UnboundGrid::ClearUnboundGrid() {
     first.setVisible(true); // an empty creep column may have been the first one
     mTableArray->Clear();
     mTableArray->ReDim(1, 1, 0, 0);
-    Show();
+    showArray();
 }
 
-void UnboundGrid::AddColumn(const QString &heading, double width) {
-    AddGridColumn(m_grid, heading, width);
+void UnboundGrid::Show(const LoadedTable &table) {
+    m_grid.setCaption(table.caption);
+    for (int i = 0; i < table.columns.size(); ++i) {
+        const TableColumn &column = table.columns[i];
+        if (i == 0 && column.width > 0) {
+            m_grid.Columns(0).setCaption(column.heading);
+            m_grid.Columns(0).setWidth(column.width);
+        } else if (i > 0) {
+            AddGridColumn(m_grid, column.heading, column.width);
+        }
+        m_grid.Columns(i).setVisible(!column.hidden);
+    }
+    mTableArray = std::make_shared<XArrayDB>(table.cells);
+    showArray();
 }
 
-void UnboundGrid::Show() {
+void UnboundGrid::showArray() {
     m_grid.setArray(mTableArray);
     m_grid.Rebind();
 }

@@ -3,25 +3,24 @@
 
 #include <memory>
 
-#include <QString>
-
 class TDBGrid;
 class XArrayDB;
+struct LoadedTable;
 
 class UnboundGrid {
 public:
     explicit UnboundGrid(TDBGrid &tdbTable);
 
-    TDBGrid &grid() { return m_grid; }
     /// Behind the grid since the last Show().
     std::shared_ptr<XArrayDB> mTableArray;
 
     /// One column without a heading, and one empty cell.
     void ClearUnboundGrid();
-    void AddColumn(const QString &heading, double width);
-    /// Shows the array as it is now.
-    void Show();
+    /// Into a cleared grid.
+    void Show(const LoadedTable &table);
 
 private:
+    void showArray();
+
     TDBGrid &m_grid;
 };

@@ -4,7 +4,7 @@
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/table_vocabulary.h"
-#include "design/frmChart.h"
+#include "material/frmChart.h"
 #include "material/material_layout.h"
 #include "material/menu_place.h"
 #include "platform/dao/database.h"
@@ -15,44 +15,41 @@
 #include "reports/report_commands.h"
 #include "reports/report_export.h"
 #include "shell/mdiVelmar.h"
-#include "shell/modToolTips.h"
 
 using namespace MaterialLayout;
 
 namespace {
 
-/// The number of a page's symbol in the main window's image list.
-int symbolOf(const QString &key) {
-    if (key == QLatin1String("ChemComp")) return 7;
-    if (key == QLatin1String("MechProp") || key == QLatin1String("CreepProp") ||
-        TableVocabulary::isElevated(key))
-        return 8;
-    if (key == QLatin1String("ImpEnergy")) return 9;
-    return key == QLatin1String("AddInfo") ? 11 : 10;
-}
+/// Of a page without a row in the vocabulary, as the design values are.
+constexpr int PlainSymbol = 10;
 
 bool hasGraph(const QString &boundKey) {
-    return boundKey != QLatin1String("ImpEnergy");
+    const TableVocabulary::Table *table = TableVocabulary::find(boundKey);
+    return table && table->yAxisTitle;
 }
+
+/// By the index of cmdPrintSave.
+const QStringList PrintSaveTips{"Save Graph As Portable Document Format File (*.pdf)...",
+                                "Print (Preview) Graph...", "Enlarge Graph View",
+                                "Print (Preview) Design Values Table...",
+                                "Save Design Values Table To File (*.pdf,*.rtf,*.txt)..."};
 
 } // namespace
 
 frmMaterial2::frmMaterial2()
     : Form("frmMaterial2", Kind::MdiChild)
     , MaterialControls(static_cast<QWidget &>(*this))
-    , MaterialSources(static_cast<QObject &>(*this))
     , m_graphs(*this)
-    , m_notes(*this, *dtaNotes, *dtaTableNotes)
+    , m_notes(*this)
     , m_noData(*this, m_graphs)
     , m_unboundGrid(*tdbTable)
-    , m_references(*this, *dtaTable)
-    , m_composition(m_unboundGrid, *dtaTable, *dtaOther, m_notes)
-    , m_chart(*this, *dtaTable, m_sourceArrays, m_unboundTables.columns)
-    , m_unboundTables(*this, *this, m_unboundGrid, m_notes, m_noData, m_chart)
-    , m_boundTables(*this, *dtaTable, m_noData, m_chart)
-    , m_addInfo(*dtaTable, *dtaOther, m_notes)
-    , m_design(*this, *this, m_sourceArrays, m_unboundTables.columns.creep,
-               [this](const QString &key) { ShowTable(key); }) {
+    , m_references(*this)
+    , m_composition(m_tables, m_unboundGrid, m_notes)
+    , m_chart(*this, m_tables, m_unboundTables.columns)
+    , m_unboundTables(*this, m_tables, m_unboundGrid, m_notes, m_noData, m_chart)
+    , m_boundTables(*this, m_tables, m_notes, m_noData, m_chart)
+    , m_addInfo(m_tables, m_notes)
+    , m_design(*this, *this, m_tables.values) {
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     HelpContext::set(*this, "Material_Window.htm");
     setWidth(WindowWidth);
@@ -88,7 +85,7 @@ void frmMaterial2::printSave(int index) {
     const bool designValues = index > Enlarge;
     const QString temperature = txtDesignTemp->text();
     if (designValues && (temperature.isEmpty() || temperature == QLatin1String("-"))) return;
-    iReportType = designValues ? 2 : 1;
+    iReportType = designValues ? ReportKind::DesignValues : ReportKind::Graph;
     switch (index) {
     case 0:
         ReportCommands::saveReport(ReportExport::Pdf);
@@ -114,7 +111,18 @@ void frmMaterial2::Form_Load() {
     lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
     HideAll();
     showReferences();
-    modToolTips::SetMaterialToolTips(*this);
+    SetToolTips(main.bToolTips);
+}
+
+void frmMaterial2::SetToolTips(bool showTips) {
+    const auto tip = [showTips](const QString &text) { return showTips ? text : QString(); };
+    for (int i = 0; i < PrintSaveTips.size(); ++i)
+        cmdPrintSave(i)->setToolTip(tip(PrintSaveTips[i]));
+    txtDesignTemp->setToolTip(tip("Enter Design Temperature Here"));
+    txtMainData(6)->setToolTip(tip("Date Velmar-PED last updated for this Material"));
+    txtMainData(8)->setToolTip(tip("Date Velmar-PED last updated for this Standard"));
+    const bool notesOpen = placeOf(framNotes).height() > ClosedNotesHeight;
+    cmdShowNotes->setToolTip(tip(notesOpen ? "Hide Table Notes" : "Show Table Notes"));
 }
 
 void frmMaterial2::Form_Activate() {
@@ -142,15 +150,12 @@ void frmMaterial2::Form_Unload(bool &) {
 void frmMaterial2::SetMaterial(const std::shared_ptr<Material> &material) {
     const auto &database = modDBase::dbMain();
     if (!database) throw RuntimeError(91);
-    Aim(database->Name());
-    dtaUnits->Refresh();
+    m_tables.open(*database);
     frame()->raise();
     m_material = material;
-    m_references.LoadProductForms(*material);
+    const LoadedTable references = m_tables.load(*material, "Ref");
     material->setMyForm(this);
-    m_references.Fill(*material);
-    m_unboundGrid.mTableArray = std::make_shared<XArrayDB>();
-    xDesignDB = std::make_shared<XArrayDB>();
+    m_references.Fill(references);
     strCurrentTable = "Ref";
     material->setTableHasData("Ref", true);
 }
@@ -186,9 +191,15 @@ void frmMaterial2::CheckTablesForRecords() {
     const QString shown = strCurrentTable;
     for (int i = 1; i < TableVocabulary::TableCount; ++i) {
         const QString key = TableVocabulary::GetShortTableName(i);
-        if (!m_material->TableChecked(key)) ShowTable(key);
+        if (!m_material->TableChecked(key)) load(key);
     }
     ShowTable(shown);
+}
+
+void frmMaterial2::load(const QString &key) {
+    const LoadedTable table = m_tables.load(*m_material, key);
+    // As after the page of such a table: the next one shows as a table, and not as a graph.
+    if (!table.noData.isEmpty() && !TableVocabulary::isUnbound(key)) m_graphs.bGraphShown = false;
 }
 
 void frmMaterial2::HideAll() {
@@ -210,7 +221,6 @@ void frmMaterial2::showComposition(Material &material) {
     for (QWidget *part : QList<QWidget *>{tdbTable, lblFullForm, framNotes})
         part->show();
     m_unboundGrid.ClearUnboundGrid();
-    m_notes.LoadNotes(material, "ChemComp");
     m_composition.LoadChemical(material);
 }
 
@@ -231,10 +241,8 @@ void frmMaterial2::showAddInfo(Material &material) {
 
 void frmMaterial2::showDesign(Material &material) {
     if (!m_design.bDesignBuilt) {
-        m_design.BuildDesignTable(material, xDesignDB);
+        m_design.BuildDesignTable(material, [this](const QString &key) { load(key); });
         m_design.bDesignBuilt = true;
-        strCurrentTable = "Design";
-        HideAll(); // what the tables showed that were loaded on the way
     }
     framDesign->show();
     lblFullForm->show();
@@ -246,7 +254,6 @@ void frmMaterial2::showBoundTable(Material &material, const QString &key) {
     framMechOpt->setVisible(TableVocabulary::isElevated(key));
     m_graphs.ShowBoundPage(hasGraph(key));
     lblFullForm->show();
-    m_notes.LoadNotes(material, key);
     m_boundTables.LoadBoundTable(material, key);
     if (TableVocabulary::isElevated(key)) focusMechOption();
 }
@@ -271,7 +278,8 @@ void frmMaterial2::keepFocus() {
 }
 
 void frmMaterial2::setPageSymbol(const QString &key) {
-    const QString picture = mdiVelmar::instance().ImageList1.Source(symbolOf(key));
+    const TableVocabulary::Table *table = TableVocabulary::find(key);
+    const QString picture = mdiVelmar::instance().ImageList1.Source(table ? table->symbol : PlainSymbol);
     ImgPic(0)->setPicture(picture);
     ImgPic(2)->setPicture(picture);
 }

@@ -3,31 +3,29 @@
 
 #include <memory>
 
-#include "design/DesignPage.h"
-#include "design/PropertyChart.h"
-#include "design/SourceArrays.h"
 #include "material/AdditionalInfo.h"
 #include "material/BoundTables.h"
 #include "material/CompositionTable.h"
+#include "material/DesignPage.h"
 #include "material/GraphSwitch.h"
 #include "material/MaterialControls.h"
-#include "material/MaterialSources.h"
 #include "material/NoDataPanel.h"
 #include "material/NotesPanel.h"
+#include "material/PropertyChart.h"
 #include "material/ReferencePage.h"
 #include "material/UnboundGrid.h"
 #include "material/UnboundTables.h"
+#include "material/WindowTables.h"
 #include "platform/forms/form.h"
+#include "reports/ReportSource.h"
 
 class Material;
 
 /// Nothing is kept on the screen between two tables: each showing hides everything, queries the database anew
 /// and makes the few controls of that table visible. What outlives a table stays in the Material.
-class frmMaterial2 : public Form, public MaterialControls, public MaterialSources {
+class frmMaterial2 : public Form, public MaterialControls, public ReportSource {
     Q_OBJECT
-    Q_PROPERTY(qint16 iReportType MEMBER iReportType)
     Q_PROPERTY(QString strCurrentTable MEMBER strCurrentTable)
-    Q_PROPERTY(QVector<bool> EmptyCreepCols READ EmptyCreepCols)
 
 public:
     frmMaterial2();
@@ -42,15 +40,23 @@ public:
     Q_INVOKABLE void ShowTable(const QString &key);
     /// Visits every table that was not shown yet, and comes back to the one on show.
     Q_INVOKABLE void CheckTablesForRecords();
-    /// For each creep column as loaded: hidden for having no value.
-    QVector<bool> EmptyCreepCols() const { return m_unboundTables.columns.creep.EmptyCreepCols; }
+    /// The tips of this window, or none.
+    Q_INVOKABLE void SetToolTips(bool showTips);
 
-    /// What the next report holds: 0 tables, 1 the graph, 2 the design values.
-    qint16 iReportType = 0;
+    ReportKind reportKind() const override { return iReportType; }
+    void setReportKind(ReportKind kind) override { iReportType = kind; }
+    std::shared_ptr<XArrayDB> designValues() const override { return xDesignDB(); }
+    QString designTemperature() const override { return txtDesignTemp->text(); }
+    QVector<bool> EmptyCreepCols() const override { return m_tables.values.creep().EmptyCreepCols; }
+    const MSChart &chart() const override { return *MSChart1; }
+    QString currentTable() const override { return strCurrentTable; }
+
+    /// What the next report holds.
+    ReportKind iReportType = ReportKind::Tables;
     /// The key of the table on show.
     QString strCurrentTable = QStringLiteral("Ref");
     /// The design values: three rows a table.
-    std::shared_ptr<XArrayDB> xDesignDB;
+    const std::shared_ptr<XArrayDB> &xDesignDB() const { return m_tables.values.xDesignDB; }
 
 protected:
     void Form_Load() override;
@@ -63,6 +69,8 @@ private:
     /// 0 save, 1 print and 2 enlarge the graph; 3 print and 4 save the design values.
     void printSave(int index);
     void HideAll();
+    /// Without showing it.
+    void load(const QString &key);
     void showReferences();
     void showComposition(Material &material);
     void showUnboundTable(Material &material, const QString &key);
@@ -74,13 +82,13 @@ private:
     void setPageSymbol(const QString &key);
 
     std::shared_ptr<Material> m_material;
+    WindowTables m_tables;
     GraphSwitch m_graphs;
     NotesPanel m_notes;
     NoDataPanel m_noData;
     UnboundGrid m_unboundGrid;
     ReferencePage m_references;
     CompositionTable m_composition;
-    SourceArrays m_sourceArrays;
     PropertyChart m_chart;
     UnboundTables m_unboundTables;
     BoundTables m_boundTables;

@@ -5,6 +5,7 @@
 #include "data/modDBase.h"
 #include "data/modVelmar.h"
 #include "data/queries.h"
+#include "data/temperature_columns.h"
 #include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
 #include "platform/runtime/runtime_error.h"
@@ -47,7 +48,8 @@ QString bandHeading(const QString &lower, const QString &separator, int upper) {
 
 } // namespace
 
-actRepBound::actRepBound() {
+actRepBound::actRepBound(std::shared_ptr<Material> material)
+    : m_material(std::move(material)) {
     AddSection(SectionType::PageHeader, "PageHeader");
     Section &title = AddSection(SectionType::GroupHeader, "ghTitle");
     title.RepeatOnNewPage = true;
@@ -67,7 +69,7 @@ actRepBound::actRepBound() {
 }
 
 void actRepBound::ReportStart() {
-    m_material = mdiVelmar::instance().mCurrent;
+    if (!m_material) m_material = mdiVelmar::instance().mCurrent;
     QStringList &queue = m_material->colBoundTables();
     if (queue.isEmpty()) throw RuntimeError(9);
     m_key = queue.first();
@@ -94,40 +96,25 @@ void actRepBound::bindRows() {
 }
 
 void actRepBound::SetPhysicalColumns() {
-    const QString caption = mdiVelmar::instance().GetCaption(m_key);
     placeColumns(PhysicalColumnWidth);
-    showColumn(2, caption, m_key);
-    hideColumn(3);
-    hideColumn(4);
-    if (m_key == QLatin1String("ModElast")) {
-        showFormula(2, "imgPhys0", caption);
-    } else if (m_key == QLatin1String("ThermExp")) {
-        showFormula(2, "imgPhys1", "ß20, t [E-6/K]");
-        showColumn(3, {}, "ThermExpDiff");
-        showFormula(3, "imgPhysB", "ßdiff, t [E-6/K]");
-    } else if (m_key == QLatin1String("ThermCond")) {
-        showFormula(2, "imgPhys2", caption);
-    } else if (m_key == QLatin1String("SpecThermCap")) {
-        showFormula(2, "imgPhys3", "Cp20, t [J/kgK]");
-        showColumn(3, {}, "SpecThermCapDiff");
-        showFormula(3, "imgPhys5", "Cp diff, t [J/kgK]");
-    } else if (m_key == QLatin1String("SpecElecRes")) {
-        showFormula(2, "imgPhys4", caption);
+    int column = 2;
+    for (const TemperatureColumn &known : temperatureColumns(m_key)) {
+        showColumn(column, known.heading, known.field);
+        if (!known.picture.isEmpty()) showFormula(column, known);
+        ++column;
     }
+    while (column <= 4)
+        hideColumn(column++);
 }
 
 /// The columns with data stand next to each other, without gaps.
 void actRepBound::SetImpactColumns() {
-    struct ImpactColumn {
-        int flag;
-        const char *caption;
-        const char *field;
-    };
-    const ImpactColumn columns[] = {{1, "KV", "kv"}, {2, "KVL", "kvLong"}, {4, "KVT", "kvTrans"}};
     int next = 2;
-    for (const ImpactColumn &column : columns)
-        if ((m_material->ImpEnergyCols() & column.flag) != 0)
-            showColumn(next++, column.caption + EmptyLine + "[Joule]", column.field);
+    int flag = 1;
+    for (const TemperatureColumn &column : temperatureColumns(m_key)) {
+        if ((m_material->ImpEnergyCols() & flag) != 0) showColumn(next++, column.heading, column.field);
+        flag *= 2;
+    }
     while (next <= 4)
         hideColumn(next++);
 }
@@ -217,16 +204,18 @@ void actRepBound::hideColumn(int column) {
     field(column).Visible = false;
 }
 
-void actRepBound::showFormula(int column, const QString &picture, const QString &text) {
+void actRepBound::showFormula(int column, const TemperatureColumn &known) {
     ControlList &controls = Sections("ghTitle").Controls;
     Label &label = heading(column);
     auto &image = controls.Item<Image>(column == 2 ? "imgPhysA" : "imgPhysB");
-    image.Content = controls.Item<Image>(picture).Content;
+    for (int i = 0; i < static_cast<int>(std::size(Formulas)); ++i)
+        if (known.picture == QLatin1String(Formulas[i]))
+            image.Content = controls.Item<Image>("imgPhys" + QString::number(i)).Content;
     image.Left = label.Left;
     image.Top = label.Top;
     image.Width = label.Width;
     image.Height = label.Height;
     image.Visible = true;
-    image.AlternativeText = QString(text).simplified();
+    image.AlternativeText = known.heading.simplified();
     label.Text.clear();
 }

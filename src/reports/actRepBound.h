@@ -6,13 +6,15 @@
 #include "platform/printing/report.h"
 
 class Material;
+struct TemperatureColumn;
 
 /// Takes its table's key from the head of the material's colBoundTables at its start and runs a query of its
 /// own. Raises 9 when no key is queued.
 class actRepBound : public Printing::Report {
     Q_OBJECT
 public:
-    actRepBound();
+    /// Without a material it takes the current one when it starts.
+    explicit actRepBound(std::shared_ptr<Material> material = nullptr);
 
 protected:
     void ReportStart() override;
@@ -33,8 +35,8 @@ private:
     void placeColumns(int width);
     void showColumn(int column, const QString &caption, const QString &dataField);
     void hideColumn(int column);
-    /// Shows the picture in the place of the heading's text; where only letters go, `text` stands for it.
-    void showFormula(int column, const QString &picture, const QString &text);
+    /// Shows the picture in the place of the heading's text; where only letters go, the text stands for it.
+    void showFormula(int column, const TemperatureColumn &known);
 
     QString m_key;
     std::shared_ptr<Material> m_material;

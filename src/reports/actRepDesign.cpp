@@ -2,11 +2,11 @@
 
 #include <cmath>
 
+#include "data/CreepColumns.h"
 #include "data/Material.h"
-#include "design/CreepColumns.h"
-#include "material/frmMaterial2.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/report_layout.h"
+#include "reports/ReportSource.h"
 #include "shell/mdiVelmar.h"
 
 using namespace Printing;
@@ -45,7 +45,8 @@ void frameRight(TextControl &control) {
 
 } // namespace
 
-actRepDesign::actRepDesign() {
+actRepDesign::actRepDesign(std::shared_ptr<Material> material)
+    : m_material(std::move(material)) {
     AddSection(SectionType::PageHeader, "PageHeader");
     Section &header = AddSection(SectionType::GroupHeader, "ghDesignTemp");
     header.RepeatOnNewPage = true;
@@ -87,17 +88,16 @@ void actRepDesign::DataInitialize() {
         "KEY\r\n\r\n'-' = Below Temperature Range of this table\r\n"
         "'+' = Above Temperature Range of this table\r\n"
         "'x' = No value given for this temperature";
-    const Material &material = *mdiVelmar::instance().mCurrent;
-    auto *window = static_cast<frmMaterial2 *>(material.MyForm());
-    if (!window) throw RuntimeError(91);
-    xDesign = window->xDesignDB;
+    if (!m_material) m_material = mdiVelmar::instance().mCurrent;
+    const Material &material = *m_material;
+    const ReportSource &source = ReportSource::of(material);
+    xDesign = source.designValues();
     iLastCol = xDesign->UpperBound(2);
-    Sections("ghDesignTemp").Controls.Item<Field>("txtDesignTemp").Text =
-        window->txtDesignTemp->text() + " °C";
+    Sections("ghDesignTemp").Controls.Item<Field>("txtDesignTemp").Text = source.designTemperature() + " °C";
     bCreep = material.TableHasData("CreepProp");
     if (bCreep) {
         aColSize = material.MechCreepColSize("CreepProp");
-        bEmptyCol = window->EmptyCreepCols();
+        bEmptyCol = source.EmptyCreepCols();
         templateField("txtField1").Width = printedSize(1);
     }
     bExtended = testWidth();

@@ -8,12 +8,15 @@
 #include "platform/printing/report.h"
 #include "platform/runtime/x_array_db.h"
 
+class Material;
+
 /// Columns that do not fit across the page stand in a second block below the table. Raises 91 without a
 /// material window.
 class actRepDesign : public Printing::Report {
     Q_OBJECT
 public:
-    actRepDesign();
+    /// Without a material it takes the current one when it starts.
+    explicit actRepDesign(std::shared_ptr<Material> material = nullptr);
 
 protected:
     void DataInitialize() override;
@@ -41,6 +44,7 @@ private:
     bool isExtendedRow(int row) const { return bExtRow.value(row); }
     int lastRow() const { return xDesign->UpperBound(1); }
 
+    std::shared_ptr<Material> m_material;
     std::shared_ptr<XArrayDB> xDesign;
     int iRow = 1;
     int iLastCol = 0;

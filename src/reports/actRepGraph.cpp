@@ -1,12 +1,11 @@
 #include "reports/actRepGraph.h"
 
 #include "data/Material.h"
-#include "design/chart_copy.h"
-#include "material/frmMaterial2.h"
 #include "platform/forms/ms_chart.h"
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/twips.h"
 #include "reports/report_layout.h"
+#include "reports/ReportSource.h"
 #include "shell/mdiVelmar.h"
 
 using namespace Printing;
@@ -16,7 +15,8 @@ namespace {
 constexpr int ChartHeight = 6900;
 }
 
-actRepGraph::actRepGraph() {
+actRepGraph::actRepGraph(std::shared_ptr<Material> material)
+    : m_material(std::move(material)) {
     AddSection(SectionType::PageHeader, "PageHeader");
     Section &header = AddSection(SectionType::GroupHeader, "GroupHeader1");
     auto &chart = header.Controls.Add<Chart>("MSChart1");
@@ -29,10 +29,9 @@ actRepGraph::actRepGraph() {
 
 /// One copy at the start: a later change on the window does not reach a report under way.
 void actRepGraph::ReportStart() {
-    auto *window = static_cast<frmMaterial2 *>(mdiVelmar::instance().mCurrent->MyForm());
-    if (!window) throw RuntimeError(91);
+    if (!m_material) m_material = mdiVelmar::instance().mCurrent;
     MSChart copy;
-    copyChart(*window->MSChart1, copy);
+    copy.copyFrom(ReportSource::of(*m_material).chart());
     const ChartPicture picture = copy.picture({toPixels(PageWidth), toPixels(ChartHeight)});
     auto &chart = Sections("GroupHeader1").Controls.Item<Chart>("MSChart1");
     chart.AlternativeText = copy.TitleText();

@@ -4,7 +4,6 @@
 #include <QScopeGuard>
 
 #include "data/Material.h"
-#include "material/frmMaterial2.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
@@ -16,14 +15,12 @@
 #include "reports/actRepUnBound.h"
 #include "reports/report_export.h"
 #include "reports/report_window.h"
+#include "reports/ReportSource.h"
 #include "shell/mdiVelmar.h"
 
 using namespace Printing;
 
 namespace {
-
-/// What a material window's iReportType tells.
-enum Content { Tables = 0, Graph = 1 };
 
 std::unique_ptr<actRepMain> &globalInstance() {
     static std::unique_ptr<actRepMain> report;
@@ -77,9 +74,8 @@ void actRepMain::ReportStart() {
 }
 
 void actRepMain::chooseMaterial() {
-    mdiVelmar &main = mdiVelmar::instance();
-    if (main.bBatchPrint) main.mCurrent = actRepBatchPrint::instance().colBatchMaterials.Item(1);
-    mMaterial = main.mCurrent;
+    const mdiVelmar &main = mdiVelmar::instance();
+    mMaterial = main.bBatchPrint ? actRepBatchPrint::instance().colBatchMaterials.Item(1) : main.mCurrent;
     if (!mMaterial) throw RuntimeError(91);
 }
 
@@ -137,20 +133,18 @@ void actRepMain::nameBatchSections() {
 }
 
 /// A batch prints tables, and its windows are gone by then.
-int actRepMain::reportType() const {
-    if (mdiVelmar::instance().bBatchPrint) return Tables;
-    const auto *window = static_cast<const frmMaterial2 *>(mMaterial->MyForm());
-    if (!window) throw RuntimeError(91);
-    return window->iReportType;
+ReportKind actRepMain::reportKind() const {
+    if (mdiVelmar::instance().bBatchPrint) return ReportKind::Tables;
+    return ReportSource::of(*mMaterial).reportKind();
 }
 
 void actRepMain::chooseContent() {
-    const int content = reportType();
-    if (content > 0) {
-        if (content == Graph) {
-            placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepGraph>());
+    const ReportKind kind = reportKind();
+    if (kind != ReportKind::Tables) {
+        if (kind == ReportKind::Graph) {
+            placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepGraph>(mMaterial));
         } else {
-            placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepDesign>());
+            placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepDesign>(mMaterial));
             ControlList &controls = Sections("ghMechProp").Controls;
             controls.Item<Image>("imgIcon2").Content = controls.Item<Image>("imgIcon6").Content;
             setText("ghMechProp", "lblMechProp", "Design Values");
@@ -178,19 +172,19 @@ void actRepMain::selectTables() {
 
     if (prints("ChemComp")) {
         unbound.append("ChemComp");
-        placeReport("ghChemComp", "subRepChemComp", std::make_shared<actRepUnBound>());
+        placeReport("ghChemComp", "subRepChemComp", std::make_shared<actRepUnBound>(mMaterial));
     } else {
         hide("ghChemComp");
     }
     if (prints("MechProp")) {
         mechanical = 1;
         unbound.append("MechProp");
-        placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepUnBound>());
+        placeReport("ghMechProp", "subRepMechProp", std::make_shared<actRepUnBound>(mMaterial));
     }
     if (prints("CreepProp")) {
         ++mechanical;
         unbound.append("CreepProp");
-        placeReport("ghCreepProp", "subRepCreepProp", std::make_shared<actRepUnBound>());
+        placeReport("ghCreepProp", "subRepCreepProp", std::make_shared<actRepUnBound>(mMaterial));
     }
     for (const char *key : {"Rp02", "Rp10", "Rm"}) {
         if (!prints(key)) continue;
@@ -202,7 +196,7 @@ void actRepMain::selectTables() {
     // others
     if (mechanical == 0) hide("ghMechProp");
     if (prints("ImpEnergy")) {
-        placeReport("ghImpEnergy", "subRepImpEnergy", std::make_shared<actRepBound>());
+        placeReport("ghImpEnergy", "subRepImpEnergy", std::make_shared<actRepBound>(mMaterial));
         bound.append("ImpEnergy");
     } else {
         hide("ghImpEnergy");
@@ -217,13 +211,15 @@ void actRepMain::selectTables() {
 void actRepMain::nextElevatedSlot() {
     const QString number = QString::number(++iElevatedSlot);
     if (iElevatedSlot <= 3)
-        placeReport("ghElevated" + number, "subRepElevated" + number, std::make_shared<actRepBound>());
+        placeReport("ghElevated" + number, "subRepElevated" + number,
+                    std::make_shared<actRepBound>(mMaterial));
 }
 
 void actRepMain::nextPhysicalSlot() {
     const QString number = QString::number(++iPhysSlot);
     if (iPhysSlot <= 5)
-        placeReport("ghPhysProp" + number, "subRepPhysProp" + number, std::make_shared<actRepBound>());
+        placeReport("ghPhysProp" + number, "subRepPhysProp" + number,
+                    std::make_shared<actRepBound>(mMaterial));
 }
 
 void actRepMain::placeReport(const QString &section, const QString &control, std::shared_ptr<Report> report) {

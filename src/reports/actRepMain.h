@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/printing/report.h"
+#include "reports/ReportSource.h"
 
 class Material;
 class QWidget;
@@ -38,7 +39,7 @@ private:
     void choosePictures();
     void fillHeader();
     void nameBatchSections();
-    int reportType() const;
+    ReportKind reportKind() const;
     void chooseContent();
     void selectTables();
     void nextElevatedSlot();

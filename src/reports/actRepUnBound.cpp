@@ -1,8 +1,8 @@
 #include "reports/actRepUnBound.h"
 
 #include "data/cell_values.h"
+#include "data/CreepColumns.h"
 #include "data/Material.h"
-#include "design/CreepColumns.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/report_layout.h"
 #include "shell/mdiVelmar.h"
@@ -51,7 +51,8 @@ void addOtherElements(Section &section) {
 
 } // namespace
 
-actRepUnBound::actRepUnBound() {
+actRepUnBound::actRepUnBound(std::shared_ptr<Material> material)
+    : mMaterial(std::move(material)) {
     AddSection(SectionType::PageHeader, "PageHeader");
     Section &title = AddSection(SectionType::GroupHeader, "ghTitle");
     title.Height = CaptionTop + CaptionHeight;
@@ -107,7 +108,7 @@ void actRepUnBound::DataInitialize() {
 }
 
 void actRepUnBound::takeTable() {
-    mMaterial = mdiVelmar::instance().mCurrent;
+    if (!mMaterial) mMaterial = mdiVelmar::instance().mCurrent;
     if (mMaterial->colUnBoundTables().isEmpty()) throw RuntimeError(9);
     strKey = mMaterial->colUnBoundTables().first();
     aTable = mMaterial->UnboundTableData(strKey);

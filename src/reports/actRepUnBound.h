@@ -16,7 +16,8 @@ class Material;
 class actRepUnBound : public Printing::Report {
     Q_OBJECT
 public:
-    actRepUnBound();
+    /// Without a material it takes the current one when it starts.
+    explicit actRepUnBound(std::shared_ptr<Material> material = nullptr);
 
 protected:
     void DataInitialize() override;

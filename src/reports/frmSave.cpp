@@ -3,10 +3,10 @@
 #include <QPushButton>
 
 #include "data/Material.h"
-#include "platform/forms/call_by_name.h"
 #include "platform/forms/help_context.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/report_commands.h"
+#include "reports/ReportSource.h"
 #include "shell/mdiVelmar.h"
 
 frmSave::frmSave()
@@ -45,6 +45,6 @@ void frmSave::save() {
 void frmSave::cancel() {
     const auto &current = mdiVelmar::instance().mCurrent;
     if (!current || !current->MyForm()) throw RuntimeError(91);
-    SetPropertyByName(*current->MyForm(), "iReportType", 0);
+    ReportSource::of(*current).setReportKind(ReportKind::Tables);
     Unload();
 }

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "data/Material.h"
+#include "data/table_vocabulary.h"
 #include "platform/forms/call_by_name.h"
 #include "platform/forms/help_context.h"
 #include "platform/runtime/runtime_error.h"
@@ -12,22 +13,6 @@
 #include "shell/mdiVelmar.h"
 
 namespace {
-
-/// By table index.
-const char *const Captions[] = {"References",
-                                "Chemical Composition",
-                                "Mechanical Properties At Room Temperature",
-                                "Impact Energy",
-                                "Min Values For Rp0,2 At Elevated Temperature",
-                                "Min. Values For Rp1,0 At Elevated Temperature",
-                                "Min. Values For Rm At Elevated Temperature",
-                                "Modulus Of Elasticity",
-                                "Thermal Expansion",
-                                "Thermal Conductivity",
-                                "Specific Thermal Capacity",
-                                "Specific Electrical Resistivity",
-                                "Creep Properties",
-                                "Additional Information"};
 
 const QString SaveCaption = QStringLiteral("Save...");
 
@@ -49,8 +34,10 @@ frmSelData::frmSelData()
     setMinMaxButtons(false, false);
     setScaleSize(RightPart + 3240, 5400);
     place(lblSelData, 240, 180, 4860, 300);
-    for (int i = 0; i < static_cast<int>(std::size(Captions)); ++i)
-        chkData.add(i, new QCheckBox(Captions[i], this), Captions[i])->setChecked(true);
+    for (int i = 0; i < TableVocabulary::TableCount; ++i) {
+        const QString caption = QString::fromUtf16(TableVocabulary::tableAt(i).reportChoice);
+        chkData.add(i, new QCheckBox(caption, this), caption)->setChecked(true);
+    }
     moveTo(framSave, RightPart, 180);
     place(cmdSavePrint, RightPart, 4230, 3000, 420);
     place(cmdCancel, RightPart, 4770, 3000, 420);

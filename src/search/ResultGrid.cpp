@@ -6,9 +6,9 @@
 #include "platform/forms/colours.h"
 #include "platform/runtime/runtime_error.h"
 #include "search/frmSearch.h"
+#include "search/search_tips.h"
 #include "search/SearchCriteria.h"
 #include "shell/mdiVelmar.h"
-#include "shell/modToolTips.h"
 
 namespace {
 
@@ -60,7 +60,7 @@ void ResultGrid::columnToggled(int index, bool shown) {
     m_search.txtSearch(index)->setEnabled(shown);
     m_search.cmdSelect(index)->setEnabled(shown);
     setBackColor(m_search.txtSearch(index), shown ? vbInfoBackground : vbButtonFace);
-    m_search.chkSearch(index)->setToolTip(modToolTips::columnTip(*m_search.chkSearch(index)));
+    m_search.chkSearch(index)->setToolTip(SearchTips::columnTip(*m_search.chkSearch(index)));
     m_search.tdbMaterials->HoldFields();
     m_search.tdbSelected->HoldFields();
     try {

@@ -1,7 +1,7 @@
 #include "search/SearchControls.h"
 
 #include "data/queries.h"
-#include "search/search_statements.h"
+#include "data/search_statements.h"
 
 namespace {
 

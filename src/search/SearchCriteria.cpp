@@ -6,6 +6,7 @@
 #include "platform/forms/colours.h"
 #include "platform/forms/key_hooks.h"
 #include "search/frmSearch.h"
+#include "search/modDBase_picks.h"
 #include "shell/mdiVelmar.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QString>
 
-#include "search/search_statements.h"
+#include "data/search_statements.h"
 
 class frmSearch;
 

@@ -10,12 +10,13 @@
 #include "platform/runtime/conversions.h"
 #include "pma/frmPmaIndex.h"
 #include "pma/modDocument.h"
+#include "search/mod800x600.h"
 #include "search/ResultGrid.h"
+#include "search/search_tips.h"
 #include "search/SearchCriteria.h"
 #include "search/SelectedList.h"
 #include "shell/HTMLHelp.h"
 #include "shell/mdiVelmar.h"
-#include "shell/mod800x600.h"
 #include "shell/modToolTips.h"
 
 namespace {
@@ -129,6 +130,10 @@ void frmSearch::keepCriteria() const {
 void frmSearch::Form_Unload(bool &) {
     keepCriteria();
     mdiVelmar::instance().menu.mnuFileElem(0).setEnabled(true);
+}
+
+void frmSearch::SetToolTips(bool showTips) {
+    SearchTips::set(*this, showTips);
 }
 
 void frmSearch::SearchMaterials(const QString &orderBy) {

@@ -5,8 +5,8 @@
 
 #include <QDateTime>
 
+#include "data/search_statements.h"
 #include "platform/forms/form.h"
-#include "search/search_statements.h"
 #include "search/SearchControls.h"
 
 class ResultGrid;
@@ -22,6 +22,8 @@ public:
     frmSearch();
     ~frmSearch() override;
 
+    /// The tips of this window, or none.
+    Q_INVOKABLE void SetToolTips(bool showTips);
     /// Into SavedSearch of the main window.
     void keepCriteria() const;
     /// Runs the main query. `orderBy` is what follows " order by ".

@@ -1,9 +1,9 @@
 #include "shell/main_settings.h"
 
+#include "data/modFileHandler.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
 #include "shell/mdiVelmar.h"
-#include "shell/modFileHandler.h"
 #include "shell/settings_file.h"
 
 namespace MainSettings {

@@ -1,5 +1,6 @@
 #include "shell/mdiVelmar.h"
 
+#include "data/database_names.h"
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/table_vocabulary.h"
@@ -17,20 +18,16 @@
 #include "platform/runtime/app.h"
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/runtime_error.h"
-#include "search/frmSearch.h"
 #include "shell/grid_colours.h"
 #include "shell/HTMLHelp.h"
-#include "shell/main_commands.h"
 #include "shell/main_settings.h"
 #include "shell/main_toolbar.h"
+#include "shell/MainActions.h"
 #include "shell/modToolTips.h"
 #include "shell/window_arrangement.h"
 
 namespace {
 
-const QString DatabaseFile = QStringLiteral("Velmar_PED.mdb");
-const QString PathFile = QStringLiteral("PathSet.vlp");
-const QString Password = QStringLiteral("rolvek");
 const QString LineEnd = QStringLiteral("\r\n");
 
 constexpr int SmallScreen = 1024;   // pixels
@@ -63,7 +60,13 @@ auto &element(Array &array, int index) {
     return array[static_cast<std::size_t>(index)];
 }
 
+mdiVelmar::MakeActions installedActions;
+
 } // namespace
+
+void mdiVelmar::installActions(MakeActions make) {
+    installedActions = std::move(make);
+}
 
 mdiVelmar &mdiVelmar::instance() {
     return DefaultInstance<mdiVelmar>();
@@ -72,7 +75,8 @@ mdiVelmar &mdiVelmar::instance() {
 mdiVelmar::mdiVelmar()
     : MDIForm("mdiVelmar")
     , menu(*this)
-    , m_commands(std::make_unique<MainCommands>(*this)) {
+    , m_actions(installedActions(*this))
+    , m_databaseBoxes(comDlg) {
     buildControls();
     connectCommands();
 }
@@ -97,21 +101,23 @@ void mdiVelmar::buildControls() {
 }
 
 void mdiVelmar::connectCommands() {
-    MainCommands *commands = m_commands.get();
-    connect(&menu.mnuFileElem, &MenuArray::Click, commands, &MainCommands::file);
-    connect(&menu.mnuViewElem, &MenuArray::Click, commands, &MainCommands::view);
-    connect(&menu.mnuViewMechElem, &MenuArray::Click, commands, &MainCommands::mechanical);
-    connect(&menu.mnuViewPhysElem, &MenuArray::Click, commands, &MainCommands::physical);
-    connect(&menu.mnuSettingsElem, &MenuArray::Click, commands, &MainCommands::settings);
-    connect(&menu.mnuSettingsToolElem, &MenuArray::Click, commands, &MainCommands::toolbarSettings);
-    connect(&menu.mnuWindowElem, &MenuArray::Click, commands, &MainCommands::window);
-    connect(&menu.mnuHelpElem, &MenuArray::Click, commands, &MainCommands::help);
-    connect(Toolbar1, &Toolbar::ButtonClick, commands,
-            [commands](ToolbarButton *button) { commands->toolbarButton(*button); });
-    connect(Toolbar1, &Toolbar::ButtonMenuClick, commands,
-            [commands](ButtonMenu *entry) { commands->toolbarMenu(*entry); });
-    connect(stbStatus, &StatusBar::PanelDblClick, commands, [commands] { commands->settings(1); });
-    connect(this, &MDIForm::DblClick, commands, [commands] { commands->settings(4); });
+    const auto entries = [this](MenuArray &array, void (MainActions::*action)(int)) {
+        connect(&array, &MenuArray::Click, this, [this, action](int index) { (*m_actions.*action)(index); });
+    };
+    entries(menu.mnuFileElem, &MainActions::file);
+    entries(menu.mnuViewElem, &MainActions::view);
+    entries(menu.mnuViewMechElem, &MainActions::mechanical);
+    entries(menu.mnuViewPhysElem, &MainActions::physical);
+    entries(menu.mnuSettingsElem, &MainActions::settings);
+    entries(menu.mnuSettingsToolElem, &MainActions::toolbarSettings);
+    entries(menu.mnuWindowElem, &MainActions::window);
+    entries(menu.mnuHelpElem, &MainActions::help);
+    connect(Toolbar1, &Toolbar::ButtonClick, this,
+            [this](ToolbarButton *button) { m_actions->toolbarButton(*button); });
+    connect(Toolbar1, &Toolbar::ButtonMenuClick, this,
+            [this](ButtonMenu *entry) { m_actions->toolbarMenu(*entry); });
+    connect(stbStatus, &StatusBar::PanelDblClick, this, [this] { m_actions->settings(1); });
+    connect(this, &MDIForm::DblClick, this, [this] { m_actions->settings(4); });
     HelpContext::setViewer([](const QString &topic) {
         if (topic.isEmpty())
             HTMLHelp::ShowHelpContents(1);
@@ -149,14 +155,13 @@ void mdiVelmar::testScreen() {
 }
 
 void mdiVelmar::openDatabase() {
-    const auto help = [] { HTMLHelp::ShowHelpTopic(1, "Cant_Start.htm"); };
-    if (!modDBase::OpenDBase(comDlg, DatabaseFile, PathFile, true, true, Password, missingDatabaseMessage(),
-                             help)) {
+    if (!modDBase::OpenDBase(m_databaseBoxes, DatabaseFile, DatabasePathFile, true, true, DatabasePassword,
+                             missingDatabaseMessage())) {
         UnloadMain();
         return;
     }
     Show();
-    DefaultInstance<frmSearch>().Show();
+    m_actions->showSearch();
     if (bColoursOff) Do_Undo_Colour_All();
     modToolTips::SetToolTips(bToolTips);
 }
@@ -241,9 +246,9 @@ void mdiVelmar::Do_Undo_Colour(Form &frm) {
 }
 
 void mdiVelmar::GetDecimal() {
-    if (CStr(1.5) == QLatin1String("1.5")) bDecimalPoint = true;
-    const QString formatted = Format("1,5", "##0.00");
-    if (formatted == QLatin1String("15.00") || formatted == QLatin1String("15,00")) bCommaGroup = true;
+    const NumberFlags flags = NumberFlags::fromSystem();
+    bDecimalPoint |= flags.bDecimalPoint;
+    bCommaGroup |= flags.bCommaGroup;
 }
 
 void mdiVelmar::ReadSettings() {
@@ -267,19 +272,19 @@ void mdiVelmar::ShowStatus(int code) {
 }
 
 void mdiVelmar::UpdateMenusAndButtons(const QString &group, int index) {
-    m_commands->updateMenusAndButtons(group, index);
+    m_actions->updateMenusAndButtons(group, index);
 }
 
 void mdiVelmar::ShowAbout() {
-    m_commands->help(4);
+    m_actions->help(4);
 }
 
 void mdiVelmar::SelectMaterials() {
-    m_commands->file(0);
+    m_actions->file(0);
 }
 
 void mdiVelmar::DoBatchPrint() {
-    m_commands->batchPrint();
+    m_actions->batchPrint();
 }
 
 void mdiVelmar::SetCurrentMaterial(const std::shared_ptr<Material> &mat) {

@@ -2,20 +2,23 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 
 #include <QPointer>
 #include <QString>
 
 #include "data/Materials.h"
+#include "design/number_flags.h"
 #include "platform/forms/common_dialog.h"
 #include "platform/forms/image_list.h"
 #include "platform/forms/mdi_form.h"
+#include "shell/DatabaseBoxes.h"
 #include "shell/main_menu.h"
 #include "shell/status_messages.h"
 
 class Form;
-class MainCommands;
+class MainActions;
 class Material;
 class StatusBar;
 class TDBGrid;
@@ -24,6 +27,10 @@ class Toolbar;
 class mdiVelmar : public MDIForm {
     Q_OBJECT
 public:
+    using MakeActions = std::function<std::unique_ptr<MainActions>(mdiVelmar &)>;
+    /// Before the first instance is made.
+    static void installActions(MakeActions make);
+
     /// The one global instance, made and loaded on first use.
     static mdiVelmar &instance();
 
@@ -43,6 +50,7 @@ public:
     bool bToolTips = false;
     bool bDecimalPoint = false;
     bool bCommaGroup = false;
+    NumberFlags numberFlags() const { return {bDecimalPoint, bCommaGroup}; }
     /// The material window in which the user last acted on the design temperature.
     QPointer<Form> frmDesignSource;
     // Colour numbers, see platform/forms/colours.h.
@@ -119,7 +127,8 @@ private:
     void testScreen();
     std::shared_ptr<Material> materialOf(const Form &form) const;
 
-    std::unique_ptr<MainCommands> m_commands;
+    std::unique_ptr<MainActions> m_actions;
+    DatabaseBoxes m_databaseBoxes;
     StatusMessages strStatusText;
     int iLastStatus = 0;
     std::array<float, 6> m_columnSize{};

@@ -1,24 +1,14 @@
-// The tool tips of all windows in one place, so that they can be taken away and brought back.
+// The tool tips of all windows, taken away and brought back. Each window has its own texts; those of the tool
+// bar are here.
 #pragma once
-
-#include <QString>
-
-class frmMaterial2;
-class QCheckBox;
 
 namespace modToolTips {
 
-/// Fills the tables. The tool bar's texts are copied from its buttons, so this runs before a material gives
-/// some of them another text.
+/// The tool bar's texts are copied from its buttons, so this runs before a material gives some of them
+/// another text.
 void InitToolTips();
 
-/// Works on the search window, the tool bar and every material window.
+/// Works on the tool bar and on every window that has an operation SetToolTips.
 void SetToolTips(bool showTips);
-
-/// Whether there are tips at all follows mdiVelmar's bToolTips.
-void SetMaterialToolTips(frmMaterial2 &frm);
-
-/// What a click on one of chkSearch would do.
-QString columnTip(const QCheckBox &box);
 
 } // namespace modToolTips

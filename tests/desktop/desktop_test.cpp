@@ -11,9 +11,9 @@
 #include <sys/wait.h>
 
 #include "platform/desktop/desktop_entry.h"
-#include "platform/desktop/drives.h"
 #include "platform/desktop/shell_execute.h"
 #include "platform/forms/form.h"
+#include "platform/runtime/drives.h"
 #include "tests/support/gui.h"
 
 namespace {

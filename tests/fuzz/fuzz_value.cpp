@@ -1,8 +1,8 @@
 // Any texts as the cells of a table, and the values between them at any temperature.
 #include <cmath>
 
+#include "data/source_array.h"
 #include "design/interpolation.h"
-#include "design/source_array.h"
 #include "design/value_text.h"
 #include "platform/runtime/conversions.h"
 #include "tests/fuzz/fuzz_input.h"

@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-#include "design/frmChart.h"
+#include "material/frmChart.h"
 #include "material/frmMaterial2.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/status_bar.h"

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "design/TemperatureBox.h"
+#include "material/TemperatureBox.h"
 #include "tests/support/pinned_settings.h"
 
 namespace {

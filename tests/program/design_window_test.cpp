@@ -119,8 +119,8 @@ TEST(DesignWindowTest, AllTablesStandUnderTheirCaptions) {
               "ThermExp;ß20, t [E-6/K];ßdiff, t [E-6/K]|ThermCond;[W/m*K];|"
               "SpecThermCap;Cp20, t [J/kgK];Cp diff, t [J/kgK]|Ohm x mm² / m;[MPa];");
     EXPECT_EQ(window.tdbDesign->CellText(0, 1), QStringLiteral("(  ) - 16mm"));
-    EXPECT_EQ(window.xDesignDB->UpperBound(1), 27);
-    EXPECT_EQ(window.xDesignDB->UpperBound(2), 2);
+    EXPECT_EQ(window.xDesignDB()->UpperBound(1), 27);
+    EXPECT_EQ(window.xDesignDB()->UpperBound(2), 2);
     EXPECT_EQ(values(window), QStringLiteral(";|||;||;||;|")) << "nothing computed yet";
     const struct {
         const char *keys, *values;

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "data/source_array.h"
 #include "design/interpolation.h"
-#include "design/source_array.h"
 #include "design/value_text.h"
 #include "tests/support/error_of.h"
 #include "tests/support/pinned_settings.h"

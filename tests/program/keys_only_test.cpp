@@ -9,8 +9,8 @@
 #include "platform/forms/default_instance.h"
 #include "platform/forms/forms.h"
 #include "search/frmSearch.h"
-#include "shell/frmSplash.h"
 #include "shell/mdiVelmar.h"
+#include "start/frmSplash.h"
 #include "tests/support/gui.h"
 #include "tests/support/program.h"
 

@@ -1,11 +1,11 @@
 // How rows become tables and texts, without a window.
 #include <gtest/gtest.h>
 
-#include "design/CreepColumns.h"
-#include "material/composition.h"
-#include "material/material_texts.h"
-#include "material/temperature_columns.h"
-#include "material/unbound_columns.h"
+#include "data/composition.h"
+#include "data/CreepColumns.h"
+#include "data/material_texts.h"
+#include "data/temperature_columns.h"
+#include "data/unbound_columns.h"
 #include "tests/support/error_of.h"
 #include "tests/support/given_rows.h"
 
@@ -160,22 +160,15 @@ TEST(TemperatureColumnsTest, AnImpactColumnIsEmptyWhenNoRowHasAValue) {
     }
 }
 
-TEST(MaterialTextsTest, NotesStandOneALine) {
-    EXPECT_EQ(textWithNotes({}, {"a", "b", "c"}), "a\r\nb\r\nc");
-    EXPECT_EQ(textWithNotes("before", {"a"}), "before\r\na");
-    EXPECT_EQ(textWithOtherElements("Ti", "a"), "Other Elements - Ti\r\n\r\na");
-}
-
 TEST(MaterialTextsTest, ParagraphsWithoutATitleStandLast) {
     const auto titleOf = [](int titleID) {
         return QStringList({"?", "General", "[NoTitle]", "Welding"}).value(titleID);
     };
-    EXPECT_EQ(
-        additionalInfoText({}, {{0, "zero"}, {1, "one"}, {1, "more"}, {2, "loose"}, {3, "weld"}}, titleOf),
-        "General\r\n\r\none\r\nmore"
-        "\r\n\r\nWelding\r\n\r\nweld"
-        "\r\n\r\n\r\nzero\r\nloose");
-    EXPECT_EQ(additionalInfoText({}, {{1, "one"}}, titleOf), "General\r\n\r\none\r\n\r\n");
+    EXPECT_EQ(additionalInfoText({{0, "zero"}, {1, "one"}, {1, "more"}, {2, "loose"}, {3, "weld"}}, titleOf),
+              "General\r\n\r\none\r\nmore"
+              "\r\n\r\nWelding\r\n\r\nweld"
+              "\r\n\r\n\r\nzero\r\nloose");
+    EXPECT_EQ(additionalInfoText({{1, "one"}}, titleOf), "General\r\n\r\none\r\n\r\n");
 }
 
 TEST(MaterialTextsTest, ProductFormsNeedANameEach) {

@@ -6,10 +6,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "data/modFileHandler.h"
+#include "data/program_version.h"
 #include "platform/dao/access_source.h"
 #include "platform/runtime/app.h"
-#include "shell/modFileHandler.h"
-#include "shell/program_version.h"
 
 namespace {
 

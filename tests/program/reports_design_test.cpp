@@ -101,7 +101,7 @@ TEST_F(DesignReport, WhateverATablesWidthNoValueLeavesThePage) {
     frmMaterial2 &window = open(SampleGrades::P265GH); // its creep table fits
     window.ShowTable("Design");
     for (int lastColumn : {9, 20}) {
-        XArrayDB &values = *window.xDesignDB;
+        XArrayDB &values = *window.xDesignDB();
         values.ReDim(1, 6, 0, 30); // the rest is empty
         for (int column = 0; column <= lastColumn; ++column) {
             values.Set(1, column, QStringLiteral("band%1").arg(column));

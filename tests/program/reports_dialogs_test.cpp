@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "design/frmChart.h"
+#include "material/frmChart.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/status_bar.h"
@@ -97,9 +97,9 @@ TEST_F(ReportDialogs, SaveWhatIsTickedInTheChosenFormat) {
     const std::pair<const char *, const char *> formats[] = {
         {"a.pdf", "%PDF-"}, {"a.rtf", "{\\rtf"}, {"a.txt", "Velma"}};
     for (int format = 0; format < 3; ++format) {
-        window.iReportType = 2;
+        window.iReportType = ReportKind::DesignValues;
         drive([&](frmSelData &dialog) {
-            EXPECT_EQ(window.iReportType, 0);
+            EXPECT_EQ(window.iReportType, ReportKind::Tables);
             dialog.optFormat(format)->setChecked(true);
             dialog.chkData(1)->setChecked(false);
             saveAs(formats[format].first);
@@ -198,7 +198,7 @@ TEST_F(ReportDialogs, DesignValuesNeedATemperature) {
         window.txtDesignTemp->setText(text);
         click(window.cmdPrintSave(3));
         click(window.cmdPrintSave(4));
-        EXPECT_EQ(window.iReportType, 0);
+        EXPECT_EQ(window.iReportType, ReportKind::Tables);
     }
     EXPECT_TRUE(modal().asked().isEmpty());
 
@@ -207,11 +207,11 @@ TEST_F(ReportDialogs, DesignValuesNeedATemperature) {
         auto &dialog = static_cast<frmSave &>(form);
         EXPECT_EQ(dialog.Caption(), "Save Design Values...");
         EXPECT_EQ(status(), "Select 'File Format' then press 'Save...'");
-        EXPECT_EQ(window.iReportType, 2);
+        EXPECT_EQ(window.iReportType, ReportKind::DesignValues);
         click(dialog.cmdSave(1));
     });
     click(window.cmdPrintSave(4));
-    EXPECT_EQ(window.iReportType, 0);
+    EXPECT_EQ(window.iReportType, ReportKind::Tables);
 
     modal().driveForm([&](Form &form) {
         auto &dialog = static_cast<frmSave &>(form);
@@ -226,7 +226,7 @@ TEST_F(ReportDialogs, DesignValuesNeedATemperature) {
 
     modal().driveForm([](Form &preview) { preview.Unload(); });
     click(window.cmdPrintSave(3));
-    EXPECT_EQ(window.iReportType, 2);
+    EXPECT_EQ(window.iReportType, ReportKind::DesignValues);
 }
 
 TEST_F(ReportDialogs, GraphsAreSavedAsPdfAndPrintedFromBothWindows) {
@@ -235,17 +235,17 @@ TEST_F(ReportDialogs, GraphsAreSavedAsPdfAndPrintedFromBothWindows) {
     click(window.CommandShowGraph);
     saveAs("graph.pdf");
     click(window.cmdPrintSave(0));
-    EXPECT_EQ(window.iReportType, 1);
+    EXPECT_EQ(window.iReportType, ReportKind::Graph);
     EXPECT_EQ(start("graph.pdf"), "%PDF-");
     modal().driveForm([](Form &preview) { preview.Unload(); });
     click(window.cmdPrintSave(1));
 
-    window.iReportType = 0;
+    window.iReportType = ReportKind::Tables;
     modal().driveForm([&](Form &form) {
         auto &chart = static_cast<frmChart &>(form);
         saveAs("enlarged.pdf");
         click(chart.cmdGraph(0));
-        EXPECT_EQ(window.iReportType, 1);
+        EXPECT_EQ(window.iReportType, ReportKind::Graph);
         EXPECT_TRUE(status().startsWith("Enlarged Chart"));
         modal().driveForm([](Form &preview) { preview.Unload(); });
         click(chart.cmdGraph(1));

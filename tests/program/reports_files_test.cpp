@@ -182,7 +182,7 @@ TEST_F(ReportFiles, HoldTheColumnsThatAPageHasNoRoomForBelowTheTable) {
 
 TEST_F(ReportFiles, HoldTheGraphWithTheNamesOfItsCurves) {
     frmMaterial2 &window = open(SampleGrades::P265GH);
-    window.iReportType = 1;
+    window.iReportType = ReportKind::Graph;
     const auto graphText = [&](const QString &key) {
         window.ShowTable(key);
         save();

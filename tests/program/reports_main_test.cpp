@@ -150,7 +150,7 @@ TEST_F(MainReport, GraphAndDesignValuesStandAlone) {
     tickAll();
     for (const auto &[type, heading] :
          {std::pair(1, "1 Mechanical Properties"), std::pair(2, "1 Design Values")}) {
-        window.iReportType = static_cast<qint16>(type);
+        window.iReportType = static_cast<ReportKind>(type);
         report = std::make_unique<actRepMain>();
         report->Run();
         EXPECT_EQ(headingsOf(report->document()), QStringList(heading));

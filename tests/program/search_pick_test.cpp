@@ -4,6 +4,7 @@
 #include "platform/forms/db_list.h"
 #include "search/frmSelect.h"
 #include "search/frmSelectStand.h"
+#include "search/modDBase_picks.h"
 #include "shell/mdiVelmar.h"
 #include "tests/support/gui.h"
 #include "tests/support/program_fixture.h"

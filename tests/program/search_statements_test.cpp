@@ -1,7 +1,7 @@
 // The search window's statements, with their doubled blanks.
 #include <gtest/gtest.h>
 
-#include "search/search_statements.h"
+#include "data/search_statements.h"
 #include "tests/support/error_of.h"
 
 namespace {

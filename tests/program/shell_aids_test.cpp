@@ -13,7 +13,7 @@
 #include <QToolTip>
 
 #include "data/Material.h"
-#include "design/frmChart.h"
+#include "material/frmChart.h"
 #include "material/frmMaterial2.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/ms_chart.h"

@@ -29,9 +29,9 @@
 #include "platform/runtime/app.h"
 #include "reports/frmSave.h"
 #include "search/frmSearch.h"
-#include "shell/frmAbout.h"
 #include "shell/HTMLHelp.h"
 #include "shell/mdiVelmar.h"
+#include "start/frmAbout.h"
 #include "tests/support/gui.h"
 #include "tests/support/program.h"
 

@@ -18,6 +18,7 @@
 #include <unistd.h>
 
 #include "data/modDBase.h"
+#include "data/modFileHandler.h"
 #include "platform/dao/database.h"
 #include "platform/dao/file_lock.h"
 #include "platform/desktop/help_viewer.h"
@@ -31,9 +32,9 @@
 #include "platform/runtime/app.h"
 #include "platform/runtime/text_file.h"
 #include "search/frmSearch.h"
-#include "shell/frmSplash.h"
 #include "shell/mdiVelmar.h"
-#include "shell/modFileHandler.h"
+#include "start/frmSplash.h"
+#include "start/program_start.h"
 #include "tests/support/gui.h"
 #include "tests/support/pinned_settings.h"
 
@@ -69,6 +70,7 @@ protected:
         QDir().mkpath(user(""));
         TextFile::writeLines(user(file), lines);
     }
+    static void SetUpTestSuite() { ProgramStart::installActions(); }
     void start() {
         modFileHandler::SetupFileEnvironment();
         mdiVelmar::instance();
@@ -183,8 +185,7 @@ TEST_F(Start, AFolderThatCannotBeMadeIsToldAndTheProgramsOwnServes) {
     copyDatabase(program("Velmar_PED.mdb"));
     qputenv("APPDATA", program("Velmar_PED.mdb").toUtf8()); // a file
     modal().answerMsgBox(vbOK);
-    start();
-    EXPECT_TRUE(isRunning());
+    DefaultInstance<frmSplash>().Unload();
     EXPECT_EQ(modal().lastAsked().title, "Error");
     EXPECT_EQ(modal().lastAsked().style, vbCritical);
     EXPECT_EQ(modal().lastAsked().text,

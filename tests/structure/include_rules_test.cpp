@@ -9,7 +9,11 @@
 namespace {
 
 const QString Sources = QStringLiteral(SOURCE_FOLDER "/src");
-const QStringList ProgramParts = {"shell", "data", "search", "material", "design", "reports", "pma"};
+/// From the ground up.
+const QStringList ProgramParts = {"data",     "design", "exchange", "shell", "reports",
+                                  "material", "pma",    "search",   "start"};
+/// How many of them know no window.
+constexpr int PartsWithoutWindows = 3;
 
 struct Line {
     QString file;
@@ -67,6 +71,24 @@ TEST(IncludeRules, PlatformPartsStandInOrder) {
                 .toStdString(),
             "");
     }
+}
+
+TEST(IncludeRules, ProgramPartsStandInOrder) {
+    for (int i = 0; i < ProgramParts.size(); ++i) {
+        const QStringList above = ProgramParts.mid(i + 1);
+        EXPECT_NE(linesBelow(ProgramParts[i]).size(), 0) << ProgramParts[i].toStdString();
+        if (above.isEmpty()) continue;
+        EXPECT_EQ(
+            matching(linesBelow(ProgramParts[i]), "#include \"(" + above.join("|") + ")/").toStdString(), "");
+    }
+}
+
+TEST(IncludeRules, ValuesNeedNoWindow) {
+    for (const QString &part : ProgramParts.first(PartsWithoutWindows))
+        EXPECT_EQ(matching(linesBelow(part), "#include (\"platform/(forms|printing|desktop)/|"
+                                             "<(Qt(Gui|Widgets|Test)/|QWidget|QPainter|QIcon|QColor|QFont))")
+                      .toStdString(),
+                  "");
 }
 
 TEST(IncludeRules, ProgramReachesNoLibraryPastThePlatform) {

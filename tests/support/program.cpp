@@ -4,6 +4,8 @@
 
 #include "data/Material.h"
 #include "data/modDBase.h"
+#include "data/modFileHandler.h"
+#include "data/program_version.h"
 #include "data/queries.h"
 #include "material/frmMaterial2.h"
 #include "platform/dao/database.h"
@@ -12,8 +14,7 @@
 #include "platform/forms/screen.h"
 #include "platform/runtime/text_file.h"
 #include "shell/mdiVelmar.h"
-#include "shell/modFileHandler.h"
-#include "shell/program_version.h"
+#include "start/program_start.h"
 #include "tests/support/gui.h"
 
 namespace {
@@ -42,6 +43,7 @@ TestProgram::TestProgram(const Given &given)
     , m_appDataBefore(qgetenv("APPDATA")) {
     qputenv("APPDATA", m_appData.path().toUtf8());
     ProgramVersion::apply(m_folder.path());
+    ProgramStart::installActions();
     Screen::setSizeForTest(given.screen, given.freeArea);
     given.putDatabase(m_folder.filePath("Velmar_PED.mdb"));
     if (given.pmaIndex)

@@ -20,9 +20,9 @@
 #include "platform/forms/form.h"
 #include "platform/forms/msg_box.h"
 #include "platform/runtime/regional_settings.h"
-#include "shell/frmSplash.h"
 #include "shell/mdiVelmar.h"
-#include "shell/program_start.h"
+#include "start/frmSplash.h"
+#include "start/program_start.h"
 #include "tests/support/qt_warnings.h"
 
 namespace {

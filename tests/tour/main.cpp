@@ -7,10 +7,11 @@
 #include <QIcon>
 
 #include "data/modDBase.h"
+#include "data/program_version.h"
 #include "platform/forms/application.h"
 #include "platform/forms/screen.h"
 #include "platform/runtime/regional_settings.h"
-#include "shell/program_version.h"
+#include "start/program_start.h"
 #include "tests/tour/dark_theme.h"
 #include "tests/tour/tour.h"
 
@@ -23,6 +24,7 @@ int main(int argc, char **argv) {
     Application application(argc, argv);
     if (dark) useDarkTheme();
     ProgramVersion::apply(Application::applicationDirPath());
+    ProgramStart::installActions();
     RegionalSettings settings;
     settings.shortDateFormat = "yyyy-MM-dd";
     RegionalSettings::setCurrent(settings);

@@ -16,8 +16,8 @@
 #include "platform/forms/form.h"
 #include "platform/forms/msg_box.h"
 #include "platform/forms/screen.h"
-#include "shell/frmSplash.h"
 #include "shell/HTMLHelp.h"
+#include "start/frmSplash.h"
 #include "tests/tour/tour.h"
 
 namespace {

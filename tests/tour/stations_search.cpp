@@ -5,7 +5,7 @@
 
 #include "platform/forms/default_instance.h"
 #include "platform/forms/form.h"
-#include "shell/frmSplash.h"
+#include "start/frmSplash.h"
 #include "tests/tour/tour.h"
 
 void startProgram(Tour &tour) {

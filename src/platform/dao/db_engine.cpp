@@ -38,6 +38,15 @@ DBEngine &DBEngine::instance() {
 
 std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclusive, bool,
                                                  const QString &connect) {
+    return open(path, exclusive ? FileLock::Kind::Exclusive : FileLock::Kind::Shared, connect);
+}
+
+std::shared_ptr<Database> DBEngine::OpenBeside(const QString &path, const QString &connect) {
+    return open(path, std::nullopt, connect);
+}
+
+std::shared_ptr<Database> DBEngine::open(const QString &path, std::optional<FileLock::Kind> claim,
+                                         const QString &connect) {
     // a damaged path, which Qt and the system would end at different places
     if (path.contains(QChar::Null)) throw RuntimeError(3024, QString("Could not find file '%1'.").arg(path));
     const QFileInfo file(path);
@@ -59,8 +68,8 @@ std::shared_ptr<Database> DBEngine::OpenDatabase(const QString &path, bool exclu
     const QString identity = file.canonicalFilePath();
     std::shared_ptr<TableStore> store = m_open.value(identity).lock();
     if (!store) {
-        const auto kind = exclusive ? FileLock::Kind::Exclusive : FileLock::Kind::Shared;
-        auto lock = std::make_unique<FileLock>(fullPath, kind);
+        std::unique_ptr<FileLock> lock;
+        if (claim) lock = std::make_unique<FileLock>(fullPath, *claim);
         store = std::make_shared<TableStore>(openSource(fullPath, passwordOf(connect)), std::move(lock));
         m_open.insert(identity, store);
     }

@@ -3,9 +3,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QHash>
 #include <QString>
+
+#include "platform/dao/file_lock.h"
 
 class Database;
 class TableSource;
@@ -27,11 +30,17 @@ public:
     std::shared_ptr<Database> OpenDatabase(const QString &path, bool exclusive, bool readOnly,
                                            const QString &connect);
 
+    /// The same without a claim on the file: a run that holds it exclusively neither hinders it nor is
+    /// hindered.
+    std::shared_ptr<Database> OpenBeside(const QString &path, const QString &connect);
+
     /// Asked whether to wait on for a file each time it has not answered for some seconds, when it is opened
     /// and when its tables are read. Nobody waits without it.
     void setWaitsOn(std::function<bool(const QString &path)> waitsOn) { m_waitsOn = std::move(waitsOn); }
 
 private:
+    std::shared_ptr<Database> open(const QString &path, std::optional<FileLock::Kind> claim,
+                                   const QString &connect);
     std::unique_ptr<TableSource> openSource(const QString &path, const QString &password) const;
 
     // By canonical path, since a link to an open file is that file, and by the path that was asked for.

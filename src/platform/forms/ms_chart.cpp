@@ -91,6 +91,16 @@ ChartContent MSChart::content() const {
     return content;
 }
 
+void MSChart::copyFrom(const MSChart &other) {
+    const bool uniformAxis = m_content.uniformAxis;
+    m_data = other.m_data;
+    m_content = other.m_content;
+    m_content.uniformAxis = uniformAxis;
+    m_labels = other.m_labels;
+    m_column = static_cast<int>(m_labels.size());
+    changed();
+}
+
 ChartPicture MSChart::picture(QSize size) const {
     return drawChart(content(), size, ChartMedium::Paper);
 }

@@ -6,8 +6,7 @@
 #include "platform/forms/chart_drawing.h"
 #include "platform/runtime/x_array_db.h"
 
-/// An XY chart with the classic properties. Setting one redraws the chart at the next paint. Copying every
-/// property to another chart, the data before the columns, makes an equal one.
+/// An XY chart with the classic properties. Setting one redraws the chart at the next paint.
 class MSChart : public QWidget {
     Q_OBJECT
 
@@ -51,6 +50,9 @@ public:
     /// A curve is named by the label of its X column. Both raise 9 while there are no columns.
     QString ColumnLabel() const;
     void setColumnLabel(const QString &label);
+
+    /// Takes type, data, title, axis titles, legend and the label of every column; the axes keep their units.
+    void copyFrom(const MSChart &other);
 
     /// The chart for a report, laid out for `size` pixels of 1/96 inch.
     ChartPicture picture(QSize size) const;

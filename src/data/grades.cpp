@@ -1,0 +1,64 @@
+#include "data/grades.h"
+
+#include "data/cell_values.h"
+#include "data/Material.h"
+#include "data/queries.h"
+#include "data/search_statements.h"
+#include "platform/dao/database.h"
+#include "platform/dao/recordset.h"
+
+namespace {
+
+QVector<Grades::Grade> gradesOf(Recordset &rows) {
+    QVector<Grades::Grade> grades;
+    for (; !rows.Eof(); rows.MoveNext())
+        grades << Grades::Grade{CInt(rows.Fields("matID")),
+                                cellText(rows.Fields("name")),
+                                cellText(rows.Fields("numbr")),
+                                cellText(rows.Fields("standard")),
+                                cellText(rows.Fields("description")),
+                                cellText(rows.Fields("groups")),
+                                rows.Fields("revision_date").toDateTime()};
+    return grades;
+}
+
+bool isSame(const QString &left, const QString &right) {
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+QVector<Grades::Grade> Grades::find(Database &database, const Criteria &criteria) {
+    SearchStatements::Criteria search;
+    search.standardKind = criteria.system;
+    SearchStatements::applyStandardKind(search.fields, criteria.system);
+    search.boxes = {criteria.standard,   criteria.name, criteria.number, {}, criteria.group, {},
+                    criteria.productForm};
+    return gradesOf(
+        *database.OpenRecordset(SearchStatements::mainQuery(search, SearchStatements::DefaultOrder).sql));
+}
+
+QVector<Grades::Grade> Grades::named(Database &database, const QString &text) {
+    const QString wanted = text.section(QLatin1Char('@'), 0, 0).trimmed();
+    const QString standard = text.section(QLatin1Char('@'), 1).trimmed();
+    const bool byIdentity = wanted.startsWith(QLatin1Char('#'));
+    // Compared here and not in a statement: a name may hold what would end a text there.
+    QVector<Grade> grades = find(database, {});
+    grades.removeIf([&](const Grade &grade) {
+        const bool fits = byIdentity ? wanted.mid(1) == QString::number(grade.id)
+                                     : isSame(grade.name, wanted) || isSame(grade.number, wanted);
+        return !fits || (!standard.isEmpty() && !isSame(grade.standard, standard));
+    });
+    return grades;
+}
+
+std::shared_ptr<Material> Grades::material(Database &database, qint16 id) {
+    const auto materials = database.OpenRecordset(Queries::sqlSelectedMaterials({id}));
+    const auto standards = database.OpenRecordset(Queries::sqlAllStandards());
+    const QString standard = cellText(materials->Fields("standard"));
+    while (!isSame(cellText(standards->Fields("standard")), standard))
+        standards->MoveNext();
+    auto material = std::make_shared<Material>();
+    material->SetProperties(*materials, *standards);
+    return material;
+}

@@ -1,0 +1,366 @@
+#include "start/MainCommands.h"
+
+#include <optional>
+
+#include <QPushButton>
+
+#include "data/Material.h"
+#include "data/table_vocabulary.h"
+#include "platform/forms/call_by_name.h"
+#include "platform/forms/colours.h"
+#include "platform/forms/default_instance.h"
+#include "platform/forms/form.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/send_keys.h"
+#include "platform/forms/status_bar.h"
+#include "platform/forms/step_progress.h"
+#include "platform/forms/toolbar.h"
+#include "platform/runtime/runtime_error.h"
+#include "reports/actRepBatchPrint.h"
+#include "reports/frmSelData.h"
+#include "reports/ReportSource.h"
+#include "search/frmSearch.h"
+#include "shell/HTMLHelp.h"
+#include "shell/main_toolbar.h"
+#include "shell/mdiVelmar.h"
+#include "shell/modToolTips.h"
+#include "start/frmAbout.h"
+
+namespace {
+
+/// What a View command shows, and the status message that goes with it.
+struct TableCommand {
+    QString key;
+    int status = 0;
+};
+
+/// No key for an entry that shows nothing itself.
+TableCommand commandAt(const QString &group, int index) {
+    constexpr int StatusOfDesignValues = 6;
+    if (group == QLatin1String("View") && index == 6) return {"Design", StatusOfDesignValues};
+    for (int i = 0; i < TableVocabulary::TableCount; ++i) {
+        const TableVocabulary::Table &table = TableVocabulary::tableAt(i);
+        if (group != QStringView(table.menuGroup) || index != table.menuIndex) continue;
+        const bool elevated = table.kind == TableVocabulary::Kind::Elevated;
+        return {elevated ? QStringLiteral("Elevated") : QString::fromUtf16(table.key), table.status};
+    }
+    return {};
+}
+
+constexpr int ViewEntries = 7;
+constexpr int PhysicalEntries = 5;
+constexpr int FirstTableButton = 8;
+constexpr int LastTableButton = 14;
+
+bool isDropDown(const ToolbarButton &button) {
+    return button.Key() == QLatin1String("Mech") || button.Key() == QLatin1String("Physical");
+}
+
+/// The windows that a View command speaks to.
+bool showsTables(const FormBase &form) {
+    return form.Name() != QLatin1String("mdiVelmar") && form.Name() != QLatin1String("frmSearch");
+}
+
+} // namespace
+
+MainCommands::MainCommands(mdiVelmar &window)
+    : m_window(window) {}
+
+void MainCommands::showSearch() {
+    DefaultInstance<frmSearch>().Show();
+}
+
+void MainCommands::file(int index) {
+    switch (index) {
+    case 0:
+        showSelectedOrSearch();
+        break;
+    case 2:
+        selectData(true);
+        break;
+    case 3:
+        selectData(false);
+        break;
+    case 5:
+        HTMLHelp::ShowHelpTopic(1, "General_Information.htm");
+        break;
+    case 7:
+        leaveProgram();
+        break;
+    default:
+        break;
+    }
+}
+
+/// The caption of the save says "As Text File" whatever format is chosen then; it is meant to.
+void MainCommands::selectData(bool save) {
+    const auto &current = m_window.mCurrent;
+    if (!current || !current->MyForm()) throw RuntimeError(91);
+    current->MyForm()->bringUp(); // what is printed is to be seen
+    ReportSource::of(*current).setReportKind(ReportKind::Tables);
+    auto &dialog = DefaultInstance<frmSelData>();
+    dialog.setCaption(save ? "Save " + current->Name() + " As Text File - " + dialog.Caption()
+                           : "Print " + current->Name() + " - " + dialog.Caption());
+    dialog.cmdSavePrint->setText(save ? "Save..." : "Print/Preview...");
+    m_window.ShowStatus(save ? 103 : 102);
+    dialog.setIcon(m_window.ImageList1.ListImages(save ? 4 : 5));
+    dialog.setTop(1500);
+    dialog.framSave->setVisible(save);
+    dialog.ShowModal(&m_window);
+}
+
+/// The references are not forced into the reports: their mark stays as it was.
+void MainCommands::batchPrint() {
+    m_window.setMousePointer(vbHourglass);
+    std::optional<StepProgress> progress(std::in_place, m_window.stbStatus->PanelPlace(1),
+                                         m_window.colMaterials.Count());
+    for (const auto &material : m_window.colMaterials) {
+        if (!material->MyForm()) throw RuntimeError(91);
+        FormBase &form = *material->MyForm();
+        CallByName(form, "CheckTablesForRecords");
+        ReportSource::of(*material).setReportKind(ReportKind::Tables);
+        for (int i = 1; i < TableVocabulary::TableCount; ++i)
+            if (material->TableHasData(m_window.GetShortTableName(i))) material->setPrintTable(i, true);
+        form.Unload();
+        progress->step();
+    }
+    progress.reset();
+    m_window.setMousePointer(vbDefault);
+    actRepBatchPrint::instance().ShowModal(&m_window);
+}
+
+void MainCommands::showSelectedOrSearch() {
+    MenuEntry &entry = m_window.menu.mnuFileElem(0);
+    if (entry.Caption() == SelectCaption) {
+        backToSearch();
+    } else if (m_window.colMaterials.Count() > 0) {
+        entry.setCaption(SelectCaption);
+        DefaultInstance<frmSearch>().ShowSelections();
+    }
+}
+
+void MainCommands::backToSearch() {
+    MainMenu &menu = m_window.menu;
+    menu.mnuFileElem(0).setCaption(ShowSelectedCaption);
+    for (FormBase &form : Forms())
+        if (form.Name() == QLatin1String("frmMaterial2")) form.Unload();
+
+    auto &search = DefaultInstance<frmSearch>();
+    if (search.WindowState() != vbNormal) search.setWindowState(vbNormal);
+    search.Show();
+    search.setTop(50);
+    search.RefreshSelected({});
+
+    m_window.Toolbar1->setVisible(false);
+    menu.mnuView->setVisible(false);
+    menu.mnuSettingsElem(0).setEnabled(false);
+    for (int i : {1, 3, 4, 5})
+        menu.mnuViewElem(i).setChecked(false);
+    menu.mnuFileElem(2).setEnabled(false);
+    menu.mnuFileElem(3).setEnabled(false);
+    m_window.ShowStatus(0);
+}
+
+void MainCommands::leaveProgram() {
+    for (FormBase &form : Forms())
+        if (form.Name() != m_window.Name()) form.Unload();
+    m_window.Unload();
+}
+
+void MainCommands::view(int index) {
+    if (m_window.menu.mnuViewElem(index).Enabled()) showTable("View", index);
+}
+
+void MainCommands::mechanical(int index) {
+    if (m_window.menu.mnuViewMechElem(index).Enabled()) showTable("Mech", index);
+}
+
+void MainCommands::physical(int index) {
+    if (m_window.menu.mnuViewPhysElem(index).Enabled()) showTable("Phys", index);
+}
+
+void MainCommands::showTable(const QString &group, int index) {
+    const auto [key, status] = commandAt(group, index);
+    if (key.isEmpty()) return;
+    updateMenusAndButtons(group, index);
+    m_window.setMousePointer(vbHourglass);
+    const bool statusFirst = key == QLatin1String("Design");
+    for (FormBase &form : Forms()) {
+        if (!showsTables(form)) continue;
+        if (statusFirst) m_window.ShowStatus(status);
+        CallByName(form, "ShowTable", {key});
+        if (!statusFirst) m_window.ShowStatus(status);
+    }
+    m_window.setMousePointer(vbDefault);
+}
+
+void MainCommands::updateMenusAndButtons(const QString &group, int index) {
+    MainMenu &menu = m_window.menu;
+    Toolbar &toolbar = *m_window.Toolbar1;
+    ToolbarButton &mech = toolbar.Buttons("Mech");
+    ToolbarButton &physical = toolbar.Buttons("Physical");
+    for (int i : {0, 1, 3})
+        menu.mnuViewMechElem(i).setEnabled(true);
+    for (int i = 1; i <= mech.MenuCount(); ++i)
+        mech.ButtonMenus(i).setEnabled(true);
+    for (int i = 0; i <= 4; ++i)
+        menu.mnuViewPhysElem(i).setEnabled(true);
+    for (int i = 1; i <= physical.MenuCount(); ++i)
+        physical.ButtonMenus(i).setEnabled(true);
+    for (int i = 0; i <= 6; ++i)
+        menu.mnuViewElem(i).setEnabled(true);
+    for (int i = FirstTableButton; i <= LastTableButton; ++i)
+        toolbar.Buttons(i).setValue(tbrUnpressed);
+
+    if (group == QLatin1String("View")) {
+        menu.mnuViewElem(index).setEnabled(false);
+        toolbar.Buttons(index + FirstTableButton).setValue(tbrPressed);
+        m_window.strTableButton = toolbar.Buttons(index + FirstTableButton).Key();
+    } else if (group == QLatin1String("Mech")) {
+        menu.mnuViewMechElem(index).setEnabled(false);
+        mech.setValue(tbrPressed);
+        m_window.strTableButton = mech.Key();
+        // the menu has a separator where the drop-down has none
+        const int entry = index == 3 ? 2 : index;
+        mech.ButtonMenus(entry + 1).setEnabled(false);
+    } else if (group == QLatin1String("Phys")) {
+        menu.mnuViewPhysElem(index).setEnabled(false);
+        physical.setValue(tbrPressed);
+        m_window.strTableButton = physical.Key();
+        physical.ButtonMenus(index + 1).setEnabled(false);
+    }
+    toolbar.update();
+}
+
+void MainCommands::settings(int index) {
+    MenuEntry &entry = m_window.menu.mnuSettingsElem(index);
+    switch (index) {
+    case 1:
+        m_window.stbStatus->setVisible(!m_window.stbStatus->Visible());
+        entry.setChecked(!entry.Checked());
+        break;
+    case 2:
+        entry.setChecked(!entry.Checked());
+        m_window.Do_Undo_Colour_All();
+        break;
+    case 3:
+        entry.setChecked(!entry.Checked());
+        m_window.bToolTips = !m_window.bToolTips;
+        modToolTips::SetToolTips(m_window.bToolTips);
+        break;
+    case 4:
+        changeBackColour();
+        break;
+    default:
+        break;
+    }
+}
+
+void MainCommands::toolbarSettings(int index) {
+    MenuArray &entries = m_window.menu.mnuSettingsToolElem;
+    Toolbar &toolbar = *m_window.Toolbar1;
+    if (index < 2)
+        toolbar.setVisible(!toolbar.Visible());
+    else
+        toolbar.setAlign(toolbar.Align() == vbAlignTop ? vbAlignBottom : vbAlignTop);
+    const int first = index < 2 ? 0 : 2;
+    for (int i : {first, first + 1})
+        entries(i).setEnabled(!entries(i).Enabled());
+}
+
+void MainCommands::changeBackColour() {
+    const int colour = m_window.BackColor();
+    // a colour outside the cycle, as a settings file may hold, stays for good
+    const QList<int> cycle =
+        m_window.bColoursOff
+            ? QList<int>{vbWhite, m_window.cWorkspace}
+            : QList<int>{m_window.cBlue, m_window.cGreen, m_window.cInfoBack, m_window.cWorkspace, vbWhite};
+    const qsizetype at = cycle.indexOf(colour);
+    if (at >= 0) m_window.setBackColor(cycle[(at + 1) % cycle.size()]);
+}
+
+void MainCommands::window(int index) {
+    MenuArray &entries = m_window.menu.mnuWindowElem;
+    if (entries(index).Checked()) return;
+    const bool tile = index == 1;
+    if (tile)
+        m_window.DoTileHorizontal();
+    else
+        m_window.DoCascade();
+    entries(0).setChecked(!tile);
+    entries(1).setChecked(tile);
+    m_window.Toolbar1->Buttons("Cascade").setValue(tile ? tbrUnpressed : tbrPressed);
+    m_window.Toolbar1->Buttons("Horizontal").setValue(tile ? tbrPressed : tbrUnpressed);
+    m_window.Toolbar1->update();
+    m_window.strArrangement = tile ? "Horizontal" : "Cascade";
+    m_window.iArrangement = static_cast<qint16>(index);
+}
+
+void MainCommands::help(int index) {
+    switch (index) {
+    case 0:
+        HTMLHelp::ShowHelpContents(1);
+        break;
+    case 1:
+        HTMLHelp::ShowHelpIndex(1);
+        break;
+    case 2:
+        HTMLHelp::ShowHelpSearch(1);
+        break;
+    case 4:
+        m_window.ShowStatus(107);
+        DefaultInstance<frmAbout>().ShowModal(&m_window);
+        m_window.ShowStatus(100);
+        break;
+    default:
+        break;
+    }
+}
+
+void MainCommands::toolbarButton(ToolbarButton &button) {
+    if (button.Value() == tbrUnpressed && button.Index() >= 9 && button.Index() <= 20 && !isDropDown(button))
+        button.setValue(tbrPressed);
+    runButton(button);
+    const bool showsTable = button.Index() >= FirstTableButton && button.Index() <= LastTableButton;
+    if (showsTable && !isDropDown(button)) pressAgain(m_window.strArrangement);
+}
+
+void MainCommands::runButton(ToolbarButton &button) {
+    const QString key = button.Key();
+    if (key == QLatin1String("Select")) {
+        file(0);
+        m_window.ShowStatus(0);
+    } else if (key == QLatin1String("Next")) {
+        SendKeys("^{TAB}");
+    } else if (key == QLatin1String("Close")) {
+        m_window.CloseMaterial();
+    } else if (key == QLatin1String("Print")) {
+        file(3);
+        m_window.ShowStatus(100);
+    } else if (key == QLatin1String("Save")) {
+        file(2);
+    } else if (key == QLatin1String("Exit")) {
+        file(7);
+    } else if (key == QLatin1String("GenInfo")) {
+        file(5);
+    } else if (key == QLatin1String("Cascade") || key == QLatin1String("Horizontal")) {
+        window(key == QLatin1String("Horizontal") ? 1 : 0);
+        pressAgain(m_window.strTableButton);
+    } else {
+        for (int i = 0; i < ViewEntries; ++i)
+            if (key == commandAt("View", i).key) return view(i);
+    }
+}
+
+/// The two groups on the bar keep their state against each other.
+void MainCommands::pressAgain(const QString &key) {
+    ToolbarButton &button = m_window.Toolbar1->Buttons(key);
+    if (button.Value() == tbrUnpressed) button.setValue(tbrPressed);
+}
+
+void MainCommands::toolbarMenu(const ButtonMenu &entry) {
+    for (int i : {0, 1, 3})
+        if (entry.Key() == commandAt("Mech", i).key) return mechanical(i);
+    for (int i = 0; i < PhysicalEntries; ++i)
+        if (entry.Key() == commandAt("Phys", i).key) return physical(i);
+}

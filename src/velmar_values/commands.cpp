@@ -1,0 +1,118 @@
+#include "velmar_values/commands.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "data/GradeTables.h"
+#include "data/Material.h"
+#include "data/table_vocabulary.h"
+#include "exchange/database_texts.h"
+#include "platform/runtime/runtime_error.h"
+#include "platform/runtime/whole_file.h"
+#include "velmar_values/grade_tables_text.h"
+
+namespace {
+
+using Format = CommandLine::Format;
+
+QByteArray bytes(const QJsonArray &list) {
+    return QJsonDocument(list).toJson(QJsonDocument::Indented);
+}
+
+QByteArray bytes(const Records::Sheet &sheet, Format format) {
+    const auto kind = format == Format::Table ? Records::Format::Table
+                      : format == Format::Csv ? Records::Format::Csv
+                                              : Records::Format::Tsv;
+    return Records::written(sheet, kind).toUtf8();
+}
+
+/// The one grade that `text` names.
+Grades::Grade gradeOf(Database &database, const QString &text) {
+    const QVector<Grades::Grade> grades = Grades::named(database, text);
+    if (grades.size() == 1) return grades.first();
+    if (grades.isEmpty()) throw NotFound("no grade '" + text + "'");
+    QStringList several;
+    for (const Grades::Grade &grade : grades)
+        several << "#" + QString::number(grade.id) + " " + grade.name + " " + grade.number + " " +
+                       grade.standard;
+    throw NotFound("'" + text + "' fits several grades: " + several.join("; "));
+}
+
+QByteArray find(Database &database, const CommandLine &line) {
+    const QVector<Grades::Grade> grades = Grades::find(database, line.criteria);
+    if (grades.isEmpty()) throw NotFound("no grade found");
+    if (line.format != Format::Json) return bytes(GradeTexts::sheet(grades), line.format);
+    QJsonArray list;
+    for (const Grades::Grade &grade : grades) {
+        QJsonObject object = GradeTexts::json(grade);
+        object.insert("description", grade.description);
+        object.insert("group", grade.group);
+        object.insert("revision", grade.revision.date().toString(Qt::ISODate));
+        list << object;
+    }
+    return bytes(list);
+}
+
+QByteArray show(Database &database, const CommandLine &line) {
+    ShownGrade shown{gradeOf(database, line.grades.first()), {}};
+    const auto material = Grades::material(database, shown.grade.id);
+    GradeTables tables(database);
+    QStringList keys = line.tables;
+    if (keys.isEmpty())
+        for (int i = 0; i < TableVocabulary::TableCount; ++i)
+            keys << TableVocabulary::GetShortTableName(i);
+    for (const QString &key : keys)
+        shown.tables << tables.load(*material, key);
+    if (line.format == Format::Json) return bytes(QJsonArray{GradeTexts::json(shown)});
+    if (line.format == Format::Table) return GradeTexts::text(shown).toUtf8();
+    return bytes(GradeTexts::sheet(shown), line.format);
+}
+
+QByteArray values(Database &database, const CommandLine &line) {
+    const NumberFlags flags = NumberFlags::fromSystem();
+    QVector<ValuedGrade> valued;
+    for (const QString &text : line.grades) {
+        const Grades::Grade grade = gradeOf(database, text);
+        const auto material = Grades::material(database, grade.id);
+        GradeTables tables(database);
+        DesignValues design;
+        const bool hasValues =
+            design.build(*material, [&](const QString &key) { design.take(tables.load(*material, key)); });
+        for (const QString &at : line.temperatures) {
+            if (hasValues) design.compute(at, flags);
+            valued << ValuedGrade{grade, at, hasValues ? design.tables() : QVector<DesignTable>()};
+        }
+    }
+    if (line.format == Format::Table) return GradeTexts::text(valued).toUtf8();
+    if (line.format != Format::Json) return bytes(GradeTexts::sheet(valued), line.format);
+    QJsonArray list;
+    for (const ValuedGrade &each : valued)
+        list << GradeTexts::json(each);
+    return bytes(list);
+}
+
+/// Either all of the texts are there, or an error has told which one is not.
+QByteArray exportTexts(Database &database, const CommandLine &line) {
+    const QDir folder(line.folder);
+    if (!folder.exists() && !QDir().mkpath(line.folder))
+        throw RuntimeError(75, RuntimeError::standardDescription(75) + ": '" + line.folder + '\'');
+    for (const QString &table : DatabaseTexts::tables())
+        writeWholeFile(folder.filePath(table + ".csv"), DatabaseTexts::written(database, table));
+    return {};
+}
+
+} // namespace
+
+QByteArray Commands::run(Database &database, const CommandLine &line) {
+    switch (line.command) {
+    case CommandLine::Command::Find:
+        return find(database, line);
+    case CommandLine::Command::Show:
+        return show(database, line);
+    case CommandLine::Command::Values:
+        return values(database, line);
+    default:
+        return exportTexts(database, line);
+    }
+}
