@@ -48,6 +48,12 @@ void HideEmptyImpactColumns(Recordset &rows, Material &material, LoadedTable &ta
     material.setImpEnergyCols(empty.columnsWithValues());
 }
 
+/// The rows, and not the columns, count as value columns: the design table has always been that wide, and a
+/// report laid out for it would break its columns elsewhere.
+void CountTemperatureRows(const Recordset &rows, Material &material) {
+    growMaxDesignCols(material, rows.RecordCount());
+}
+
 void readCells(Recordset &rows, LoadedTable &table) {
     const int last = static_cast<int>(table.columns.size()) - 1;
     table.cells.ReDim(1, rows.RecordCount(), 0, last);
@@ -91,10 +97,8 @@ void loadTemperatureTable(Database &database, Material &material, LoadedTable &t
         addFixedColumns(table);
     }
     if (key == QLatin1String("ImpEnergy")) HideEmptyImpactColumns(*dtaTable, material, table);
-    // Of these two tables the rows, and not the columns, count as value columns: the design table has always
-    // been that wide, and a report laid out for it would break its columns elsewhere.
     if (key == QLatin1String("ThermExp") || key == QLatin1String("SpecThermCap"))
-        growMaxDesignCols(material, dtaTable->RecordCount());
+        CountTemperatureRows(*dtaTable, material);
     dtaTable = database.OpenRecordset(sql);
     readCells(*dtaTable, table);
     if (hasRows && key != QLatin1String("ImpEnergy")) table.source = sourceOf(table);

@@ -37,6 +37,10 @@ int GetUnitID(Database &database, const QString &colTxt) {
     return modDBase::GetID(*dtaColumns, colTxt, "colTxt", "unitID");
 }
 
+QString GetUnitText(const Recordset &units, int unitID) {
+    return modDBase::GetText(units, unitID, "unitID", "unitTxt");
+}
+
 struct Reading {
     Database &database;
     const Recordset &units;
@@ -65,8 +69,7 @@ struct Reading {
         table.colIDs[i] = colID;
         const QString text = GetColumnText(database, colID);
         const QString marker = table.hasNotes ? cellText(definition.Fields("note")) : QString();
-        const QString unit =
-            shownUnit(modDBase::GetText(units, GetUnitID(database, text), "unitID", "unitTxt"));
+        const QString unit = shownUnit(GetUnitText(units, GetUnitID(database, text)));
         if (isCreep()) mColCaptions[i] = text + " " + unit;
         const QString limit = cellText(definition.Fields("minMax"));
         const float size = CSng(definition.Fields("colSize"));

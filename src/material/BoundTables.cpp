@@ -35,8 +35,8 @@ void BoundTables::InitColumns() {
     grid.Rebind();
 }
 
-/// The temperature keeps the width of 1200 from the first reset on: with its first 1500 a table of six bands
-/// would no longer fit beside its options.
+/// The temperature keeps the width of 1200 from the first reset on: a wider one takes the room of the last
+/// band.
 void BoundTables::ResetColumns() {
     TDBGrid &grid = *m_controls.tdbBoundTable;
     while (grid.ColumnCount() > DesignedColumns)
