@@ -53,7 +53,7 @@ void Material::setProductForms(const QStringList &names) {
 }
 
 const QVector<float> &Material::MechCreepColSize(const QString &key) const {
-    // meant so: reading is not as choosy as writing
+    // reading is not as choosy as writing: a report of another table finds widths, and no error
     return key == MechProp ? m_mechWidths : m_creepWidths;
 }
 

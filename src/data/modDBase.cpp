@@ -59,7 +59,8 @@ QString questionText(const RuntimeError &error, const QString &path, const QStri
     if (error.number() != WrongFormat)
         return "Error <" + QString::number(error.number()) + "> " + error.description() + LineEnd + LineEnd +
                missingMessage;
-    // no blank stands between the name and the word behind it, and it stays so
+    // no blank stands between the name and the word behind it: reports of the error are found by the text as
+    // it is
     return "You attempted to open a non-database file." + LineEnd + LineEnd + path + LineEnd + LineEnd +
            dbName + "is the necessary file" + LineEnd + LineEnd + "Do you wish to try again?";
 }
@@ -77,7 +78,8 @@ void logError(DatabaseHost &host, const RuntimeError &error) {
     const QStringList lines = {
         "Error No. - " + QString::number(error.number()), "Application EXE - " + App::current().exeName,
         "Sub/Function - modDBase.OpenDBase", "Error Description - ", error.description()};
-    // the folder named is not the one written to when the user has a folder of his own: it has always been so
+    // the folder named is the user's own, which takes the log only where the program's cannot be written:
+    // whoever is sent the text knows both
     host.tell(lines.join(LineEnd) + LineEnd + LineEnd + "Error Log - '" + LogName +
                   "' has been created at..." + LineEnd + modFileHandler::GetUserFolder() + '/' + LineEnd +
                   "Report Error To Supplier, sending a copy of the Error Log",

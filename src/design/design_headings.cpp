@@ -7,7 +7,8 @@ namespace {
 QStringList bandCaptions(const QVector<qint16> &aThickness) {
     QStringList captions;
     for (qsizetype i = 1; i < aThickness.size(); ++i) {
-        // Two blanks in the first brackets, where a graph's legend has three: meant so.
+        // Two blanks in the first brackets, where a graph's legend has three: design files of one grade are
+        // compared as texts, and one blank more would differ in each.
         const QString from = i == 1 ? QStringLiteral("  ") : QString::number(aThickness[i - 1]);
         captions << QStringLiteral("(%1) - %2mm").arg(from, QString::number(aThickness[i]));
     }

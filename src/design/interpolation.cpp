@@ -60,7 +60,8 @@ QString cellBetween(const SourceArray &source, const Bracket &rows, int column, 
             onTheLine(static_cast<double>(temperature), CDbl(source.text(rows.lower, 0)),
                       CDbl(source.text(rows.upper, 0)), CDbl(low.number), CDbl(high.number)));
     }
-    // The lower row's decoration, also around the upper row's own number: meant so.
+    // The lower row's decoration, also around the upper row's own number: it looks as the values on the way
+    // there.
     return number.isEmpty() ? NoValue : low.prefix + number + low.suffix;
 }
 

@@ -69,7 +69,8 @@ void TemperatureInput::textReplaced() {
     countDecimals();
 }
 
-// The flags start anew for every key, also where a decimal sign stays behind outside the selection: meant so.
+// The flags start anew for every key, also where a decimal sign stays behind outside the selection: else the
+// number typed over another one would be refused its decimals.
 bool TemperatureInput::dropSelection() {
     if (selectionLength == 0) return false;
     forgetDecimals();
@@ -91,7 +92,8 @@ bool TemperatureInput::accepts(QChar &key) {
 
 bool TemperatureInput::acceptsDigit() {
     if (iDecimalDigits > 0 && caret > text.size() - 2) return false;
-    if (bDecimalTyped) iDecimalDigits = std::max(iDecimalDigits, 1); // wherever the caret stands: meant so
+    // Wherever the caret stands: the box must not come to two decimals by way of its front.
+    if (bDecimalTyped) iDecimalDigits = std::max(iDecimalDigits, 1);
     return true;
 }
 

@@ -34,7 +34,8 @@ std::array<ValueText::Parts, 2> ValueText::SplitValueText(const std::array<QStri
                                                           bool bDecimalPoint) {
     const QChar decimalSign = QLatin1Char(bDecimalPoint ? '.' : ',');
     std::array<Parts, 2> parts = {split(values[0], decimalSign), split(values[1], decimalSign)};
-    // One way only, and meant so: a decoration that begins in the upper row holds for the way up to it.
+    // One way only: a decoration that begins in the upper row holds for the way up to it. The other way a
+    // plain value would get brackets that the standard ends below it.
     if (parts[0].prefix.isEmpty()) parts[0].prefix = parts[1].prefix;
     if (parts[0].suffix.isEmpty()) parts[0].suffix = parts[1].suffix;
     return parts;

@@ -133,7 +133,8 @@ void frmPmaIndex::searchStringChanged() {
     if (txtSearchString->text().trimmed().isEmpty()) resetList();
 }
 
-/// Sorting drops the search, and the box keeps its text: it is meant so.
+/// Sorting drops the search, so that the whole index is seen in order; the box keeps its text for the next
+/// press.
 void frmPmaIndex::sort(int column, bool ascending) {
     runSource(Queries::sqlPmaSorted(tdbIndex->Columns(column).DataField(), ascending));
 }

@@ -22,7 +22,7 @@ constexpr int FieldTop = 10;
 constexpr int BlockGap = 70;
 constexpr int DummyOffset = 50;
 constexpr double FontSize = 8;
-/// Six tables: the layout knows no more rows, and a seventh table stays hidden, as it is meant.
+/// Six tables: the layout knows no more rows, and a seventh table would have no place of its own.
 constexpr int LastLaidOutRow = 18;
 
 /// A table has a row of captions, a row of values and an empty one.

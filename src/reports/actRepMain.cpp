@@ -249,7 +249,8 @@ void actRepMain::ReportEnd() {
     try {
         ReportExport::saveAsking(document(), iSaveFormat, mMaterial->Name(), main.comDlg);
     } catch (const RuntimeError &) {
-        // Cancel, or no way to write the file: nobody is told, as it is meant
+        // Cancel, or no way to write the file: nobody is told, and the help says so; a box would stop a row
+        // of saves
     }
     main.ShowStatus(bFromChart ? 108 : 100);
 }

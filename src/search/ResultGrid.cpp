@@ -79,7 +79,8 @@ void ResultGrid::foundResized(int column) {
     mdiVelmar::instance().setColumnSize(column, static_cast<float>(width));
 }
 
-/// Only a resize in the upper grid is remembered: it is meant so.
+/// Only a resize in the upper grid is remembered: the widths are kept once for both grids, and the lower
+/// one's would undo what was set above.
 void ResultGrid::selectedResized(int column) {
     m_search.tdbMaterials->Columns(column).setWidth(m_search.tdbSelected->Columns(column).Width());
 }

@@ -62,7 +62,7 @@ void SelectedList::addFromList() {
 bool SelectedList::mayAdd() const {
     const Materials &selected = mdiVelmar::instance().colMaterials;
     if ((selected.Count() == MostMaterials && !batchOffered()) || selected.Count() == MostForBatch) {
-        // the title says 10 for 30 too, and it stays so
+        // the title says 10 for 30 too: the number that holds is in the text
         MsgBox("You have already selected the Maximum Number of Materials", vbInformation,
                "10 Materials already selected!");
         return false;
@@ -129,7 +129,8 @@ void SelectedList::clear() {
     m_search.cmdSelectMat->setEnabled(true);
 }
 
-/// Nothing empties it again while the window lives: it is meant so.
+/// Nothing empties it again while the window lives: it tells that a material was taken out, and the list does
+/// not.
 void SelectedList::fillBin() {
     if (m_search.imgBin->Picture() != m_search.imgFullBin->Picture())
         m_search.imgBin->setPicture(m_search.imgFullBin->Picture());

@@ -79,7 +79,8 @@ void frmSearch::Form_Load() {
     orderTabs();
     SearchMaterials(SearchStatements::DefaultOrder);
     restoreCriteria();
-    // this empties the boxes again, so that the window always opens on the whole list: it is meant so
+    // this empties the boxes again, so that the window always opens on the whole list: a criterion forgotten
+    // in the last run would hide grades
     cmbChooseStd->setCurrentIndex(0);
     cmdShowPmaIndex->setVisible(modDocument::FileExists(App::current().path + frmPmaIndex::strPmaFile));
     txtSearch(0)->setFocus();

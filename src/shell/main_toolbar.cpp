@@ -55,7 +55,8 @@ void addButtons(Toolbar &toolbar) {
     ToolbarButton &physical = toolbar.Buttons("Physical");
     physical.AddMenu("ModElast", "&Modulus Of Elasticity");
     physical.AddMenu("ThermExp", "Thermal &Expansion");
-    physical.AddMenu("ThermCond", "Thermal &Conductiviy"); // spelt unlike the menu, and it stays so
+    physical.AddMenu("ThermCond",
+                     "Thermal &Conductiviy"); // spelt unlike the menu: users find it by this text
     physical.AddMenu("SpecThermCap", "Specific &Thermal Capacity");
     physical.AddMenu("SpecElecRes", "Specific Electrical &Resistivity");
 }

@@ -92,7 +92,8 @@ void MainCommands::file(int index) {
     }
 }
 
-/// The caption of the save says "As Text File" whatever format is chosen then; it is meant to.
+/// The caption of the save says "As Text File" whatever format is chosen then: the choice stands in the
+/// window itself.
 void MainCommands::selectData(bool save) {
     const auto &current = m_window.mCurrent;
     if (!current || !current->MyForm()) throw RuntimeError(91);
