@@ -76,7 +76,8 @@ inline QStringList textsOf(const Printing::Report &report, const QString &sectio
     return result;
 }
 
+// The name by value: to a compiler the control could be a part of one that is passed by reference.
 template <class ControlType = Printing::TextControl>
-ControlType &controlOf(const Printing::Report &report, const char *section, const QString &name) {
+ControlType &controlOf(const Printing::Report &report, const char *section, QString name) {
     return report.Sections(QLatin1String(section)).Controls.Item<ControlType>(name);
 }
