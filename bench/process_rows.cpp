@@ -13,8 +13,8 @@
 #include "bench/program.h"
 #include "bench/rows.h"
 #include "bench/samples.h"
-#include "platform/runtime/text_file.h"
 #include "data/modFileHandler.h"
+#include "platform/runtime/text_file.h"
 
 namespace Bench {
 
