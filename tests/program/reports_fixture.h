@@ -76,8 +76,15 @@ inline QStringList textsOf(const Printing::Report &report, const QString &sectio
     return result;
 }
 
-// The name by value: to a compiler the control could be a part of one that is passed by reference.
+// The newer compiler takes the control for a part of the name that is given with it.
+#if __has_cpp_attribute(gnu::no_dangling)
+#define OUTLIVES_ITS_ARGUMENTS [[gnu::no_dangling]]
+#else
+#define OUTLIVES_ITS_ARGUMENTS
+#endif
+
 template <class ControlType = Printing::TextControl>
-ControlType &controlOf(const Printing::Report &report, const char *section, QString name) {
+OUTLIVES_ITS_ARGUMENTS ControlType &controlOf(const Printing::Report &report, const char *section,
+                                              const QString &name) {
     return report.Sections(QLatin1String(section)).Controls.Item<ControlType>(name);
 }
