@@ -37,7 +37,3 @@ QStringList readProductForms(Recordset &names, int ids) {
     }
     return forms;
 }
-
-QString productFormLine(const QStringList &names) {
-    return " " + names.join(", ");
-}

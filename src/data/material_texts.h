@@ -24,6 +24,3 @@ QString additionalInfoText(const QVector<InfoParagraph> &paragraphs,
 
 /// As many names as there are ids. Raises 3021 where an id has no name.
 QStringList readProductForms(Recordset &names, int ids);
-
-/// A blank, and the names parted by commas.
-QString productFormLine(const QStringList &names);
