@@ -65,6 +65,8 @@ int main(int argc, char **argv) {
     std::signal(SIGPIPE, SIG_IGN);
     // Without a name the C library looks at the time zone's file anew for each date of local time.
     if (!qEnvironmentVariableIsSet("TZ")) qputenv("TZ", ":/etc/localtime");
+    // What the library has to say of the locale is not for whoever reads our errors, a line each.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QCoreApplication application(argc, argv);
     ProgramVersion::apply(QCoreApplication::applicationDirPath());
     RegionalSettings::setCurrent(RegionalSettings::fromSystem());

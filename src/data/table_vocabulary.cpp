@@ -1,5 +1,6 @@
 #include "data/table_vocabulary.h"
 
+#include "data/status_numbers.h"
 #include "platform/runtime/runtime_error.h"
 
 namespace {
@@ -32,39 +33,39 @@ constexpr Column SpecElecRes[] = {
 // clang-format off
 constexpr Table Tables[TableVocabulary::TableCount] = {
     {u"Ref", u"References", u"",
-     Kind::References, u"View", 0, 1, 10, {}, nullptr, false, nullptr, u"References"},
+     Kind::References, u"View", 0, StatusNumber::ChooseTable, 10, {}, nullptr, false, nullptr, u"References"},
     {u"ChemComp", u"Chemical composition", u"",
-     Kind::Unbound, u"View", 1, 1, 7, {}, nullptr, false, nullptr, u"Chemical Composition"},
+     Kind::Unbound, u"View", 1, StatusNumber::ChooseTable, 7, {}, nullptr, false, nullptr, u"Chemical Composition"},
     {u"MechProp", u"Mechanical properties at room temperature", u"",
-     Kind::Unbound, u"Mech", 0, 1, 8, {}, nullptr, false, nullptr, u"Mechanical Properties At Room Temperature"},
+     Kind::Unbound, u"Mech", 0, StatusNumber::ChooseTable, 8, {}, nullptr, false, nullptr, u"Mechanical Properties At Room Temperature"},
     {u"ImpEnergy", u"Impact energy", u"",
-     Kind::Impact, u"View", 3, 1, 9, Impact, nullptr, false, nullptr, u"Impact Energy"},
+     Kind::Impact, u"View", 3, StatusNumber::ChooseTable, 9, Impact, nullptr, false, nullptr, u"Impact Energy"},
     {u"Rp02", u"Minimum values for Rp0,2 [MPa] at elevated temperature", Rp02[0].heading,
-     Kind::Elevated, u"Mech", 1, 13, 8, Rp02, u"Rp 0,2  [MPa]", false, u"[MPa]",
+     Kind::Elevated, u"Mech", 1, StatusNumber::TableOrGraphByOption, 8, Rp02, u"Rp 0,2  [MPa]", false, u"[MPa]",
      u"Min Values For Rp0,2 At Elevated Temperature"},
     {u"Rp10", u"Minimum values for Rp1,0 [MPa] at elevated temperature", Rp10[0].heading,
-     Kind::Elevated, u"Mech", 1, 13, 8, Rp10, u"Rp 1,0  [MPa]", false, u"[MPa]",
+     Kind::Elevated, u"Mech", 1, StatusNumber::TableOrGraphByOption, 8, Rp10, u"Rp 1,0  [MPa]", false, u"[MPa]",
      u"Min. Values For Rp1,0 At Elevated Temperature"},
     {u"Rm", u"Minimum values for Rm [MPa] at elevated temperature", Rm[0].heading,
-     Kind::Elevated, u"Mech", 1, 13, 8, Rm, u"Rm  [MPa]", false, u"[MPa]",
+     Kind::Elevated, u"Mech", 1, StatusNumber::TableOrGraphByOption, 8, Rm, u"Rm  [MPa]", false, u"[MPa]",
      u"Min. Values For Rm At Elevated Temperature"},
     {u"ModElast", u"Modulus of elasticity", ModElast[0].heading,
-     Kind::Physical, u"Phys", 0, 1, 10, ModElast, u"[kN/mm]", true, u"[kN/mm]", u"Modulus Of Elasticity"},
+     Kind::Physical, u"Phys", 0, StatusNumber::ChooseTable, 10, ModElast, u"[kN/mm]", true, u"[kN/mm]", u"Modulus Of Elasticity"},
     {u"ThermExp", u"Thermal expansion", u"",
-     Kind::Physical, u"Phys", 1, 1, 10, ThermExp, u"[E-6/K]", true, nullptr, u"Thermal Expansion"},
+     Kind::Physical, u"Phys", 1, StatusNumber::ChooseTable, 10, ThermExp, u"[E-6/K]", true, nullptr, u"Thermal Expansion"},
     {u"ThermCond", u"Thermal conductivity", ThermCond[0].heading,
-     Kind::Physical, u"Phys", 2, 1, 10, ThermCond, u"[W/m*K]", true, u"[W/m*K]", u"Thermal Conductivity"},
+     Kind::Physical, u"Phys", 2, StatusNumber::ChooseTable, 10, ThermCond, u"[W/m*K]", true, u"[W/m*K]", u"Thermal Conductivity"},
     {u"SpecThermCap", u"Specific thermal capacity", u"",
-     Kind::Physical, u"Phys", 3, 1, 10, SpecThermCap, u"[J/kgK]", true, nullptr, u"Specific Thermal Capacity"},
+     Kind::Physical, u"Phys", 3, StatusNumber::ChooseTable, 10, SpecThermCap, u"[J/kgK]", true, nullptr, u"Specific Thermal Capacity"},
     // [MPa] over a resistivity, in graph and design values: so they are printed in every design file that there
     // is, and a unit mended here alone would make two files of one grade differ.
     {u"SpecElecRes", u"Specific electrical resistance", SpecElecRes[0].heading,
-     Kind::Physical, u"Phys", 4, 1, 10, SpecElecRes, u"[MPa]", false, u"[MPa]",
+     Kind::Physical, u"Phys", 4, StatusNumber::ChooseTable, 10, SpecElecRes, u"[MPa]", false, u"[MPa]",
      u"Specific Electrical Resistivity"},
     {u"CreepProp", u"Creep properties", u"Creep Properties",
-     Kind::Unbound, u"Mech", 3, 14, 8, {}, nullptr, false, nullptr, u"Creep Properties"},
+     Kind::Unbound, u"Mech", 3, StatusNumber::TableOrGraphByButton, 8, {}, nullptr, false, nullptr, u"Creep Properties"},
     {u"AddInfo", u"Additional Information", u"",
-     Kind::Information, u"View", 5, 1, 11, {}, nullptr, false, nullptr, u"Additional Information"},
+     Kind::Information, u"View", 5, StatusNumber::ChooseTable, 11, {}, nullptr, false, nullptr, u"Additional Information"},
 };
 // clang-format on
 

@@ -46,7 +46,7 @@ struct Table {
     /// share one.
     const char16_t *menuGroup;
     int menuIndex;
-    /// The message on the status line when the menu shows it.
+    /// The StatusNumber of the message when the menu shows it.
     int status;
     /// The page's symbol among the main window's pictures.
     int symbol;

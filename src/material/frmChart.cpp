@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "data/Material.h"
+#include "data/status_numbers.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/help_context.h"
 #include "platform/forms/ms_chart.h"
@@ -23,8 +24,7 @@ constexpr int DesignedHeight = 9000;
 constexpr int Margin = 120;
 constexpr int ButtonSize = 540;
 
-constexpr int StatusOfGraph = 8;
-constexpr int ShowOnly = 100;
+constexpr int StatusOfGraph = StatusNumber::onlyShown(StatusNumber::EnlargedChart);
 
 } // namespace
 
@@ -58,12 +58,12 @@ void frmChart::addButton(int index, const QString &picture, const QString &toolT
 
 void frmChart::Form_Load() {
     mdiVelmar &main = mdiVelmar::instance();
-    main.ShowStatus(ShowOnly + StatusOfGraph);
+    main.ShowStatus(StatusOfGraph);
     if (!main.bToolTips) {
         for (const auto &[index, button] : cmdGraph)
             button->setToolTip({});
     }
-    if (!main.menu.mnuSettingsElem(2).Checked()) setBackColor(framChart, vbWhite);
+    if (!main.menu.mnuSettingsElem(SettingsEntry::Colour).Checked()) setBackColor(framChart, vbWhite);
 
     if (!main.mCurrent || main.mCurrent->MyForm() == nullptr) throw RuntimeError(91);
     const Form &material = *main.mCurrent->MyForm();
@@ -86,7 +86,7 @@ void frmChart::save() {
 
 void frmChart::print() {
     takeGraph();
-    ReportCommands::previewReport(ShowOnly + StatusOfGraph);
+    ReportCommands::previewReport(StatusOfGraph);
 }
 
 /// The material's next report is its graph.
@@ -95,7 +95,7 @@ void frmChart::takeGraph() {
 }
 
 void frmChart::Form_Activate() {
-    mdiVelmar::instance().ShowStatus(ShowOnly + StatusOfGraph);
+    mdiVelmar::instance().ShowStatus(StatusOfGraph);
 }
 
 void frmChart::Form_Resize() {
@@ -109,5 +109,5 @@ void frmChart::Form_Resize() {
 }
 
 void frmChart::Form_Unload(bool &) {
-    mdiVelmar::instance().ShowStatus(100);
+    mdiVelmar::instance().ShowStatus(StatusNumber::Restore);
 }

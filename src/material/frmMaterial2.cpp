@@ -106,7 +106,7 @@ void frmMaterial2::Form_Load() {
     m_notes.StorePlace();
     for (TDBGrid *grid : {tdbTable, tdbBoundTable, tdbDesign})
         main.SetRowColors(*grid, false);
-    if (!main.menu.mnuSettingsElem(2).Checked()) main.Do_Undo_Colour(*this);
+    if (!main.menu.mnuSettingsElem(SettingsEntry::Colour).Checked()) main.Do_Undo_Colour(*this);
     m_boundTables.InitColumns();
     lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
     HideAll();

@@ -4,6 +4,7 @@
 #include <QScopeGuard>
 
 #include "data/Material.h"
+#include "data/status_numbers.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
@@ -242,15 +243,16 @@ bool actRepMain::prints(const QString &key) const {
 void actRepMain::ReportEnd() {
     mdiVelmar &main = mdiVelmar::instance();
     if (!bSaveToFile) {
-        main.ShowStatus(110);
+        main.ShowStatus(StatusNumber::onlyShown(StatusNumber::Preview));
         return;
     }
-    main.ShowStatus(112);
+    main.ShowStatus(StatusNumber::onlyShown(StatusNumber::ChooseFile));
     try {
         ReportExport::saveAsking(document(), iSaveFormat, mMaterial->Name(), main.comDlg);
     } catch (const RuntimeError &) {
         // Cancel, or no way to write the file: nobody is told, and the help says so; a box would stop a row
         // of saves
     }
-    main.ShowStatus(bFromChart ? 108 : 100);
+    main.ShowStatus(bFromChart ? StatusNumber::onlyShown(StatusNumber::EnlargedChart)
+                               : StatusNumber::Restore);
 }

@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "data/Material.h"
+#include "data/status_numbers.h"
 #include "platform/forms/help_context.h"
 #include "platform/runtime/runtime_error.h"
 #include "reports/report_commands.h"
@@ -30,11 +31,11 @@ frmSave::frmSave()
 }
 
 void frmSave::Form_Load() {
-    mdiVelmar::instance().ShowStatus(109);
+    mdiVelmar::instance().ShowStatus(StatusNumber::onlyShown(StatusNumber::ChooseFormat));
 }
 
 void frmSave::Form_Unload(bool &) {
-    mdiVelmar::instance().ShowStatus(100);
+    mdiVelmar::instance().ShowStatus(StatusNumber::Restore);
 }
 
 void frmSave::save() {

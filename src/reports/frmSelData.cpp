@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "data/Material.h"
+#include "data/status_numbers.h"
 #include "data/table_vocabulary.h"
 #include "platform/forms/call_by_name.h"
 #include "platform/forms/help_context.h"
@@ -47,7 +48,7 @@ frmSelData::frmSelData()
     connect(chkData(0), &QCheckBox::clicked, this, [this] { chkData(0)->setChecked(true); });
     connect(cmdSavePrint, &QPushButton::clicked, this, &frmSelData::savePrint);
     connect(cmdCancel, &QPushButton::clicked, this, [this] {
-        mdiVelmar::instance().ShowStatus(100);
+        mdiVelmar::instance().ShowStatus(StatusNumber::Restore);
         Unload();
     });
 }
@@ -64,7 +65,7 @@ void frmSelData::Form_Load() {
 
 /// By its close box; the other ways out hand the status line back themselves.
 void frmSelData::Form_QueryUnload(bool &, UnloadMode mode) {
-    if (mode == vbFormControlMenu) mdiVelmar::instance().ShowStatus(100);
+    if (mode == vbFormControlMenu) mdiVelmar::instance().ShowStatus(StatusNumber::Restore);
 }
 
 /// The window goes through its tables, which the user need not watch.

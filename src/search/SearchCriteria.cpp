@@ -2,6 +2,7 @@
 
 #include "data/modDBase.h"
 #include "data/queries.h"
+#include "data/status_numbers.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/key_hooks.h"
@@ -136,12 +137,12 @@ void SearchCriteria::exposeBatch() {
 
 void SearchCriteria::openList(int box) {
     const SearchStatements::ListQuery list = SearchStatements::listQuery(box, criteria(), mWhereClause);
-    mdiVelmar::instance().ShowStatus(5);
+    mdiVelmar::instance().ShowStatus(StatusNumber::PickItem);
     const QString database = "DatabaseName";
     const QString chosen = list.picksStandard
                                ? modDBase::SelectStandard(list.sql, database)
                                : modDBase::SelectFromList(list.sql, list.field, list.title, database);
-    mdiVelmar::instance().ShowStatus(0);
+    mdiVelmar::instance().ShowStatus(StatusNumber::Search);
     if (!chosen.isEmpty()) m_search.txtSearch(box)->setText(chosen);
 }
 

@@ -4,6 +4,7 @@
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "data/queries.h"
+#include "data/status_numbers.h"
 #include "material/frmMaterial2.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/default_instance.h"
@@ -12,7 +13,7 @@
 #include "platform/forms/toolbar.h"
 #include "platform/runtime/conversions.h"
 #include "search/frmSearch.h"
-#include "shell/main_toolbar.h"
+#include "shell/main_state.h"
 #include "shell/mdiVelmar.h"
 
 namespace {
@@ -161,7 +162,7 @@ void SelectedList::showCount() {
 void SelectedList::show() {
     if (mdiVelmar::instance().colMaterials.Count() == 0) return;
     OpenSelectedMaterials();
-    mdiVelmar::instance().ShowStatus(1);
+    mdiVelmar::instance().ShowStatus(StatusNumber::ChooseTable);
 }
 
 void SelectedList::OpenSelectedMaterials() {
@@ -169,7 +170,7 @@ void SelectedList::OpenSelectedMaterials() {
     main.setMousePointer(vbHourglass);
     openWindows();
     showMaterialCommands();
-    arrangeWindows();
+    MainState::arrange(main, main.iArrangement != 0);
     main.strTableButton = "Ref";
     if (!main.bBatchPrint)
         for (const auto &material : main.colMaterials)
@@ -202,26 +203,8 @@ void SelectedList::openWindows() {
 
 void SelectedList::showMaterialCommands() {
     mdiVelmar &main = mdiVelmar::instance();
-    main.menu.mnuFileElem(0).setCaption(SelectCaption);
+    main.menu.mnuFileElem(FileEntry::ShowOrSelect).setCaption(SelectCaption);
     // a bar that the user has hidden stays hidden
-    main.Toolbar1->setVisible(!main.menu.mnuSettingsToolElem(0).Enabled());
-    MainToolbar::showMaterialButtons(*main.Toolbar1, true);
-    main.menu.mnuView->setVisible(true);
-    main.menu.mnuSettingsElem(0).setEnabled(true);
-    main.menu.mnuFileElem(2).setEnabled(true);
-    main.menu.mnuFileElem(3).setEnabled(true);
-}
-
-void SelectedList::arrangeWindows() {
-    mdiVelmar &main = mdiVelmar::instance();
-    const bool tile = main.iArrangement != 0;
-    main.Toolbar1->Buttons("Cascade").setValue(tile ? tbrUnpressed : tbrPressed);
-    main.Toolbar1->Buttons("Horizontal").setValue(tile ? tbrPressed : tbrUnpressed);
-    if (tile)
-        main.DoTileHorizontal();
-    else
-        main.DoCascade();
-    main.menu.mnuWindowElem(1).setChecked(tile);
-    main.menu.mnuWindowElem(0).setChecked(!tile);
-    main.strArrangement = tile ? "Horizontal" : "Cascade";
+    main.Toolbar1->setVisible(!main.menu.mnuSettingsToolElem(ToolbarEntry::Show).Enabled());
+    MainState::showMaterialsOpen(main, true);
 }

@@ -36,7 +36,6 @@ private:
     void showCount();
     void openWindows();
     void showMaterialCommands();
-    void arrangeWindows();
 
     frmSearch &m_search;
 };

@@ -130,7 +130,7 @@ void frmSearch::keepCriteria() const {
 
 void frmSearch::Form_Unload(bool &) {
     keepCriteria();
-    mdiVelmar::instance().menu.mnuFileElem(0).setEnabled(true);
+    mdiVelmar::instance().menu.mnuFileElem(FileEntry::ShowOrSelect).setEnabled(true);
 }
 
 void frmSearch::SetToolTips(bool showTips) {

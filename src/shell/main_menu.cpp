@@ -24,17 +24,19 @@ void addSeparator(MenuArray &array, MenuEntry *menu, int index) {
 }
 
 void buildFile(MainMenu &menu) {
-    menu.mnuFileElem.add(menu.mnuFile, 0, ShowSelectedCaption, ctrl('M'));
+    menu.mnuFileElem.add(menu.mnuFile, FileEntry::ShowOrSelect, ShowSelectedCaption, ctrl('M'));
     addSeparator(menu.mnuFileElem, menu.mnuFile, 1);
-    menu.mnuFileElem.add(menu.mnuFile, 2, "&Save Report For Current Material To File...", ctrl('S'));
-    menu.mnuFileElem.add(menu.mnuFile, 3, "&Print (Preview) Report For Current Material...", ctrl('P'));
+    menu.mnuFileElem.add(menu.mnuFile, FileEntry::Save, "&Save Report For Current Material To File...",
+                         ctrl('S'));
+    menu.mnuFileElem.add(menu.mnuFile, FileEntry::Print, "&Print (Preview) Report For Current Material...",
+                         ctrl('P'));
     addSeparator(menu.mnuFileElem, menu.mnuFile, 4);
-    menu.mnuFileElem.add(menu.mnuFile, 5, "&Generial Information",
+    menu.mnuFileElem.add(menu.mnuFile, FileEntry::GeneralInformation, "&Generial Information",
                          ctrl('G')); // so spelt since its first release
     addSeparator(menu.mnuFileElem, menu.mnuFile, 6);
-    menu.mnuFileElem.add(menu.mnuFile, 7, "E&xit", ctrl('Q'));
-    menu.mnuFileElem(2).setEnabled(false);
-    menu.mnuFileElem(3).setEnabled(false);
+    menu.mnuFileElem.add(menu.mnuFile, FileEntry::Exit, "E&xit", ctrl('Q'));
+    menu.mnuFileElem(FileEntry::Save).setEnabled(false);
+    menu.mnuFileElem(FileEntry::Print).setEnabled(false);
 }
 
 void buildView(MainMenu &menu) {
@@ -58,26 +60,26 @@ void buildView(MainMenu &menu) {
 }
 
 void buildSettings(MainMenu &menu) {
-    MenuEntry &toolbar = menu.mnuSettingsElem.add(menu.mnuSettings, 0, "&Toolbar");
+    MenuEntry &toolbar = menu.mnuSettingsElem.add(menu.mnuSettings, SettingsEntry::Toolbar, "&Toolbar");
     toolbar.setEnabled(false);
-    menu.mnuSettingsToolElem.add(&toolbar, 0, "&Show").setEnabled(false);
-    menu.mnuSettingsToolElem.add(&toolbar, 1, "&Hide");
-    menu.mnuSettingsToolElem.add(&toolbar, 2, "Align &Top").setEnabled(false);
-    menu.mnuSettingsToolElem.add(&toolbar, 3, "Align &Bottom");
-    menu.mnuSettingsElem.add(menu.mnuSettings, 1, "Status &Bar").setChecked(true);
-    menu.mnuSettingsElem.add(menu.mnuSettings, 2, "&Colour").setChecked(true);
-    menu.mnuSettingsElem.add(menu.mnuSettings, 3, "ToolTi&ps").setChecked(true);
-    menu.mnuSettingsElem.add(menu.mnuSettings, 4, "C&hange Back Colour");
+    menu.mnuSettingsToolElem.add(&toolbar, ToolbarEntry::Show, "&Show").setEnabled(false);
+    menu.mnuSettingsToolElem.add(&toolbar, ToolbarEntry::Hide, "&Hide");
+    menu.mnuSettingsToolElem.add(&toolbar, ToolbarEntry::AlignTop, "Align &Top").setEnabled(false);
+    menu.mnuSettingsToolElem.add(&toolbar, ToolbarEntry::AlignBottom, "Align &Bottom");
+    menu.mnuSettingsElem.add(menu.mnuSettings, SettingsEntry::StatusBar, "Status &Bar").setChecked(true);
+    menu.mnuSettingsElem.add(menu.mnuSettings, SettingsEntry::Colour, "&Colour").setChecked(true);
+    menu.mnuSettingsElem.add(menu.mnuSettings, SettingsEntry::ToolTips, "ToolTi&ps").setChecked(true);
+    menu.mnuSettingsElem.add(menu.mnuSettings, SettingsEntry::BackColour, "C&hange Back Colour");
 }
 
 void buildWindowAndHelp(MainMenu &menu) {
-    menu.mnuWindowElem.add(menu.mnuWindow, 0, "&Cascade").setChecked(true);
-    menu.mnuWindowElem.add(menu.mnuWindow, 1, "Tile &Horizontal");
-    menu.mnuHelpElem.add(menu.mnuHelp, 0, "&Contents", QKeySequence(Qt::Key_F1));
-    menu.mnuHelpElem.add(menu.mnuHelp, 1, "&Index");
-    menu.mnuHelpElem.add(menu.mnuHelp, 2, "&Search");
+    menu.mnuWindowElem.add(menu.mnuWindow, WindowEntry::Cascade, "&Cascade").setChecked(true);
+    menu.mnuWindowElem.add(menu.mnuWindow, WindowEntry::TileHorizontal, "Tile &Horizontal");
+    menu.mnuHelpElem.add(menu.mnuHelp, HelpEntry::Contents, "&Contents", QKeySequence(Qt::Key_F1));
+    menu.mnuHelpElem.add(menu.mnuHelp, HelpEntry::Index, "&Index");
+    menu.mnuHelpElem.add(menu.mnuHelp, HelpEntry::Search, "&Search");
     addSeparator(menu.mnuHelpElem, menu.mnuHelp, 3);
-    menu.mnuHelpElem.add(menu.mnuHelp, 4, "&About VELMAR-PED");
+    menu.mnuHelpElem.add(menu.mnuHelp, HelpEntry::About, "&About VELMAR-PED");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "data/modFileHandler.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
+#include "shell/main_state.h"
 #include "shell/mdiVelmar.h"
 #include "shell/settings_file.h"
 
@@ -17,34 +18,32 @@ void applyToolbar(mdiVelmar &window, const Settings &settings) {
     MenuArray &entries = window.menu.mnuSettingsToolElem;
     if (!settings.toolbarShown) {
         window.Toolbar1->setVisible(false);
-        entries(0).setEnabled(true);
-        entries(1).setEnabled(false);
+        entries(ToolbarEntry::Show).setEnabled(true);
+        entries(ToolbarEntry::Hide).setEnabled(false);
     }
     if (settings.toolbarAtBottom) {
         window.Toolbar1->setAlign(vbAlignBottom);
-        entries(2).setEnabled(true);
-        entries(3).setEnabled(false);
+        entries(ToolbarEntry::AlignTop).setEnabled(true);
+        entries(ToolbarEntry::AlignBottom).setEnabled(false);
     }
 }
 
 void applyMenus(mdiVelmar &window, const Settings &settings) {
     MainMenu &menu = window.menu;
     if (settings.tileHorizontal) {
-        window.iArrangement = 1;
-        menu.mnuWindowElem(0).setChecked(false);
-        menu.mnuWindowElem(1).setChecked(true);
+        MainState::markArrangement(window, true);
     }
     applyToolbar(window, settings);
     if (!settings.statusShown) {
         window.stbStatus->setVisible(false);
-        menu.mnuSettingsElem(1).setChecked(false);
+        menu.mnuSettingsElem(SettingsEntry::StatusBar).setChecked(false);
     }
     if (settings.coloursOff) {
         window.bColoursOff = true;
-        menu.mnuSettingsElem(2).setChecked(false);
+        menu.mnuSettingsElem(SettingsEntry::Colour).setChecked(false);
     }
     window.bToolTips = settings.toolTips;
-    if (!settings.toolTips) menu.mnuSettingsElem(3).setChecked(false);
+    if (!settings.toolTips) menu.mnuSettingsElem(SettingsEntry::ToolTips).setChecked(false);
 }
 
 } // namespace
@@ -66,8 +65,8 @@ void read(mdiVelmar &window) {
 void write(const mdiVelmar &window) {
     const MainMenu &menu = window.menu;
     Settings settings;
-    settings.tileHorizontal = !menu.mnuWindowElem(0).Checked();
-    settings.toolbarShown = !menu.mnuSettingsToolElem(0).Enabled();
+    settings.tileHorizontal = !menu.mnuWindowElem(WindowEntry::Cascade).Checked();
+    settings.toolbarShown = !menu.mnuSettingsToolElem(ToolbarEntry::Show).Enabled();
     settings.toolbarAtBottom = window.Toolbar1->Align() != vbAlignTop;
     settings.statusShown = window.stbStatus->Visible();
     settings.setBackColor(window.BackColor());

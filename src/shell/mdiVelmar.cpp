@@ -3,6 +3,7 @@
 #include "data/database_names.h"
 #include "data/Material.h"
 #include "data/modDBase.h"
+#include "data/status_numbers.h"
 #include "data/table_vocabulary.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/default_instance.h"
@@ -21,6 +22,7 @@
 #include "shell/grid_colours.h"
 #include "shell/HTMLHelp.h"
 #include "shell/main_settings.h"
+#include "shell/main_state.h"
 #include "shell/main_toolbar.h"
 #include "shell/MainActions.h"
 #include "shell/modToolTips.h"
@@ -130,7 +132,7 @@ void mdiVelmar::Form_Load() {
     // the icon is the first letter of the product's name, which the caption therefore lacks
     setCaption("elmar-PED - ");
     SetStatus();
-    ShowStatus(0);
+    ShowStatus(StatusNumber::Search);
     setCaption("elmar-PED   ");
     Toolbar1->setImageList(&ImageList1);
     MainToolbar::numberImages(*Toolbar1);
@@ -229,7 +231,7 @@ void mdiVelmar::SetRowColors(TDBGrid &grid, bool swapped) {
 }
 
 void mdiVelmar::Do_Undo_Colour_All() {
-    const bool coloursOn = menu.mnuSettingsElem(2).Checked();
+    const bool coloursOn = menu.mnuSettingsElem(SettingsEntry::Colour).Checked();
     bColoursOff = !coloursOn;
     setBackColor(coloursOn ? cBlue : vbWhite);
     const int colour = coloursOn ? cInfoBack : vbWhite;
@@ -241,7 +243,7 @@ void mdiVelmar::Do_Undo_Colour_All() {
 }
 
 void mdiVelmar::Do_Undo_Colour(Form &frm) {
-    const bool coloursOn = menu.mnuSettingsElem(2).Checked();
+    const bool coloursOn = menu.mnuSettingsElem(SettingsEntry::Colour).Checked();
     GridColours::applyToMaterial(frm, coloursOn, coloursOn ? cInfoBack : vbWhite);
 }
 
@@ -264,9 +266,9 @@ void mdiVelmar::SetStatus() {
 }
 
 void mdiVelmar::ShowStatus(int code) {
-    const bool onlyShown = code > 100;
-    if (code == 100) code = iLastStatus;
-    if (onlyShown) code -= 100;
+    const bool onlyShown = code > StatusNumber::Restore;
+    if (code == StatusNumber::Restore) code = iLastStatus;
+    if (onlyShown) code -= StatusNumber::onlyShown(0);
     stbStatus->setPanelText(1, element(strStatusText, code));
     if (!onlyShown) iLastStatus = code;
 }
@@ -276,11 +278,11 @@ void mdiVelmar::UpdateMenusAndButtons(const QString &group, int index) {
 }
 
 void mdiVelmar::ShowAbout() {
-    m_actions->help(4);
+    m_actions->help(HelpEntry::About);
 }
 
 void mdiVelmar::SelectMaterials() {
-    m_actions->file(0);
+    m_actions->file(FileEntry::ShowOrSelect);
 }
 
 void mdiVelmar::DoBatchPrint() {
@@ -297,12 +299,7 @@ void mdiVelmar::SetCurrentMaterial(const std::shared_ptr<Material> &mat) {
 
 /// In spite of its name it counts nothing: it follows the count that the windows keep.
 void mdiVelmar::CountMaterialsOpen() {
-    if (iMaterialsOpen >= 1) return;
-    MainToolbar::showMaterialButtons(*Toolbar1, false);
-    menu.mnuFileElem(2).setEnabled(false);
-    menu.mnuFileElem(3).setEnabled(false);
-    menu.mnuView->setVisible(false);
-    menu.mnuSettingsElem(0).setEnabled(false);
+    if (iMaterialsOpen < 1) MainState::showMaterialsOpen(*this, false);
 }
 
 void mdiVelmar::CloseMaterial() {

@@ -88,7 +88,8 @@ public:
 
     // Status line and commands.
     void SetStatus();
-    /// 0 to 20 show and remember, 100 restores, 101 to 120 show without remembering; any other code raises 9.
+    /// A StatusNumber: 0 to 20 show and remember, 100 restores, 101 to 120 show without remembering; any
+    /// other code raises 9.
     void ShowStatus(int code);
     /// `group` is "View", "Mech" or "Phys".
     void UpdateMenusAndButtons(const QString &group, int index);

@@ -7,5 +7,5 @@
 
 using StatusMessages = std::array<QString, 21>;
 
-/// Index is the message's number; the empty ones are kept for numbers that nobody shows.
+/// Index is a StatusNumber; the empty ones are kept for numbers that nobody shows.
 StatusMessages statusMessages(const QString &programTitle);

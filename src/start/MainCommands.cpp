@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "data/Material.h"
+#include "data/status_numbers.h"
 #include "data/table_vocabulary.h"
 #include "platform/forms/call_by_name.h"
 #include "platform/forms/colours.h"
@@ -21,7 +22,7 @@
 #include "reports/ReportSource.h"
 #include "search/frmSearch.h"
 #include "shell/HTMLHelp.h"
-#include "shell/main_toolbar.h"
+#include "shell/main_state.h"
 #include "shell/mdiVelmar.h"
 #include "shell/modToolTips.h"
 #include "start/frmAbout.h"
@@ -36,8 +37,7 @@ struct TableCommand {
 
 /// No key for an entry that shows nothing itself.
 TableCommand commandAt(const QString &group, int index) {
-    constexpr int StatusOfDesignValues = 6;
-    if (group == QLatin1String("View") && index == 6) return {"Design", StatusOfDesignValues};
+    if (group == QLatin1String("View") && index == 6) return {"Design", StatusNumber::DesignValues};
     for (int i = 0; i < TableVocabulary::TableCount; ++i) {
         const TableVocabulary::Table &table = TableVocabulary::tableAt(i);
         if (group != QStringView(table.menuGroup) || index != table.menuIndex) continue;
@@ -72,19 +72,19 @@ void MainCommands::showSearch() {
 
 void MainCommands::file(int index) {
     switch (index) {
-    case 0:
+    case FileEntry::ShowOrSelect:
         showSelectedOrSearch();
         break;
-    case 2:
+    case FileEntry::Save:
         selectData(true);
         break;
-    case 3:
+    case FileEntry::Print:
         selectData(false);
         break;
-    case 5:
+    case FileEntry::GeneralInformation:
         HTMLHelp::ShowHelpTopic(1, "General_Information.htm");
         break;
-    case 7:
+    case FileEntry::Exit:
         leaveProgram();
         break;
     default:
@@ -103,7 +103,8 @@ void MainCommands::selectData(bool save) {
     dialog.setCaption(save ? "Save " + current->Name() + " As Text File - " + dialog.Caption()
                            : "Print " + current->Name() + " - " + dialog.Caption());
     dialog.cmdSavePrint->setText(save ? "Save..." : "Print/Preview...");
-    m_window.ShowStatus(save ? 103 : 102);
+    m_window.ShowStatus(
+        StatusNumber::onlyShown(save ? StatusNumber::ChooseForSaving : StatusNumber::ChooseForPrinting));
     dialog.setIcon(m_window.ImageList1.ListImages(save ? 4 : 5));
     dialog.setTop(1500);
     dialog.framSave->setVisible(save);
@@ -131,7 +132,7 @@ void MainCommands::batchPrint() {
 }
 
 void MainCommands::showSelectedOrSearch() {
-    MenuEntry &entry = m_window.menu.mnuFileElem(0);
+    MenuEntry &entry = m_window.menu.mnuFileElem(FileEntry::ShowOrSelect);
     if (entry.Caption() == SelectCaption) {
         backToSearch();
     } else if (m_window.colMaterials.Count() > 0) {
@@ -142,7 +143,7 @@ void MainCommands::showSelectedOrSearch() {
 
 void MainCommands::backToSearch() {
     MainMenu &menu = m_window.menu;
-    menu.mnuFileElem(0).setCaption(ShowSelectedCaption);
+    menu.mnuFileElem(FileEntry::ShowOrSelect).setCaption(ShowSelectedCaption);
     for (FormBase &form : Forms())
         if (form.Name() == QLatin1String("frmMaterial2")) form.Unload();
 
@@ -153,13 +154,10 @@ void MainCommands::backToSearch() {
     search.RefreshSelected({});
 
     m_window.Toolbar1->setVisible(false);
-    menu.mnuView->setVisible(false);
-    menu.mnuSettingsElem(0).setEnabled(false);
+    MainState::showMaterialsOpen(m_window, false);
     for (int i : {1, 3, 4, 5})
         menu.mnuViewElem(i).setChecked(false);
-    menu.mnuFileElem(2).setEnabled(false);
-    menu.mnuFileElem(3).setEnabled(false);
-    m_window.ShowStatus(0);
+    m_window.ShowStatus(StatusNumber::Search);
 }
 
 void MainCommands::leaveProgram() {
@@ -236,20 +234,20 @@ void MainCommands::updateMenusAndButtons(const QString &group, int index) {
 void MainCommands::settings(int index) {
     MenuEntry &entry = m_window.menu.mnuSettingsElem(index);
     switch (index) {
-    case 1:
+    case SettingsEntry::StatusBar:
         m_window.stbStatus->setVisible(!m_window.stbStatus->Visible());
         entry.setChecked(!entry.Checked());
         break;
-    case 2:
+    case SettingsEntry::Colour:
         entry.setChecked(!entry.Checked());
         m_window.Do_Undo_Colour_All();
         break;
-    case 3:
+    case SettingsEntry::ToolTips:
         entry.setChecked(!entry.Checked());
         m_window.bToolTips = !m_window.bToolTips;
         modToolTips::SetToolTips(m_window.bToolTips);
         break;
-    case 4:
+    case SettingsEntry::BackColour:
         changeBackColour();
         break;
     default:
@@ -260,11 +258,11 @@ void MainCommands::settings(int index) {
 void MainCommands::toolbarSettings(int index) {
     MenuArray &entries = m_window.menu.mnuSettingsToolElem;
     Toolbar &toolbar = *m_window.Toolbar1;
-    if (index < 2)
+    if (index < ToolbarEntry::AlignTop)
         toolbar.setVisible(!toolbar.Visible());
     else
         toolbar.setAlign(toolbar.Align() == vbAlignTop ? vbAlignBottom : vbAlignTop);
-    const int first = index < 2 ? 0 : 2;
+    const int first = index < ToolbarEntry::AlignTop ? ToolbarEntry::Show : ToolbarEntry::AlignTop;
     for (int i : {first, first + 1})
         entries(i).setEnabled(!entries(i).Enabled());
 }
@@ -281,37 +279,25 @@ void MainCommands::changeBackColour() {
 }
 
 void MainCommands::window(int index) {
-    MenuArray &entries = m_window.menu.mnuWindowElem;
-    if (entries(index).Checked()) return;
-    const bool tile = index == 1;
-    if (tile)
-        m_window.DoTileHorizontal();
-    else
-        m_window.DoCascade();
-    entries(0).setChecked(!tile);
-    entries(1).setChecked(tile);
-    m_window.Toolbar1->Buttons("Cascade").setValue(tile ? tbrUnpressed : tbrPressed);
-    m_window.Toolbar1->Buttons("Horizontal").setValue(tile ? tbrPressed : tbrUnpressed);
-    m_window.Toolbar1->update();
-    m_window.strArrangement = tile ? "Horizontal" : "Cascade";
-    m_window.iArrangement = static_cast<qint16>(index);
+    if (m_window.menu.mnuWindowElem(index).Checked()) return;
+    MainState::arrange(m_window, index == WindowEntry::TileHorizontal);
 }
 
 void MainCommands::help(int index) {
     switch (index) {
-    case 0:
+    case HelpEntry::Contents:
         HTMLHelp::ShowHelpContents(1);
         break;
-    case 1:
+    case HelpEntry::Index:
         HTMLHelp::ShowHelpIndex(1);
         break;
-    case 2:
+    case HelpEntry::Search:
         HTMLHelp::ShowHelpSearch(1);
         break;
-    case 4:
-        m_window.ShowStatus(107);
+    case HelpEntry::About:
+        m_window.ShowStatus(StatusNumber::onlyShown(StatusNumber::About));
         DefaultInstance<frmAbout>().ShowModal(&m_window);
-        m_window.ShowStatus(100);
+        m_window.ShowStatus(StatusNumber::Restore);
         break;
     default:
         break;
@@ -329,23 +315,23 @@ void MainCommands::toolbarButton(ToolbarButton &button) {
 void MainCommands::runButton(ToolbarButton &button) {
     const QString key = button.Key();
     if (key == QLatin1String("Select")) {
-        file(0);
-        m_window.ShowStatus(0);
+        file(FileEntry::ShowOrSelect);
+        m_window.ShowStatus(StatusNumber::Search);
     } else if (key == QLatin1String("Next")) {
         SendKeys("^{TAB}");
     } else if (key == QLatin1String("Close")) {
         m_window.CloseMaterial();
     } else if (key == QLatin1String("Print")) {
-        file(3);
-        m_window.ShowStatus(100);
+        file(FileEntry::Print);
+        m_window.ShowStatus(StatusNumber::Restore);
     } else if (key == QLatin1String("Save")) {
-        file(2);
+        file(FileEntry::Save);
     } else if (key == QLatin1String("Exit")) {
-        file(7);
+        file(FileEntry::Exit);
     } else if (key == QLatin1String("GenInfo")) {
-        file(5);
+        file(FileEntry::GeneralInformation);
     } else if (key == QLatin1String("Cascade") || key == QLatin1String("Horizontal")) {
-        window(key == QLatin1String("Horizontal") ? 1 : 0);
+        window(key == QLatin1String("Horizontal") ? WindowEntry::TileHorizontal : WindowEntry::Cascade);
         pressAgain(m_window.strTableButton);
     } else {
         for (int i = 0; i < ViewEntries; ++i)

@@ -6,6 +6,7 @@
 #include "data/program_version.h"
 #include "platform/forms/application.h"
 #include "platform/forms/default_instance.h"
+#include "platform/forms/event_procedure.h"
 #include "platform/runtime/regional_settings.h"
 #include "search/frmSearch.h"
 #include "shell/mdiVelmar.h"
@@ -45,7 +46,7 @@ void prepare(Application &application, const QString &binaryFolder) {
 }
 
 void begin() {
-    Application::guarded([] { DefaultInstance<frmSplash>(); });
+    EventProcedure::run([] { DefaultInstance<frmSplash>(); });
 }
 
 } // namespace ProgramStart

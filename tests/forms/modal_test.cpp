@@ -17,6 +17,7 @@
 #include "platform/forms/application.h"
 #include "platform/forms/common_dialog.h"
 #include "platform/forms/default_instance.h"
+#include "platform/forms/event_procedure.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/help_context.h"
 #include "platform/forms/msg_box.h"
@@ -408,10 +409,10 @@ TEST(FaultsDeathTest, TheReportIsShownOnceThenTheHookRunsAndTheProcessEnds) {
         });
         modal().answerMsgBox([](const ModalSeam::Request &request) {
             std::fprintf(stderr, "%s;", qPrintable(QString(request.text).replace("\r\n", "/")));
-            Application::guarded([] { throw RuntimeError(11); });
+            EventProcedure::run([] { throw RuntimeError(11); });
             return vbOK;
         });
-        Application::guarded([] { throw RuntimeError(3075, "Syntax error"); });
+        EventProcedure::run([] { throw RuntimeError(3075, "Syntax error"); });
         std::fputs("went on", stderr);
     };
     EXPECT_EXIT(program(), ::testing::ExitedWithCode(1),

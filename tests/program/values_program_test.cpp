@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 
 #include "data/grades.h"
 #include "data/GradeTables.h"
@@ -128,6 +129,10 @@ TEST(ValuesProgram, AnswersInJson) {
 }
 
 TEST(ValuesProgram, TellsWhatIsNotThereAndWhatIsNotUnderstood) {
+    // where the environment names no UTF-8 the library has a word to say, too
+    const QByteArray before = qgetenv("LC_ALL");
+    const auto back = qScopeGuard([&] { before.isNull() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", before); });
+    qputenv("LC_ALL", "C");
     const struct {
         QStringList words;
         int status;

@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <new>
 #include <utility>
 
 #include <QDialog>
@@ -11,6 +10,7 @@
 #include <QKeyEvent>
 
 #include "platform/forms/end_signals.h"
+#include "platform/forms/event_procedure.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/help_context.h"
 #include "platform/forms/modality.h"
@@ -39,6 +39,10 @@ bool asksForHelp(QObject *receiver, QEvent *event) {
 Application::Application(int &argc, char **argv)
     : QApplication(argc, argv) {
     theApplication = this;
+    EventProcedure::setReport([this](const RuntimeError &error) { report(error); });
+    Forms::setWhenEmpty([this] {
+        if (m_running) exit(0);
+    });
     // Without a name the C library looks at the time zone's file anew for each date of local time.
     if (!qEnvironmentVariableIsSet("TZ")) qputenv("TZ", ":/etc/localtime");
     setStyle(new PlatformStyle);
@@ -50,6 +54,8 @@ Application::Application(int &argc, char **argv)
 }
 
 Application::~Application() {
+    EventProcedure::setReport({});
+    Forms::setWhenEmpty({});
     theApplication = nullptr;
 }
 
@@ -59,25 +65,11 @@ Application *Application::instance() {
 
 bool Application::notify(QObject *receiver, QEvent *event) {
     bool handled = true; // as an event is that an error has ended
-    guarded([&] {
+    EventProcedure::run([&] {
         narrowDialog(receiver, event);
         handled = asksForHelp(receiver, event) || QApplication::notify(receiver, event);
     });
     return handled;
-}
-
-void Application::guarded(const std::function<void()> &procedure) {
-    if (theApplication == nullptr) {
-        procedure();
-        return;
-    }
-    try {
-        procedure();
-    } catch (const RuntimeError &error) {
-        theApplication->report(error);
-    } catch (const std::bad_alloc &) {
-        theApplication->report(RuntimeError(7));
-    }
 }
 
 int Application::run() {
@@ -86,10 +78,6 @@ int Application::run() {
     const int status = exec();
     m_running = false;
     return status;
-}
-
-void Application::lastFormUnloaded() {
-    if (m_running) exit(0);
 }
 
 void Application::endOnRequest(std::function<void()> keepSettings) {

@@ -21,15 +21,10 @@ public:
     static Application *instance();
 
     bool notify(QObject *receiver, QEvent *event) override;
-    /// Runs what stands outside the event loop under the same rule. Without an application object it only
-    /// runs it.
-    static void guarded(const std::function<void()> &procedure);
 
     /// The event loop, until the last form is unloaded; at once where none is loaded. The status of the
     /// process.
     int run();
-    /// Called when the forms collection has become empty.
-    void lastFormUnloaded();
 
     /// Closes the database, keeps the settings. Its own errors are passed over.
     void setEndHook(std::function<void()> hook) { m_endHook = std::move(hook); }

@@ -1,6 +1,7 @@
 #include "platform/forms/form.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -9,7 +10,6 @@
 #include <QWindow>
 #include <QWindowStateChangeEvent>
 
-#include "platform/forms/application.h"
 #include "platform/forms/child_frame.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/mdi_form.h"

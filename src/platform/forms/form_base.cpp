@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 
-#include "platform/forms/application.h"
+#include "platform/forms/event_procedure.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/platform_style.h"
 #include "platform/forms/screen.h"
@@ -112,7 +112,7 @@ void FormBase::Load() {
     if (m_phase != Phase::New) return;
     m_phase = Phase::Loading;
     Forms::add(*this);
-    Application::guarded([this] { Form_Load(); });
+    EventProcedure::run([this] { Form_Load(); });
     if (m_phase == Phase::Loading) m_phase = Phase::Loaded;
 }
 
@@ -143,14 +143,14 @@ bool FormBase::Unload(UnloadMode mode) {
 
 bool FormBase::queryUnload(UnloadMode mode) {
     bool cancel = false;
-    Application::guarded([&] { Form_QueryUnload(cancel, mode); });
+    EventProcedure::run([&] { Form_QueryUnload(cancel, mode); });
     return !cancel;
 }
 
 bool FormBase::finishUnload() {
     m_phase = Phase::Unloading;
     bool cancel = false;
-    Application::guarded([&] { Form_Unload(cancel); });
+    EventProcedure::run([&] { Form_Unload(cancel); });
     if (cancel) {
         m_phase = Phase::Loaded;
         return false;
@@ -173,14 +173,14 @@ void FormBase::sizeChanged() {
         return;
     }
     m_resizePending = false;
-    Application::guarded([this] { Form_Resize(); });
+    EventProcedure::run([this] { Form_Resize(); });
 }
 
 void FormBase::shown() {
     if (!isLoaded() || (m_everShown && !m_resizePending)) return;
     m_everShown = true;
     m_resizePending = false;
-    Application::guarded([this] { Form_Resize(); });
+    EventProcedure::run([this] { Form_Resize(); });
 }
 
 void FormBase::activatedByDesktop() {
@@ -193,5 +193,5 @@ void FormBase::becomeActive() {
     if (!isLoaded() || activeForm == this || !frame()->isVisible()) return;
     activeForm = this;
     shown(); // the frame may be activated before the form inside it hears that it shows
-    Application::guarded([this] { Form_Activate(); });
+    EventProcedure::run([this] { Form_Activate(); });
 }

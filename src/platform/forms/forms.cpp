@@ -2,8 +2,13 @@
 
 #include <algorithm>
 
-#include "platform/forms/application.h"
 #include "platform/forms/form_base.h"
+
+namespace {
+
+std::function<void()> theEnd;
+
+} // namespace
 
 bool Forms::Entry::isThere() const {
     return widget && !form->isUnloaded();
@@ -39,14 +44,17 @@ FormBase *Forms::byName(const QString &name) {
     return nullptr;
 }
 
+void Forms::setWhenEmpty(std::function<void()> procedure) {
+    theEnd = std::move(procedure);
+}
+
 void Forms::add(FormBase &form) {
     loaded().push_back({form.asWidget(), &form});
 }
 
 void Forms::remove(FormBase &form) {
     const auto removed = std::erase_if(loaded(), [&](const Entry &entry) { return entry.form == &form; });
-    if (removed > 0 && loaded().empty() && Application::instance() != nullptr)
-        Application::instance()->lastFormUnloaded();
+    if (removed > 0 && loaded().empty() && theEnd) theEnd();
 }
 
 std::vector<Forms::Entry> &Forms::loaded() {

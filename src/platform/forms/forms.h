@@ -1,6 +1,7 @@
 // The collection of loaded forms.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QPointer>
@@ -41,6 +42,8 @@ public:
     static FormBase *byName(const QString &name);
     /// The form activated last, or null.
     static FormBase *active();
+    /// Called when the last form has been unloaded.
+    static void setWhenEmpty(std::function<void()> procedure);
 
 private:
     friend class FormBase;
