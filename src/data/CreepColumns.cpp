@@ -4,13 +4,9 @@
 
 #include "data/cell_values.h"
 
-namespace {
-
 bool isEmptyCreepCell(const QString &text) {
     return isNoValue(text) || text == QLatin1String(" ");
 }
-
-} // namespace
 
 qint16 CreepColumns::maxDesignCols(qint16 before) const {
     if (aCreepWidths.isEmpty()) return 0;

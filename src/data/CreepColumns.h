@@ -45,6 +45,8 @@ struct CreepColumns {
 };
 
 /// A cell "", " " or "-" holds no value.
+bool isEmptyCreepCell(const QString &text);
+/// One flag a column.
 QVector<bool> emptyCreepColumns(const XArrayDB &cells);
 
 CreepColumns BuildCreepColumns(const CreepTable &table);

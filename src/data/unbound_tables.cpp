@@ -1,9 +1,9 @@
 #include "data/unbound_tables.h"
 
 #include "data/cell_values.h"
+#include "data/column_names.h"
 #include "data/loaded_table.h"
 #include "data/Material.h"
-#include "data/modDBase.h"
 #include "data/modVelmar.h"
 #include "data/queries.h"
 #include "data/table_notes.h"
@@ -23,22 +23,6 @@ constexpr float DefaultWidth = 780;
 QString definitionsOf(const QString &key, const Material &material) {
     return key == CreepKey ? Queries::sqlColumnDefinitions("CreepPropTable", "stID", material.StandardID())
                            : Queries::sqlColumnDefinitions("MechMatTable", "matID", material.ID());
-}
-
-QString GetColumnText(Database &database, int colID) {
-    const auto dtaColumns = database.OpenRecordset(QStringLiteral("Columns"));
-    return modDBase::GetText(*dtaColumns, colID, "colID", "colTxt");
-}
-
-/// The text finds the unit, and of two columns of the same text the first one's unit serves both: databases
-/// were made with that in mind, and by the number the second would show a unit that was never looked at.
-int GetUnitID(Database &database, const QString &colTxt) {
-    const auto dtaColumns = database.OpenRecordset(QStringLiteral("Columns"));
-    return modDBase::GetID(*dtaColumns, colTxt, "colTxt", "unitID");
-}
-
-QString GetUnitText(const Recordset &units, int unitID) {
-    return modDBase::GetText(units, unitID, "unitID", "unitTxt");
 }
 
 struct Reading {
@@ -67,9 +51,8 @@ struct Reading {
     void readDefinition(const Recordset &definition, int i) {
         const qint16 colID = CInt(definition.Fields("colID"));
         table.colIDs[i] = colID;
-        const QString text = GetColumnText(database, colID);
+        const auto [text, unit] = columnName(database, units, colID);
         const QString marker = table.hasNotes ? cellText(definition.Fields("note")) : QString();
-        const QString unit = shownUnit(GetUnitText(units, GetUnitID(database, text)));
         if (isCreep()) mColCaptions[i] = text + " " + unit;
         const QString limit = cellText(definition.Fields("minMax"));
         const float size = CSng(definition.Fields("colSize"));

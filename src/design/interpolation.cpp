@@ -36,14 +36,6 @@ Bracket bracketOf(const SourceArray &source, const Interpolation::Temperature &t
     return {upper - 1, upper, atLower, atUpper};
 }
 
-// Slope first, then the distance, then the sum: another order rounds otherwise.
-double onTheLine(double t, double t0, double t1, double y0, double y1) {
-    if (t1 == t0) throw RuntimeError(11);
-    const double y = y0 + (t - t0) * ((y1 - y0) / (t1 - t0));
-    if (!std::isfinite(y)) throw RuntimeError(6);
-    return y;
-}
-
 QString cellBetween(const SourceArray &source, const Bracket &rows, int column, float temperature,
                     bool bDecimalPoint) {
     const QString &lowerText = source.text(rows.lower, column);
@@ -57,8 +49,8 @@ QString cellBetween(const SourceArray &source, const Bracket &rows, int column, 
         number = high.number;
     } else if (!low.number.isEmpty() && !high.number.isEmpty()) {
         number = ValueText::designValueText(
-            onTheLine(static_cast<double>(temperature), CDbl(source.text(rows.lower, 0)),
-                      CDbl(source.text(rows.upper, 0)), CDbl(low.number), CDbl(high.number)));
+            Interpolation::onTheLine(static_cast<double>(temperature), CDbl(source.text(rows.lower, 0)),
+                                     CDbl(source.text(rows.upper, 0)), CDbl(low.number), CDbl(high.number)));
     }
     // The lower row's decoration, also around the upper row's own number: it looks as the values on the way
     // there.
@@ -72,6 +64,14 @@ Interpolation::Temperature Interpolation::typedTemperature(const QString &text, 
     // The box holds a comma, which such a system would read past.
     if (bCommaGroup) number.replace(QLatin1Char(','), QLatin1Char('.'));
     return {text, CSng(number)};
+}
+
+// Slope first, then the distance, then the sum: another order rounds otherwise.
+double Interpolation::onTheLine(double t, double t0, double t1, double y0, double y1) {
+    if (t1 == t0) throw RuntimeError(11);
+    const double y = y0 + (t - t0) * ((y1 - y0) / (t1 - t0));
+    if (!std::isfinite(y)) throw RuntimeError(6);
+    return y;
 }
 
 void Interpolation::designValues(const SourceArray &source, const Temperature &temperature,

@@ -20,6 +20,9 @@ struct Temperature {
 /// Raises 13 for a text that is no number, 6 beyond a single.
 Temperature typedTemperature(const QString &text, bool bCommaGroup);
 
+/// The value at `t` on the line through (t0, y0) and (t1, y1). Raises 11 where t0 is t1, 6 beyond a double.
+double onTheLine(double t, double t0, double t1, double y0, double y1);
+
 using SetCell = std::function<void(int column, const QString &cell)>;
 
 /// Gives `set` the cells of columns 1 to the table's last, one after the other: "-" below and "+" above the

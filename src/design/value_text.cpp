@@ -1,5 +1,7 @@
 #include "design/value_text.h"
 
+#include <QLocale>
+
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/regional_settings.h"
 
@@ -51,6 +53,14 @@ QString ValueText::GetNumberText(const QString &text, bool bDecimalPoint) {
         taken += bDecimalPoint && ch == QLatin1Char(',') ? QLatin1Char('.') : ch;
     }
     return taken;
+}
+
+std::optional<double> ValueText::numberIn(const QString &text) {
+    bool isNumber = false;
+    const QString number = GetNumberText(text, false).replace(QLatin1Char(','), QLatin1Char('.'));
+    const double value = QLocale::c().toDouble(number, &isNumber);
+    if (!isNumber) return std::nullopt;
+    return value;
 }
 
 QString ValueText::designValueText(double y) {

@@ -1,7 +1,6 @@
 #include "velmar_values/grade_tables_text.h"
 
 #include <QJsonArray>
-#include <QLocale>
 
 #include "data/table_vocabulary.h"
 #include "design/value_text.h"
@@ -12,15 +11,6 @@ namespace {
 
 QString oneLine(const QString &heading) {
     return heading.simplified();
-}
-
-/// The number in a cell; none for "-", "+", "x" and any text that has no number or more than one.
-std::optional<double> numberOf(const QString &text) {
-    bool isNumber = false;
-    const QString number = ValueText::GetNumberText(text, false).replace(QLatin1Char(','), QLatin1Char('.'));
-    const double value = QLocale::c().toDouble(number, &isNumber);
-    if (!isNumber) return std::nullopt;
-    return value;
 }
 
 QString dateText(const QDateTime &date) {
@@ -104,7 +94,7 @@ QJsonObject GradeTexts::json(const ValuedGrade &valued) {
     for (const DesignTable &table : valued.tables) {
         QJsonArray cells;
         for (const DesignCell &cell : table.cells) {
-            const std::optional<double> number = numberOf(cell.text);
+            const std::optional<double> number = ValueText::numberIn(cell.text);
             cells << QJsonObject{{"heading", cell.heading},
                                  {"unit", cell.unit},
                                  {"text", cell.text},
@@ -113,7 +103,7 @@ QJsonObject GradeTexts::json(const ValuedGrade &valued) {
         tables << QJsonObject{{"key", table.key}, {"cells", cells}};
     }
     QJsonObject object = json(valued.grade);
-    object.insert("at", *numberOf(valued.at));
+    object.insert("at", *ValueText::numberIn(valued.at));
     object.insert("tables", tables);
     return object;
 }
@@ -147,7 +137,7 @@ Records::Sheet GradeTexts::sheet(const QVector<ValuedGrade> &values) {
     for (const ValuedGrade &valued : values)
         for (const DesignTable &table : valued.tables)
             for (const DesignCell &cell : table.cells) {
-                const std::optional<double> number = numberOf(cell.text);
+                const std::optional<double> number = ValueText::numberIn(cell.text);
                 sheet.rows << identity(valued.grade) +
                                   QStringList{valued.at, table.key, oneLine(cell.heading),
                                               cell.unit, cell.text, number ? CStr(*number) : QString()};

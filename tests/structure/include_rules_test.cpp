@@ -10,10 +10,10 @@ namespace {
 
 const QString Sources = QStringLiteral(SOURCE_FOLDER "/src");
 /// From the ground up.
-const QStringList ProgramParts = {"data",     "design", "exchange", "shell", "reports",
-                                  "material", "pma",    "search",   "start"};
+const QStringList ProgramParts = {"data",    "design",   "values", "exchange", "shell",
+                                  "reports", "material", "pma",    "search",   "start"};
 /// How many of them know no window.
-constexpr int PartsWithoutWindows = 3;
+constexpr int PartsWithoutWindows = 4;
 
 struct Line {
     QString file;

@@ -10,8 +10,22 @@ Database::Database(QString name, std::shared_ptr<TableStore> store)
     , m_store(std::move(store)) {}
 
 std::shared_ptr<Recordset> Database::OpenRecordset(const QString &sql) {
+    return std::make_shared<Recordset>(openRows(*open(), sql));
+}
+
+void Database::ReadRows(const QString &table, const QStringList &columns, const RowSink &sink) {
+    // Held while it is read, whatever the sink does.
+    const std::shared_ptr<TableStore> store = open();
+    store->readRows(table, columns, sink);
+}
+
+qint64 Database::RowCount(const QString &table) {
+    return open()->rowCount(table);
+}
+
+std::shared_ptr<TableStore> Database::open() const {
     if (!m_store) throw RuntimeError(3420);
-    return std::make_shared<Recordset>(openRows(*m_store, sql));
+    return m_store;
 }
 
 void Database::Close() {

@@ -27,11 +27,17 @@ RuntimeError TableStore::unknownTable(const QString &name) const {
     return JetErrors::unknownTable(name, m_source->whatElse(name));
 }
 
-TableAccess TableStore::access(const JetSelect &select) {
-    const int index = m_indexOfName.value(select.table.toCaseFolded(), -1);
-    if (index < 0) throw unknownTable(select.table);
+TableStore::StoredTable &TableStore::find(const QString &table) {
+    const int index = m_indexOfName.value(table.toCaseFolded(), -1);
+    if (index < 0) throw unknownTable(table);
     StoredTable &stored = m_tables[static_cast<std::size_t>(index)];
     if (!stored.fields) stored.fields = m_source->fields(stored.name);
+    return stored;
+}
+
+TableAccess TableStore::access(const JetSelect &select) {
+    StoredTable &stored = find(select.table);
+    const int index = static_cast<int>(&stored - m_tables.data());
     const QString name = select.alias.isEmpty() ? stored.name : select.alias;
     const QByteArray number = QByteArray::number(index);
 
@@ -79,6 +85,36 @@ void TableStore::loadKey(StoredTable &stored, const KeyCondition &keys) {
             [&](const RowSink &sink) { m_source->readMatching(stored.name, conditions, sink); });
         keyed.keys.insert(mark);
     }
+}
+
+QVector<int> TableStore::places(StoredTable &stored, const QStringList &columns) const {
+    QVector<int> places;
+    for (const QString &column : columns) {
+        const int place = fieldIndex(*stored.fields, column);
+        if (place < 0) throw RuntimeError(3265);
+        const FieldDefinition &field = (*stored.fields)[place];
+        if (field.type == FieldType::Unsupported) throw JetErrors::unsupportedColumn(stored.name, field.name);
+        places << place;
+    }
+    return places;
+}
+
+void TableStore::readRows(const QString &table, const QStringList &columns, const RowSink &sink) {
+    StoredTable &stored = find(table);
+    const QVector<int> wanted = places(stored, columns);
+    QVector<QVariant> cells(wanted.size());
+    m_source->readAll(stored.name, [&](const QVector<QVariant> &row) {
+        for (qsizetype i = 0; i < wanted.size(); ++i) {
+            cells[i] = row[wanted[i]];
+            if (cells[i].typeId() == qMetaTypeId<UnreadableCell>())
+                throw RuntimeError(3343, cells[i].value<UnreadableCell>().description);
+        }
+        sink(cells);
+    });
+}
+
+qint64 TableStore::rowCount(const QString &table) {
+    return m_source->rowCount(find(table).name);
 }
 
 std::shared_ptr<MemoryTable> TableStore::newResult(const FieldDefinitions &fields) {

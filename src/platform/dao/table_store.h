@@ -46,6 +46,10 @@ public:
     TableAccess access(const JetSelect &select);
     void load(const TableAccess &access);
 
+    /// See Database::ReadRows.
+    void readRows(const QString &table, const QStringList &columns, const RowSink &sink);
+    qint64 rowCount(const QString &table);
+
     /// A table for the rows of a result.
     std::shared_ptr<MemoryTable> newResult(const FieldDefinitions &fields);
     const std::shared_ptr<MemoryDatabase> &database() const { return m_database; }
@@ -65,6 +69,8 @@ private:
         std::map<QVector<int>, KeyedTable> byKey;
     };
 
+    StoredTable &find(const QString &table);
+    QVector<int> places(StoredTable &stored, const QStringList &columns) const;
     void loadKey(StoredTable &stored, const KeyCondition &keys);
 
     std::unique_ptr<FileLock> m_lock;

@@ -1,0 +1,170 @@
+#include "values/value_search.h"
+
+#include <algorithm>
+
+#include "platform/runtime/conversions.h"
+#include "platform/runtime/runtime_error.h"
+
+namespace {
+
+ValueTable::Question questionOf(const ValueTable &table, const ValueCondition &condition) {
+    return table.question(condition.property.column, condition.temperature, condition.thickness,
+                          condition.limits);
+}
+
+/// "1 table ends below", "31 tables end below", and without the noun for all but the first.
+struct Part {
+    int count;
+    const char *one;
+    const char *many;
+};
+
+QString counted(const Absences &absences, const QString &thickness) {
+    const QString band = " no band of " + thickness + " mm";
+    const QByteArray hasNoBand = ("has" + band).toUtf8();
+    const QByteArray haveNoBand = ("have" + band).toUtf8();
+    const Part tables[] = {{absences.endBelow, "ends below", "end below"},
+                           {absences.beginAbove, "begins above", "begin above"},
+                           {absences.noValue, "has no value", "have no value"},
+                           {absences.noBand, hasNoBand.constData(), haveNoBand.constData()},
+                           {absences.faults, "cannot be computed", "cannot be computed"}};
+    QStringList parts;
+    for (const Part &part : tables) {
+        if (part.count == 0) continue;
+        const QString noun = !parts.isEmpty() ? "" : part.count == 1 ? " table" : " tables";
+        parts << TypedTexts::grouped(part.count) + noun + " " +
+                     QString::fromUtf8(part.count == 1 ? part.one : part.many);
+    }
+    if (absences.noTable > 0)
+        parts << TypedTexts::grouped(absences.noTable) +
+                     (absences.noTable == 1 ? " grade has no such table" : " grades have no such table");
+    return parts.join(QStringLiteral(", "));
+}
+
+QString thicknessText(const ValueCondition &condition) {
+    return condition.thickness ? CStr(*condition.thickness) : QString();
+}
+
+} // namespace
+
+void Absences::count(Absence absence) {
+    switch (absence) {
+    case Absence::None:
+        return;
+    case Absence::BeginsAbove:
+        ++beginAbove;
+        return;
+    case Absence::EndsBelow:
+        ++endBelow;
+        return;
+    case Absence::NoValue:
+        ++noValue;
+        return;
+    case Absence::NoTable:
+        ++noTable;
+        return;
+    case Absence::NoBand:
+        ++noBand;
+        return;
+    case Absence::Fault:
+        ++faults;
+    }
+}
+
+ValueSearch::ValueSearch(Database &database, const NumberFlags &flags)
+    : m_database(database)
+    , m_flags(flags)
+    , m_grades(database) {}
+
+bool ValueSearch::read(const QString &key, const Progress &progress) {
+    if (isRead(key)) return true;
+    auto table = ValueTables::read(m_database, m_grades, key, m_flags, progress);
+    if (!table) return false;
+    m_tables[key] = std::move(table);
+    return true;
+}
+
+const ValueTable &ValueSearch::table(const Property &property) const {
+    const auto found = m_tables.find(property.key);
+    if (found == m_tables.end()) throw RuntimeError(9);
+    return *found->second;
+}
+
+ValueResult ValueSearch::find(const ValueQuery &query) const {
+    const std::vector<bool> alike = m_grades.matching(query.texts);
+    const auto width = static_cast<std::size_t>(query.conditions.size());
+    std::vector<int> left;
+    for (int i = 0; i < m_grades.count(); ++i)
+        if (alike[static_cast<std::size_t>(i)]) left.push_back(i);
+    ValueResult result;
+    result.left << static_cast<int>(left.size());
+    std::vector<ValueResult::Hit> hits(static_cast<std::size_t>(m_grades.count()) * width);
+    for (std::size_t i = 0; i < width; ++i) {
+        const ValueCondition &condition = query.conditions[static_cast<qsizetype>(i)];
+        const ValueTable &values = table(condition.property);
+        const ValueTable::Question question = questionOf(values, condition);
+        Absences absences;
+        std::erase_if(left, [&](int grade) {
+            const ValueTable::Best best = values.best(grade, question);
+            absences.count(best.absence);
+            hits[static_cast<std::size_t>(grade) * width + i] = {best.column, best.number};
+            return best.column == 0;
+        });
+        result.absences << absences;
+        result.left << static_cast<int>(left.size());
+    }
+    if (width > 0)
+        std::stable_sort(left.begin(), left.end(), [&](int one, int other) {
+            return query.conditions.first().limits.isBetter(
+                hits[static_cast<std::size_t>(one) * width].number,
+                hits[static_cast<std::size_t>(other) * width].number);
+        });
+    for (const int grade : left)
+        for (std::size_t i = 0; i < width; ++i)
+            result.hits.push_back(hits[static_cast<std::size_t>(grade) * width + i]);
+    result.grades = std::move(left);
+    return result;
+}
+
+FoundValue ValueSearch::found(const ValueQuery &query, const ValueResult &result, int place,
+                              int condition) const {
+    const ValueCondition &asked = query.conditions[condition];
+    const ValueTable &values = table(asked.property);
+    const int grade = result.grades[static_cast<std::size_t>(place)];
+    const ValueResult::Hit &hit =
+        result.hits[static_cast<std::size_t>(place * query.conditions.size() + condition)];
+    return {values.band(grade, hit.column), values.text(grade, hit.column, questionOf(values, asked)),
+            hit.number};
+}
+
+QString ValueSearch::summary(const ValueQuery &query, const ValueResult &result) const {
+    QString text = TypedTexts::grouped(static_cast<qint64>(result.grades.size())) + " of " +
+                   TypedTexts::grouped(m_grades.count()) + (m_grades.count() == 1 ? " grade" : " grades");
+    for (qsizetype i = 0; i < query.conditions.size(); ++i) {
+        const ValueCondition &condition = query.conditions[i];
+        const Absences &absences = result.absences[i];
+        if (absences.total() == 0) continue;
+        text += "; no value" +
+                (query.conditions.size() > 1 ? " of " + condition.property.name() : QString()) + " at " +
+                condition.temperature + " °C in " + TypedTexts::grouped(absences.total()) + ": " +
+                counted(absences, thicknessText(condition));
+    }
+    return text;
+}
+
+std::vector<ValueSearch::Point> ValueSearch::points(const ValueCondition &x, const ValueCondition &y) const {
+    const ValueTable &xTable = table(x.property);
+    const ValueTable &yTable = table(y.property);
+    ValueCondition xAny = x;
+    ValueCondition yAny = y;
+    xAny.limits = yAny.limits = {};
+    const ValueTable::Question xQuestion = questionOf(xTable, xAny);
+    const ValueTable::Question yQuestion = questionOf(yTable, yAny);
+    std::vector<Point> points;
+    for (int grade = 0; grade < m_grades.count(); ++grade) {
+        const ValueTable::Best xBest = xTable.best(grade, xQuestion);
+        const ValueTable::Best yBest = yTable.best(grade, yQuestion);
+        if (xBest.column != 0 && yBest.column != 0) points.push_back({xBest.number, yBest.number, grade});
+    }
+    return points;
+}
