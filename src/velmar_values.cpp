@@ -1,4 +1,5 @@
 // The program without windows: finds grades and writes their tables and design values to the standard output.
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -51,7 +52,9 @@ int run(const CommandLine &line) {
                        .toUtf8());
     try {
         const auto database = DBEngine::instance().OpenBeside(databasePath(line), ";Pwd=" + DatabasePassword);
-        return put(Commands::run(*database, line));
+        const Answer answer = Commands::run(*database, line);
+        const int status = put(answer.output);
+        return answer.note.isEmpty() ? status : std::max(status, tell(Done, answer.note));
     } catch (const NotFound &missing) {
         return tell(Failed, QString::fromStdString(missing.what()));
     } catch (const RuntimeError &error) {

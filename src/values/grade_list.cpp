@@ -1,7 +1,8 @@
 #include "values/grade_list.h"
 
 #include <algorithm>
-#include <numeric>
+
+#include <QSet>
 
 #include "data/cell_values.h"
 #include "data/queries.h"
@@ -14,76 +15,100 @@
 
 namespace {
 
-const QStringList Searched{"standard", "name", "numbr", "groups", "asmestandard", "asmegrade", "ss"};
+const QString Materials = QStringLiteral("materials");
 
-struct ReadGrade {
-    Grades::Grade grade;
-    /// A null array is Null; in the order of Searched.
-    QVector<QByteArray> texts;
+/// One text for all that are alike.
+class SharedTexts {
+public:
+    QString operator()(const QVariant &cell) {
+        const QString text = cellText(cell);
+        const auto known = m_texts.constFind(text);
+        return known != m_texts.constEnd() ? *known : *m_texts.insert(text);
+    }
+
+private:
+    QSet<QString> m_texts;
 };
 
-QByteArray searchedText(const QVariant &cell) {
-    if (IsNull(cell)) return {};
-    const QByteArray text = cellText(cell).toUtf8();
-    return text.isNull() ? QByteArray("") : text;
+int compared(const QByteArray &left, const QByteArray &right) {
+    return compareTexts(left.constData(), left.size(), right.constData(), right.size());
 }
 
-/// One text for all grades that have it.
-QString shared(QHash<QString, QString> &texts, const QVariant &cell) {
-    const QString text = cellText(cell);
-    return *texts.insert(text, texts.value(text, text));
+/// The places of the standards in their order; those that the engine takes for the same share one.
+QHash<QString, int> ranks(const QVector<Grades::Grade> &grades) {
+    QSet<QString> names;
+    for (const Grades::Grade &grade : grades)
+        names.insert(grade.standard);
+    std::vector<std::pair<QByteArray, QString>> sorted;
+    for (const QString &name : std::as_const(names))
+        sorted.emplace_back(name.toUtf8(), name);
+    std::sort(sorted.begin(), sorted.end(),
+              [](const auto &left, const auto &right) { return compared(left.first, right.first) < 0; });
+    QHash<QString, int> ranks;
+    int rank = 0;
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        if (i > 0 && compared(sorted[i - 1].first, sorted[i].first) != 0) ++rank;
+        ranks.insert(sorted[i].second, rank);
+    }
+    return ranks;
 }
 
-std::vector<ReadGrade> readGrades(Database &database) {
-    std::vector<ReadGrade> grades;
-    QHash<QString, QString> texts;
-    database.ReadRows("materials", QStringList{"matID", "description", "revision_date"} + Searched,
-                      [&](const QVector<QVariant> &row) {
-                          if (IsNull(row[0])) return;
-                          ReadGrade read;
-                          read.grade = {CInt(row[0]),          cellText(row[4]),      cellText(row[5]),
-                                        shared(texts, row[3]), shared(texts, row[1]), shared(texts, row[6]),
-                                        row[2].toDateTime()};
-                          for (qsizetype i = 3; i < row.size(); ++i)
-                              read.texts << searchedText(row[i]);
-                          grades.push_back(std::move(read));
-                      });
-    return grades;
-}
-
-/// By standard and name as the database engine compares them, and else in the order of the file.
-std::vector<std::size_t> ordered(const std::vector<ReadGrade> &grades) {
-    std::vector<std::size_t> order(grades.size());
-    std::iota(order.begin(), order.end(), 0);
-    const auto compared = [&](std::size_t left, std::size_t right, qsizetype column) {
-        const QByteArray &first = grades[left].texts[column];
-        const QByteArray &second = grades[right].texts[column];
-        // Null comes before any text.
-        if (first.isNull() || second.isNull()) return int(second.isNull()) - int(first.isNull());
-        if (first == second) return 0;
-        return compareTexts(first.constData(), first.size(), second.constData(), second.size());
+/// By standard and name as the database engine compares them, and else as they stand.
+QVector<Grades::Grade> ordered(const QVector<Grades::Grade> &grades) {
+    struct Key {
+        int standard;
+        QByteArray name;
+        qsizetype place;
     };
-    std::stable_sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
-        const int byStandard = compared(left, right, 0);
-        return byStandard != 0 ? byStandard < 0 : compared(left, right, 1) < 0;
+    const QHash<QString, int> standards = ranks(grades);
+    std::vector<Key> keys;
+    for (qsizetype i = 0; i < grades.size(); ++i)
+        keys.push_back({standards.value(grades[i].standard), grades[i].name.toUtf8(), i});
+    std::stable_sort(keys.begin(), keys.end(), [](const Key &left, const Key &right) {
+        return left.standard != right.standard ? left.standard < right.standard
+                                               : compared(left.name, right.name) < 0;
     });
-    return order;
+    QVector<Grades::Grade> sorted;
+    sorted.reserve(grades.size());
+    for (const Key &key : keys)
+        sorted << grades[key.place];
+    return sorted;
+}
+
+/// A null text is Null.
+void append(TextColumn &column, const QString &text) {
+    const QByteArray utf8 = text.toUtf8();
+    column.append(text.isNull() ? nullptr : utf8.constData(), utf8.size());
+}
+
+RowMarks marks(const TextColumn &texts, const QString &text, std::size_t rows) {
+    try {
+        return texts.matching(LikePattern('*' + text + '*'));
+    } catch (const RuntimeError &) {
+        return RowMarks(rows + 1, 0);
+    }
 }
 
 } // namespace
 
-GradeList::GradeList(Database &database) {
-    const std::vector<ReadGrade> grades = readGrades(database);
-    for (const std::size_t place : ordered(grades)) {
-        const ReadGrade &read = grades[place];
-        if (!m_indexes.contains(read.grade.id)) m_indexes.insert(read.grade.id, count());
-        m_grades << read.grade;
-        for (qsizetype i = 0; i < Searched.size(); ++i) {
-            const QByteArray &text = read.texts[i];
-            m_texts[Searched[i]].append(text.isNull() ? nullptr : text.constData(), text.size());
-        }
-    }
+GradeList::GradeList(Database &database)
+    : m_database(database) {
+    readGrades(database);
     readStandards(database);
+}
+
+void GradeList::readGrades(Database &database) {
+    SharedTexts shared;
+    database.ReadRows(
+        Materials, {"matID", "name", "numbr", "standard", "description", "groups", "revision_date"},
+        [&](const QVector<QVariant> &row) {
+            if (IsNull(row[0])) return;
+            m_grades << Grades::Grade{CInt(row[0]),   cellText(row[1]), cellText(row[2]),   shared(row[3]),
+                                      shared(row[4]), shared(row[5]),   row[6].toDateTime()};
+        });
+    m_grades = ordered(m_grades);
+    for (int i = 0; i < count(); ++i)
+        if (!m_indexes.contains(m_grades[i].id)) m_indexes.insert(m_grades[i].id, i);
 }
 
 void GradeList::readStandards(Database &database) {
@@ -94,9 +119,8 @@ void GradeList::readStandards(Database &database) {
     }
     const auto forms = database.OpenRecordset(QStringLiteral("StandardProdForm"));
     for (; !forms->Eof(); forms->MoveNext()) {
-        const QByteArray form = searchedText(forms->Fields("productForm"));
         m_formStandards << cellText(forms->Fields("standard")).toCaseFolded();
-        m_forms.append(form.isNull() ? nullptr : form.constData(), form.size());
+        append(m_forms, cellText(forms->Fields("productForm")));
     }
 }
 
@@ -107,34 +131,55 @@ int GradeList::standardID(int index) const {
 std::vector<bool> GradeList::matching(const Grades::Criteria &criteria) const {
     SearchStatements::SearchFields fields = SearchStatements::initialFields();
     SearchStatements::applyStandardKind(fields, criteria.system);
-    const std::pair<QString, QString> texts[] = {{fields[0].field, criteria.standard},
+    const std::pair<QString, QString> asked[] = {{fields[0].field, criteria.standard},
                                                  {fields[1].field, criteria.name},
                                                  {fields[2].field, criteria.number},
                                                  {fields[4].field, criteria.group}};
-    std::vector<bool> matching(m_grades.size(), true);
-    for (const auto &[column, text] : texts) {
+    const auto size = static_cast<std::size_t>(count());
+    std::vector<bool> matching(size, true);
+    for (const auto &[field, text] : asked) {
         if (text.isEmpty()) continue;
-        const RowMarks alike = marks(column, text);
-        for (std::size_t i = 0; i < matching.size(); ++i)
+        const RowMarks alike = marks(texts(field), text, size);
+        for (std::size_t i = 0; i < size; ++i)
             matching[i] = matching[i] && alike[i + 1];
     }
     if (criteria.productForm.isEmpty()) return matching;
-    const RowMarks forms = marks({}, criteria.productForm);
+    const RowMarks forms =
+        marks(m_forms, criteria.productForm, static_cast<std::size_t>(m_formStandards.size()));
     QSet<QString> standards;
     for (qsizetype i = 0; i < m_formStandards.size(); ++i)
         if (forms[static_cast<std::size_t>(i) + 1]) standards.insert(m_formStandards[i]);
-    for (std::size_t i = 0; i < matching.size(); ++i)
-        matching[i] =
-            matching[i] && standards.contains(m_grades[static_cast<qsizetype>(i)].standard.toCaseFolded());
+    // The names of standards are few: each is looked up once.
+    QHash<QString, bool> known;
+    for (std::size_t i = 0; i < size; ++i) {
+        if (!matching[i]) continue;
+        const QString &standard = m_grades[static_cast<qsizetype>(i)].standard;
+        auto has = known.constFind(standard);
+        if (has == known.constEnd())
+            has = known.insert(standard, standards.contains(standard.toCaseFolded()));
+        matching[i] = *has;
+    }
     return matching;
 }
 
-/// Of the product forms for an empty column.
-RowMarks GradeList::marks(const QString &column, const QString &text) const {
-    const TextColumn &texts = column.isEmpty() ? m_forms : *m_texts.constFind(column);
-    try {
-        return texts.matching(LikePattern('*' + text + '*'));
-    } catch (const RuntimeError &) {
-        return RowMarks(m_grades.size() + m_formStandards.size() + 1, 0);
+const TextColumn &GradeList::texts(const QString &field) const {
+    if (const auto known = m_texts.constFind(field); known != m_texts.constEnd()) return *known;
+    static const QHash<QString, QString Grades::Grade::*> kept{{"standard", &Grades::Grade::standard},
+                                                               {"name", &Grades::Grade::name},
+                                                               {"numbr", &Grades::Grade::number},
+                                                               {"groups", &Grades::Grade::group}};
+    QStringList texts(m_grades.size());
+    if (kept.contains(field)) {
+        for (int i = 0; i < count(); ++i)
+            texts[i] = m_grades[i].*kept.value(field);
+    } else {
+        m_database.ReadRows(Materials, {"matID", field}, [&](const QVector<QVariant> &row) {
+            if (const int place = IsNull(row[0]) ? -1 : indexOf(CLng(row[0])); place >= 0)
+                texts[place] = cellText(row[1]);
+        });
     }
+    TextColumn column;
+    for (const QString &text : std::as_const(texts))
+        append(column, text);
+    return *m_texts.insert(field, column);
 }

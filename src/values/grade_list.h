@@ -10,7 +10,7 @@ class Database;
 
 class GradeList {
 public:
-    /// In the order of Grades::find. Raises what the database raises.
+    /// In the order of Grades::find. `database` outlives the object. Raises what the database raises.
     explicit GradeList(Database &database);
 
     int count() const { return static_cast<int>(m_grades.size()); }
@@ -22,19 +22,22 @@ public:
     int standardID(int index) const;
 
     /// The grades that Grades::find would find, a mark each. A bracket that is still open finds nothing.
+    /// The first criterion of a standards system other than EN reads its texts from the database.
     std::vector<bool> matching(const Grades::Criteria &criteria) const;
 
 private:
+    void readGrades(Database &database);
     void readStandards(Database &database);
-    RowMarks marks(const QString &column, const QString &text) const;
+    const TextColumn &texts(const QString &field) const;
 
+    Database &m_database;
     QVector<Grades::Grade> m_grades;
     QHash<int, int> m_indexes;
-    /// Those that a criterion may ask for, by their names, in the order of the grades.
-    QHash<QString, TextColumn> m_texts;
     /// The key is the standard's folded name.
     QHash<QString, int> m_standardIDs;
-    /// Of standards, by their folded names, and product forms: a row each.
-    QStringList m_formStandards;
+    /// Product forms, and a row each the folded name of the standard that has it.
     TextColumn m_forms;
+    QStringList m_formStandards;
+    /// Fields that a criterion has asked for, in the order of the grades.
+    mutable QHash<QString, TextColumn> m_texts;
 };

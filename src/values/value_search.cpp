@@ -90,39 +90,50 @@ const ValueTable &ValueSearch::table(const Property &property) const {
     return *found->second;
 }
 
+std::shared_ptr<const ValueSearch::Answer> ValueSearch::answer(const ValueCondition &condition) const {
+    for (const auto &[asked, answer] : std::as_const(m_answers))
+        if (asked == condition) return answer;
+    const ValueTable &values = table(condition.property);
+    const ValueTable::Question question = questionOf(values, condition);
+    auto answer = std::make_shared<Answer>();
+    answer->reserve(static_cast<std::size_t>(m_grades.count()));
+    for (int grade = 0; grade < m_grades.count(); ++grade)
+        answer->push_back(values.best(grade, question));
+    if (m_answers.size() > MostConditions) m_answers.removeFirst();
+    m_answers << std::pair(condition, answer);
+    return answer;
+}
+
 ValueResult ValueSearch::find(const ValueQuery &query) const {
     const std::vector<bool> alike = m_grades.matching(query.texts);
-    const auto width = static_cast<std::size_t>(query.conditions.size());
-    std::vector<int> left;
+    ValueResult result;
+    std::vector<int> &left = result.grades;
     for (int i = 0; i < m_grades.count(); ++i)
         if (alike[static_cast<std::size_t>(i)]) left.push_back(i);
-    ValueResult result;
     result.left << static_cast<int>(left.size());
-    std::vector<ValueResult::Hit> hits(static_cast<std::size_t>(m_grades.count()) * width);
-    for (std::size_t i = 0; i < width; ++i) {
-        const ValueCondition &condition = query.conditions[static_cast<qsizetype>(i)];
-        const ValueTable &values = table(condition.property);
-        const ValueTable::Question question = questionOf(values, condition);
+    std::vector<std::shared_ptr<const Answer>> answers;
+    const auto best = [&answers](std::size_t condition, int grade) -> const ValueTable::Best & {
+        return (*answers[condition])[static_cast<std::size_t>(grade)];
+    };
+    for (const ValueCondition &condition : query.conditions) {
+        const std::size_t last = answers.size();
+        answers.push_back(answer(condition));
         Absences absences;
         std::erase_if(left, [&](int grade) {
-            const ValueTable::Best best = values.best(grade, question);
-            absences.count(best.absence);
-            hits[static_cast<std::size_t>(grade) * width + i] = {best.column, best.number};
-            return best.column == 0;
+            absences.count(best(last, grade).absence);
+            return best(last, grade).column == 0;
         });
         result.absences << absences;
         result.left << static_cast<int>(left.size());
     }
-    if (width > 0)
-        std::stable_sort(left.begin(), left.end(), [&](int one, int other) {
-            return query.conditions.first().limits.isBetter(
-                hits[static_cast<std::size_t>(one) * width].number,
-                hits[static_cast<std::size_t>(other) * width].number);
-        });
+    if (answers.empty()) return result;
+    const ValueLimits &limits = query.conditions.first().limits;
+    std::stable_sort(left.begin(), left.end(), [&](int one, int other) {
+        return limits.isBetter(best(0, one).number, best(0, other).number);
+    });
     for (const int grade : left)
-        for (std::size_t i = 0; i < width; ++i)
-            result.hits.push_back(hits[static_cast<std::size_t>(grade) * width + i]);
-    result.grades = std::move(left);
+        for (std::size_t i = 0; i < answers.size(); ++i)
+            result.hits.push_back(best(i, grade));
     return result;
 }
 
@@ -131,7 +142,7 @@ FoundValue ValueSearch::found(const ValueQuery &query, const ValueResult &result
     const ValueCondition &asked = query.conditions[condition];
     const ValueTable &values = table(asked.property);
     const int grade = result.grades[static_cast<std::size_t>(place)];
-    const ValueResult::Hit &hit =
+    const ValueTable::Best &hit =
         result.hits[static_cast<std::size_t>(place * query.conditions.size() + condition)];
     return {values.band(grade, hit.column), values.text(grade, hit.column, questionOf(values, asked)),
             hit.number};

@@ -14,6 +14,8 @@ struct ValueCondition {
     /// In mm; without one, of a table with bands the best band counts.
     std::optional<double> thickness;
     ValueLimits limits;
+
+    bool operator==(const ValueCondition &other) const = default;
 };
 
 struct ValueQuery {
@@ -46,15 +48,10 @@ struct FoundValue {
 /// The grades found, best first: by the first condition the greatest value, or where only a greatest one is
 /// given the smallest; alike ones, and all without a condition, in the order of the list.
 struct ValueResult {
-    struct Hit {
-        int column = 0;
-        double number = 0;
-    };
-
     /// Their places in the list of grades.
     std::vector<int> grades;
     /// For each grade one a condition.
-    std::vector<Hit> hits;
+    std::vector<ValueTable::Best> hits;
     /// How many grades the texts leave, and then each further condition.
     QVector<int> left;
     /// One a condition, of the grades that were left before it.
@@ -97,10 +94,15 @@ public:
     std::vector<Point> points(const ValueCondition &x, const ValueCondition &y) const;
 
 private:
+    using Answer = std::vector<ValueTable::Best>;
+
     const ValueTable &table(const Property &property) const;
+    std::shared_ptr<const Answer> answer(const ValueCondition &condition) const;
 
     Database &m_database;
     NumberFlags m_flags;
     GradeList m_grades;
     std::map<QString, std::unique_ptr<ValueTable>> m_tables;
+    /// Of the last conditions asked, the newest last: at a key one of them changes.
+    mutable QVector<std::pair<ValueCondition, std::shared_ptr<const Answer>>> m_answers;
 };

@@ -21,6 +21,8 @@ struct ValueLimit {
     double number = 0;
     /// The number itself is within.
     bool inclusive = true;
+
+    bool operator==(const ValueLimit &other) const = default;
 };
 
 struct ValueLimits {
@@ -31,6 +33,8 @@ struct ValueLimits {
     /// Where only a greatest value is given, the smallest is the best.
     bool smallestIsBest() const { return greatest && !least; }
     bool isBetter(double left, double right) const { return smallestIsBest() ? left < right : left > right; }
+
+    bool operator==(const ValueLimits &other) const = default;
 };
 
 /// Why a grade has no value.

@@ -4,6 +4,9 @@
 
 #include "data/search_statements.h"
 #include "data/table_vocabulary.h"
+#include "values/comparison.h"
+#include "values/value_search.h"
+#include "values/value_sheet.h"
 
 namespace {
 
@@ -86,13 +89,37 @@ private:
             for (const auto &[option, text] : texts)
                 if (name == QLatin1String(option)) return *text = value(), true;
             if (name == QLatin1String("--system")) return criteria.system = systemOf(value()), true;
+            if (name == QLatin1String("--where")) return m_line.conditions << value(), true;
         }
         if (m_command == QLatin1String("values") && name == QLatin1String("--at")) {
             for (const QString &word : value().split(QLatin1Char(',')))
                 m_line.temperatures << temperatureOf(word.trimmed());
             return true;
         }
-        return false;
+        if (m_command == QLatin1String("compare")) return compareOption(name, value);
+        return m_command == QLatin1String("sheet") && sheetOption(name, value);
+    }
+
+    template <class Value>
+    bool compareOption(const QString &name, Value value) {
+        if (name == QLatin1String("--at"))
+            m_line.temperatures << understood(TypedTexts::temperature(value()));
+        else if (name == QLatin1String("--thickness"))
+            m_line.thickness = understood(TypedTexts::thickness(value()));
+        else
+            return false;
+        return true;
+    }
+
+    template <class Value>
+    bool sheetOption(const QString &name, Value value) {
+        const std::pair<const char *, QString *> texts[] = {
+            {"--from", &m_line.from}, {"--to", &m_line.to}, {"--step", &m_line.step}};
+        for (const auto &[option, text] : texts)
+            if (name == QLatin1String(option)) return *text = value(), true;
+        if (name != QLatin1String("--property")) return false;
+        m_line.properties << value();
+        return true;
     }
 
     static Format formatOf(const QString &word) {
@@ -117,6 +144,8 @@ private:
         } else if (m_command == QLatin1String("find")) {
             m_line.command = Command::Find;
             takeWords(0, 0, {});
+            if (m_line.conditions.size() > ValueSearch::MostConditions)
+                throw UsageError(QStringLiteral("at most %1 conditions").arg(ValueSearch::MostConditions));
         } else if (m_command == QLatin1String("show")) {
             m_line.command = Command::Show;
             takeWords(1, -1, "show needs a grade");
@@ -129,6 +158,24 @@ private:
             m_line.grades = m_words;
             if (m_line.temperatures.isEmpty()) throw UsageError("values needs --at with a temperature in °C");
             if (m_line.temperatures.size() > MostTemperatures) throw UsageError("at most 1,000 temperatures");
+        } else if (m_command == QLatin1String("properties")) {
+            m_line.command = Command::Properties;
+            takeWords(0, 0, {});
+        } else if (m_command == QLatin1String("compare")) {
+            m_line.command = Command::Compare;
+            takeWords(1, -1, "compare needs grades");
+            m_line.grades = m_words;
+            if (m_words.size() > Comparison::MostGrades)
+                throw UsageError(QStringLiteral("at most %1 grades").arg(Comparison::MostGrades));
+            if (m_line.temperatures.size() != 1)
+                throw UsageError("compare needs --at with a temperature in °C");
+        } else if (m_command == QLatin1String("sheet")) {
+            m_line.command = Command::Sheet;
+            takeWords(1, 1, "sheet needs a grade");
+            m_line.grades = m_words;
+            if (m_line.from.isEmpty() || m_line.to.isEmpty() || m_line.step.isEmpty())
+                throw UsageError("sheet needs --from, --to and --step in °C");
+            understood(ValueSheets::temperatures(m_line.from, m_line.to, m_line.step));
         } else if (m_command == QLatin1String("export")) {
             m_line.command = Command::Export;
             takeWords(1, 1, "export needs a folder");
@@ -165,10 +212,15 @@ QString CommandLine::usage() {
         "velmar-values [--database FILE] [--format table|csv|tsv|json] COMMAND\n"
         "\n"
         "  find [--standard T] [--name T] [--number T] [--group T] [--product-form T] [--system EN|SS|ASME]\n"
+        "       [--where CONDITION]...\n"
         "  show GRADE [TABLE...]\n"
         "  values GRADE... --at TEMPERATURE[,TEMPERATURE...]\n"
+        "  properties\n"
+        "  compare GRADE... --at TEMPERATURE [--thickness MM]\n"
+        "  sheet GRADE --from TEMPERATURE --to TEMPERATURE --step DEGREES [--property PROPERTY]...\n"
         "  export FOLDER\n"
         "\n"
+        "CONDITION is such as \"Rp02 >= 150 at 300 thickness 40\", PROPERTY one that properties lists.\n"
         "GRADE is a name, a number, either with @ and the standard behind it, or # and the identity.\n"
         "velmar-values(1) tells the rest.\n");
 }

@@ -1,12 +1,14 @@
 // What was asked for on the command line.
 #pragma once
 
+#include <optional>
 #include <stdexcept>
 
 #include <QString>
 #include <QStringList>
 
 #include "data/grades.h"
+#include "values/typed.h"
 
 /// What is wrong with the words of the call.
 struct UsageError : std::runtime_error {
@@ -14,8 +16,16 @@ struct UsageError : std::runtime_error {
         : std::runtime_error(text.toStdString()) {}
 };
 
+/// The value of what was typed; raises UsageError where it is not understood.
+template <class Value>
+const Value &understood(const Typed<Value> &typed) {
+    if (!typed)
+        throw UsageError(typed.error.endsWith(QLatin1Char('.')) ? typed.error.chopped(1) : typed.error);
+    return *typed;
+}
+
 struct CommandLine {
-    enum class Command { Help, Version, Find, Show, Values, Export };
+    enum class Command { Help, Version, Find, Show, Values, Properties, Compare, Sheet, Export };
     enum class Format { Table, Csv, Tsv, Json };
 
     Command command = Command::Help;
@@ -30,6 +40,15 @@ struct CommandLine {
     /// In °C, as they would stand in the program's box.
     QStringList temperatures;
     QString folder;
+    /// As they were written: what a property is, the database tells.
+    QStringList conditions;
+    QStringList properties;
+    /// In mm.
+    std::optional<double> thickness;
+    /// Of a sheet: in °C, as they were written.
+    QString from;
+    QString to;
+    QString step;
 
     /// `words` without the program's own name. Raises UsageError.
     static CommandLine parse(const QStringList &words);

@@ -1,7 +1,6 @@
 #include "velmar_values/commands.h"
 
 #include <QDir>
-#include <QJsonArray>
 #include <QJsonDocument>
 
 #include "data/GradeTables.h"
@@ -11,46 +10,22 @@
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/whole_file.h"
 #include "velmar_values/grade_tables_text.h"
+#include "velmar_values/value_commands.h"
+
+using Commands::bytes;
+using Commands::gradeOf;
 
 namespace {
 
 using Format = CommandLine::Format;
-
-QByteArray bytes(const QJsonArray &list) {
-    return QJsonDocument(list).toJson(QJsonDocument::Indented);
-}
-
-QByteArray bytes(const Records::Sheet &sheet, Format format) {
-    const auto kind = format == Format::Table ? Records::Format::Table
-                      : format == Format::Csv ? Records::Format::Csv
-                                              : Records::Format::Tsv;
-    return Records::written(sheet, kind).toUtf8();
-}
-
-/// The one grade that `text` names.
-Grades::Grade gradeOf(Database &database, const QString &text) {
-    const QVector<Grades::Grade> grades = Grades::named(database, text);
-    if (grades.size() == 1) return grades.first();
-    if (grades.isEmpty()) throw NotFound("no grade '" + text + "'");
-    QStringList several;
-    for (const Grades::Grade &grade : grades)
-        several << "#" + QString::number(grade.id) + " " + grade.name + " " + grade.number + " " +
-                       grade.standard;
-    throw NotFound("'" + text + "' fits several grades: " + several.join("; "));
-}
 
 QByteArray find(Database &database, const CommandLine &line) {
     const QVector<Grades::Grade> grades = Grades::find(database, line.criteria);
     if (grades.isEmpty()) throw NotFound("no grade found");
     if (line.format != Format::Json) return bytes(GradeTexts::sheet(grades), line.format);
     QJsonArray list;
-    for (const Grades::Grade &grade : grades) {
-        QJsonObject object = GradeTexts::json(grade);
-        object.insert("description", grade.description);
-        object.insert("group", grade.group);
-        object.insert("revision", grade.revision.date().toString(Qt::ISODate));
-        list << object;
-    }
+    for (const Grades::Grade &grade : grades)
+        list << GradeTexts::fullJson(grade);
     return bytes(list);
 }
 
@@ -104,10 +79,38 @@ QByteArray exportTexts(Database &database, const CommandLine &line) {
 
 } // namespace
 
-QByteArray Commands::run(Database &database, const CommandLine &line) {
+QByteArray Commands::bytes(const QJsonArray &list) {
+    return QJsonDocument(list).toJson(QJsonDocument::Indented);
+}
+
+QByteArray Commands::bytes(const Records::Sheet &sheet, Format format) {
+    const auto kind = format == Format::Table ? Records::Format::Table
+                      : format == Format::Csv ? Records::Format::Csv
+                                              : Records::Format::Tsv;
+    return Records::written(sheet, kind).toUtf8();
+}
+
+Grades::Grade Commands::gradeOf(Database &database, const QString &text) {
+    const QVector<Grades::Grade> grades = Grades::named(database, text);
+    if (grades.size() == 1) return grades.first();
+    if (grades.isEmpty()) throw NotFound("no grade '" + text + "'");
+    QStringList several;
+    for (const Grades::Grade &grade : grades)
+        several << "#" + QString::number(grade.id) + " " + grade.name + " " + grade.number + " " +
+                       grade.standard;
+    throw NotFound("'" + text + "' fits several grades: " + several.join("; "));
+}
+
+Answer Commands::run(Database &database, const CommandLine &line) {
     switch (line.command) {
     case CommandLine::Command::Find:
-        return find(database, line);
+        return line.conditions.isEmpty() ? Answer(find(database, line)) : ValueCommands::find(database, line);
+    case CommandLine::Command::Properties:
+        return ValueCommands::properties(database, line);
+    case CommandLine::Command::Compare:
+        return ValueCommands::compare(database, line);
+    case CommandLine::Command::Sheet:
+        return ValueCommands::sheet(database, line);
     case CommandLine::Command::Show:
         return show(database, line);
     case CommandLine::Command::Values:

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
 
+#include "exchange/records.h"
 #include "velmar_values/command_line.h"
 
 class Database;
@@ -13,9 +15,26 @@ struct NotFound : std::runtime_error {
         : std::runtime_error(text.toStdString()) {}
 };
 
+/// What a command has to say.
+struct Answer {
+    QByteArray output;
+    /// A line beside the output; empty without.
+    QString note = {};
+
+    Answer(QByteArray bytes, const QString &line = {}) // NOLINT(google-explicit-constructor)
+        : output(std::move(bytes))
+        , note(line) {}
+};
+
 namespace Commands {
 
-/// What goes to the standard output. Raises NotFound, and what the database raises.
-QByteArray run(Database &database, const CommandLine &line);
+/// Raises NotFound, and what the database raises.
+Answer run(Database &database, const CommandLine &line);
+
+/// The one grade that `text` names. Raises NotFound.
+Grades::Grade gradeOf(Database &database, const QString &text);
+
+QByteArray bytes(const QJsonArray &list);
+QByteArray bytes(const Records::Sheet &sheet, CommandLine::Format format);
 
 } // namespace Commands

@@ -67,6 +67,14 @@ QJsonObject GradeTexts::json(const Grades::Grade &grade) {
     return {{"id", grade.id}, {"name", grade.name}, {"number", grade.number}, {"standard", grade.standard}};
 }
 
+QJsonObject GradeTexts::fullJson(const Grades::Grade &grade) {
+    QJsonObject object = json(grade);
+    object.insert("description", grade.description);
+    object.insert("group", grade.group);
+    object.insert("revision", grade.revision.date().toString(Qt::ISODate));
+    return object;
+}
+
 QJsonObject GradeTexts::json(const ShownGrade &shown) {
     QJsonArray tables;
     for (const LoadedTable &table : shown.tables) {

@@ -26,6 +26,8 @@ struct ValuedGrade {
 namespace GradeTexts {
 
 QJsonObject json(const Grades::Grade &grade);
+/// With all that is told of a grade that was found.
+QJsonObject fullJson(const Grades::Grade &grade);
 QJsonObject json(const ShownGrade &shown);
 QJsonObject json(const ValuedGrade &valued);
 
