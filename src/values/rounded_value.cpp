@@ -33,5 +33,5 @@ double roundedValue(double y) {
     // The text is a half, and goes up, from half a digit below it on.
     const double digits = (size - half) / lastDigit(size);
     if (digits > -0.9 && digits < -0.1) return ofText(y);
-    return std::copysign((digits < 0 ? below : below + 1) / 100, y);
+    return std::copysign((digits < -0.5 ? below : below + 1) / 100, y);
 }
