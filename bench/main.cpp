@@ -25,6 +25,7 @@ int measure(const QString &database, const QString &sample) {
     Bench::addSearchRows(database);
     Bench::addTableRows(database);
     Bench::addDesignRows(database);
+    Bench::addValueRows(database);
     Bench::addReportRows(database);
     Bench::addProcessRows(database, sample);
     Bench::TableReporter table;

@@ -131,6 +131,8 @@ void addProcessRows(const QString &database, const QString &sample) {
     addMemory("sample: memory with ten windows, all tables seen", "ten-all", sample, 10, {0, 0, 120});
     addMemory("memory with the list", "list", database, 0, {0, 0, 220});
     addMemory("memory with ten windows, all tables seen", "ten-all", database, 10, {0, 0, 220});
+    addMemory("find by value, all properties read: peak above the memory before", "values", database, 0,
+              {0, 0, 100});
     addMemory("batch print of ten: peak above the memory before", "batch", database, 10, {});
     addMemory("batch print of twenty: peak above the memory before", "batch", database, 20, {});
     addMemory("batch print of thirty: peak above the memory before", "batch", database, 30, {});

@@ -8,9 +8,12 @@
 #include "bench/process_info.h"
 #include "bench/program.h"
 #include "bench/reports.h"
+#include "data/modDBase.h"
+#include "data/table_vocabulary.h"
 #include "material/frmMaterial2.h"
 #include "platform/forms/default_instance.h"
 #include "start/frmSplash.h"
+#include "values/value_search.h"
 
 namespace Bench {
 
@@ -54,14 +57,29 @@ void ten(const QString &database, const QVector<int> &grades, bool allTables) {
     tell(memoryOf(thisProcess()).resident, 0);
 }
 
+/// From here on the peak counts anew.
+double residentBeforePeak() {
+    const double resident = memoryOf(thisProcess()).resident;
+    QFile reset("/proc/self/clear_refs");
+    if (reset.open(QFile::WriteOnly)) reset.write("5");
+    return resident;
+}
+
+void values(const QString &database) {
+    const Program program(database);
+    paint();
+    const double before = residentBeforePeak();
+    ValueSearch search(*modDBase::dbMain());
+    for (const QString &key : TableVocabulary::designKeys())
+        search.read(key);
+    tell(memoryOf(thisProcess()).peak - before, 0);
+}
+
 void batch(const QString &database, const QVector<int> &grades) {
     Program program(database);
     paint();
     selectForBatch(program, grades);
-    const double before = memoryOf(thisProcess()).resident;
-    QFile reset("/proc/self/clear_refs");
-    if (reset.open(QFile::WriteOnly)) reset.write("5");
-    reset.close();
+    const double before = residentBeforePeak();
     const int pages = printBatch(program);
     tell(memoryOf(thisProcess()).peak - before, pages);
 }
@@ -77,6 +95,8 @@ int runScene(const QString &scene, const QString &database, const QVector<int> &
         ten(database, grades, false);
     else if (scene == QLatin1String("ten-all"))
         ten(database, grades, true);
+    else if (scene == QLatin1String("values"))
+        values(database);
     else if (scene == QLatin1String("batch"))
         batch(database, grades);
     else

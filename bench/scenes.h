@@ -11,6 +11,9 @@ namespace Bench {
 ///   list      the search window with the whole list: the resident megabytes
 ///   ten       these grades shown: the same
 ///   ten-all   these grades, all tables of each visited: the same
+///   values    the search window, and the values of all grades read: the megabytes by which the peak lies
+///   above
+///             what was resident before
 ///   batch     these grades printed: the megabytes by which the peak lies above what was resident before, and
 ///   the
 ///             pages
