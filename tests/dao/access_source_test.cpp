@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMap>
+#include <QProcess>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -106,8 +107,8 @@ TEST(AccessSource, HelperIsBounded) {
     AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());
     rlimit memory = {};
     rlimit seconds = {};
-    ASSERT_EQ(prlimit(source.helperId(), RLIMIT_AS, nullptr, &memory), 0);
-    ASSERT_EQ(prlimit(source.helperId(), RLIMIT_CPU, nullptr, &seconds), 0);
+    ASSERT_EQ(prlimit(helperProcess(), RLIMIT_AS, nullptr, &memory), 0);
+    ASSERT_EQ(prlimit(helperProcess(), RLIMIT_CPU, nullptr, &seconds), 0);
     EXPECT_LE(memory.rlim_cur, rlim_t(1) << 30);
     EXPECT_LE(seconds.rlim_cur, 20u);
 }
@@ -116,12 +117,12 @@ TEST(AccessSource, HelperIsBounded) {
 TEST(AccessSource, HelperThatHasGoneIsStartedAgain) {
     AccessSource source(samplePath("Velmar_PED.mdb"), helperPath());
     const Rows before = allRows(source, "Units");
-    const pid_t first = source.helperId();
+    const pid_t first = helperProcess();
     kill(first, SIGKILL);
     siginfo_t end;
     waitid(P_PID, static_cast<id_t>(first), &end, WEXITED | WNOWAIT);
     EXPECT_EQ(rowTexts(allRows(source, "Units")), rowTexts(before));
-    EXPECT_NE(source.helperId(), first);
+    EXPECT_NE(helperProcess(), first);
 }
 
 TEST(AccessSource, FileThatDoesNotAnswerIsWaitedForAsLongAsSomebodyWants) {
@@ -137,7 +138,7 @@ TEST(AccessSource, FileThatDoesNotAnswerIsWaitedForAsLongAsSomebodyWants) {
         return patient >= 0;
     };
     AccessSource source(path, helperPath(), waitsOn, Patience);
-    helper = source.helperId();
+    helper = helperProcess();
     kill(helper, SIGSTOP);
     patient = 3;
     EXPECT_EQ(allRows(source, "Units").size(), 7);
@@ -166,12 +167,12 @@ TEST(AccessSource, QuestionThatReadsTheSameFileGetsNoRows) {
         samplePath("Velmar_PED.mdb"), helperPath(),
         [&](const QString &) {
             inner = errorOf([&] { allRows(*asking, "Columns"); });
-            kill(asking->helperId(), SIGCONT);
+            kill(helperProcess(), SIGCONT);
             return true;
         },
         200);
     asking = &source;
-    kill(source.helperId(), SIGSTOP);
+    kill(helperProcess(), SIGSTOP);
     EXPECT_EQ(allRows(source, "Units").size(), 7);
     EXPECT_EQ(inner, 3043);
 }
@@ -202,6 +203,23 @@ TEST(AccessSource, SinkThatRaisesLeavesTheSourceUsable) {
               }),
               6);
     EXPECT_EQ(allRows(source, "Units").size(), 7);
+}
+
+TEST(AccessSource, HelperHasNobodyToComplainTo) {
+    const QTemporaryDir folder;
+    const QString helper =
+        writeScript(folder, "[ \"$(readlink /proc/$$/fd/2)\" = /dev/null ] || exit 1\nexec " +
+                                helperPath().toUtf8() + " \"$@\"");
+    EXPECT_EQ(AccessSource(samplePath("Velmar_PED.mdb"), helper).tableNames().size(), 27)
+        << "what libmdb says of a damaged file would stand in the user's terminal";
+}
+
+TEST(AccessSource, HelperLeavesARequestThatIsTooLong) {
+    QProcess helper;
+    helper.start(helperPath(), {samplePath("Velmar_PED.mdb")});
+    ASSERT_TRUE(helper.waitForReadyRead());
+    helper.write("\001\0\020\0", 4); // a megabyte and one, of which nothing comes
+    EXPECT_TRUE(helper.waitForFinished(5000));
 }
 
 TEST(AccessSource, HelperThatTalksNonsenseIsADamagedFile) {

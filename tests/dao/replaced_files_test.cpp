@@ -77,8 +77,9 @@ TEST(ReplacedFiles, AHelperThatIsStartedAgainDoesNotReadAnotherFile) {
     const QString path = putAccess(folder, "open");
     AccessSource source(path, helperPath());
     ASSERT_EQ(::rename(qPrintable(putAccess(folder, "new")), qPrintable(path)), 0);
-    kill(source.helperId(), SIGKILL);
+    const pid_t helper = helperProcess();
+    kill(helper, SIGKILL);
     siginfo_t end;
-    waitid(P_PID, static_cast<id_t>(source.helperId()), &end, WEXITED | WNOWAIT);
+    waitid(P_PID, static_cast<id_t>(helper), &end, WEXITED | WNOWAIT);
     EXPECT_EQ(errorOf([&] { allRows(source, "Units"); }), Damaged);
 }

@@ -3,6 +3,8 @@
 
 #include <ostream>
 
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -18,6 +20,20 @@ inline QString samplePath(const QString &name) {
 
 inline QString helperPath() {
     return QStringLiteral(BINARY_FOLDER "/mdb_reader");
+}
+
+/// The process of the one helper that runs, -1 without one. One that has ended and was not waited for is
+/// none.
+inline pid_t helperProcess() {
+    const QStringList entries = QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs);
+    for (const QString &entry : entries) {
+        QFile file("/proc/" + entry + "/stat");
+        if (!file.open(QIODevice::ReadOnly)) continue;
+        const QByteArray stat = file.readAll(); // "12 (name) S 11 ...": state and parent
+        const QList<QByteArray> fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
+        if (fields.value(0) != "Z" && fields.value(1).toInt() == getpid()) return entry.toInt();
+    }
+    return -1;
 }
 
 inline Rows allRows(TableSource &source, const QString &table) {

@@ -119,6 +119,8 @@ TEST_F(Dialect, Conditions) {
         {"mass = '12,25'", {"2"}},
         {"id = '3'", {"3"}},
         {"price = 0.1", {"2"}},
+        {"price = 1e-1 and id < 2.5E+0", {"2"}},
+        {"id > 1e0 and id < .3E1", {"2"}},
         {"id = -1", {}},
         {"inStock", {"1", "4"}},
         {"inStock = true", {"1", "4"}},

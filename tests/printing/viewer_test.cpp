@@ -232,18 +232,6 @@ TEST_F(ViewerTest, TellsThatThePrinterFailed) {
     }
 }
 
-TEST_F(ViewerTest, CanBeKeptFromStayingMinimised) {
-    bool told = false;
-    QObject::connect(&viewer, &Viewer::minimised, &viewer, [&] {
-        told = true;
-        viewer.showNormal();
-    });
-    viewer.showMinimized();
-    QTest::qWait(20);
-    EXPECT_TRUE(told);
-    EXPECT_FALSE(viewer.isMinimized());
-}
-
 TEST(PagePainter, HairlinesAreCrispAtEveryZoom) {
     TestReport report;
     Section &detail = report.AddSection(SectionType::Detail, "Detail");

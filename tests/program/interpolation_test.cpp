@@ -170,6 +170,8 @@ TEST(InterpolationTest, WhatDoesNotConvertIsTold) {
     EXPECT_EQ(error("30", table({{"20", "-1,7E"}, {"40", "3"}}), CommaPoint),
               0); // the number ends before the E
     EXPECT_EQ(error("30", SourceArray(0, 1), CommaPoint), 9);
+    const QByteArray huge(309, '1'); // a number, but not its distance to its opposite
+    EXPECT_EQ(error("30", table({{"20", "-" + huge}, {"40", huge}}), CommaPoint), 6);
 }
 
 TEST(InterpolationTest, CellsBeforeAFailureAreGiven) {

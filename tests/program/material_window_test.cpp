@@ -157,13 +157,13 @@ TEST_F(MaterialWindow, PivotsThicknessBandsIntoColumns) {
     window.ShowTable("ModElast");
     EXPECT_EQ(grid.ColumnCount(), 4);
     EXPECT_EQ(headings(grid), QStringList({"Temperature ||[°C]", "KN ||/ mm²"}));
-    EXPECT_EQ(grid.Columns(1).PicturePosition(), HeadPicturePosition::PictureOnly);
+    EXPECT_NE(grid.Columns(1).shownPicture(), nullptr);
     EXPECT_EQ(row(grid, 0), QStringList({"20", "212"}));
     EXPECT_FALSE(window.framMechOpt->isVisible());
 
     frmMaterial2 &plain = show(X6CrNiMoTi, "Rm");
     EXPECT_EQ(headings(*plain.tdbBoundTable), QStringList({"Temperature ||[°C]", "Rm ||[MPa]"}));
-    EXPECT_EQ(plain.tdbBoundTable->Columns(1).PicturePosition(), HeadPicturePosition::TextOnly);
+    EXPECT_EQ(plain.tdbBoundTable->Columns(1).shownPicture(), nullptr);
     EXPECT_FALSE(material->ElevatedMultiCol("Rm"));
 }
 

@@ -168,16 +168,16 @@ TEST_F(PmaTest, ADoubleClickOpensTheDocumentThatIsThere) {
             shell.opened.clear();
             doubleClick(window, row++);
             EXPECT_EQ(shell.opened.join(""), item.opened) << qPrintable(item.path);
-            EXPECT_EQ(mdiVelmar::instance().MousePointer(), vbDefault);
+            EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         }
         shell.result = 5;
         modal().answerMsgBox([](const ModalSeam::Request &request) {
             EXPECT_EQ(request.text, "Access denied");
-            EXPECT_EQ(mdiVelmar::instance().MousePointer(), vbHourglass);
+            EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
             return vbOK;
         });
         doubleClick(window, 0);
-        EXPECT_EQ(mdiVelmar::instance().MousePointer(), vbDefault);
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     });
 }
 

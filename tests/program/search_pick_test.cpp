@@ -1,5 +1,6 @@
 // The two windows in which a value is picked from a list.
 #include "data/modDBase.h"
+#include "data/queries.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/db_list.h"
 #include "search/frmSelect.h"
@@ -11,6 +12,14 @@
 #include "tests/support/raising_through_qt.h"
 
 namespace {
+
+/// The next control that Tab stops at.
+QWidget *afterTab(QWidget *control) {
+    QWidget *next = control->nextInFocusChain();
+    while (next != control && !(next->focusPolicy() & Qt::TabFocus))
+        next = next->nextInFocusChain();
+    return next;
+}
 
 class SearchPickTest : public ProgramFixture {
 protected:
@@ -33,6 +42,13 @@ protected:
         return modDBase::SelectStandard(sql, "DatabaseName");
     }
 };
+
+TEST_F(SearchPickTest, TabGoesFromTheListToTheBoxAndItsButtons) {
+    pickStandard(Queries::sqlAllStandards(), [](frmSelectStand &list) {
+        EXPECT_EQ(afterTab(list.lstSelect), list.txtSearch);
+        EXPECT_EQ(afterTab(list.txtSearch), list.cmdFind(0));
+    });
+}
 
 TEST_F(SearchPickTest, FindingAndMovingInAList) {
     pickName([](frmSelect &list) {

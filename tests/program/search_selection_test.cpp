@@ -223,7 +223,7 @@ TEST_F(SearchSelectionTest, ShowOpensAWindowForEachAndSelectComesBack) {
     EXPECT_EQ(main().strTableButton, "Ref");
     EXPECT_EQ(main().Toolbar1->Buttons("Ref").Value(), tbrPressed);
     EXPECT_EQ(main().iMaterialsOpen, 3);
-    EXPECT_EQ(main().MousePointer(), vbDefault);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     EXPECT_FALSE(search().Visible());
     EXPECT_TRUE(main().menu.mnuView->Visible());
     EXPECT_TRUE(main().menu.mnuFileElem(3).Enabled());

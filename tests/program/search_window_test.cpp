@@ -208,7 +208,6 @@ TEST_F(SearchWindowTest, ToolTipsGoAndComeBackEverywhere) {
     EXPECT_TRUE(before.contains("cmdTabNav(6)=Move To Next Material In List"));
     toggle();
     EXPECT_EQ(tips().join(""), "");
-    EXPECT_EQ(search().tdbMaterials->CellTips(), 0);
     frmMaterial2 &window = program().open(program().material(2));
     EXPECT_EQ(window.txtDesignTemp->toolTip() + window.cmdShowNotes->toolTip(), "");
     toggle();

@@ -122,6 +122,7 @@ TEST(ValuesProgram, AnswersInJson) {
     };
     EXPECT_EQ(cell(0, 0, 1)["text"], "166");
     EXPECT_EQ(cell(0, 0, 1)["value"].toDouble(), 166);
+    EXPECT_EQ(cell(0, 0, 1)["unit"], "[MPa]") << "of a band as of the table";
     EXPECT_EQ(cell(1, 0, 1)["text"], "161,08");
     EXPECT_EQ(cell(1, 0, 1)["value"].toDouble(), 161.08);
     EXPECT_EQ(values[1].toObject()["at"].toDouble(), 320.5);

@@ -19,6 +19,7 @@
 #include "platform/forms/default_instance.h"
 #include "platform/forms/form.h"
 #include "platform/forms/msg_box.h"
+#include "platform/runtime/app.h"
 #include "platform/runtime/regional_settings.h"
 #include "shell/mdiVelmar.h"
 #include "start/frmSplash.h"
@@ -129,6 +130,8 @@ int TestRun::live(const Folders &folders, const User &user) {
     m_seam = &seam;
     queueAnswers();
     ProgramStart::prepare(application, folders.program);
+    // In a changed root a process with mounts of its own does not learn where its program lies.
+    App::current().helperPath = BINARY_FOLDER;
     RegionalSettings::setCurrent({});
     ProgramStart::begin();
     QTimer::singleShot(0, &application, [&] { user(*this); });

@@ -35,9 +35,6 @@ public:
     void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                       const RowSink &sink) override;
 
-    /// The helper's process, -1 where none runs.
-    pid_t helperId() const { return m_helper.id(); }
-
 private:
     struct Table {
         QString name;

@@ -59,7 +59,6 @@ public:
     bool Visible() const;
 
     /// The hourglass shows over all windows but a modal one until the form that set it takes it back.
-    int MousePointer() const { return m_mousePointer; }
     void setMousePointer(int shape);
 
     /// The first touch: enters the forms collection and runs Form_Load. A second call does nothing.

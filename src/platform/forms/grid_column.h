@@ -46,7 +46,6 @@ public:
     /// An SVG file. It is drawn in the colour of the heading's text, to be legible on every theme.
     void setHeadPicture(const QString &svgFile);
     /// TextOnly at first. A picture that cannot be read leaves the text standing.
-    HeadPicturePosition PicturePosition() const { return m_picturePosition; }
     void setPicturePosition(HeadPicturePosition position);
 
     /// The picture to draw in place of the text, or none.

@@ -89,7 +89,6 @@ public:
 
     /// 0 none, 2 shown while the mouse rests. What has no room in its cell or heading is told by a tip in any
     /// case.
-    int CellTips() const { return m_cellTips; }
     void setCellTips(int mode) { m_cellTips = mode; }
     /// Gives the tip of a place; `column` is -1 beside the columns. Where it is empty the grid's own tool tip
     /// shows, and without a value none at all.

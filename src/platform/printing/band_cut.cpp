@@ -45,7 +45,7 @@ std::vector<Span> solidSpans(const Band &band) {
             spans.push_back({top, topBelow(band, element) + 1});
             continue;
         }
-        if (count < 4 || (element.Border.any() && element.box.height() <= HighestWholeCell)) {
+        if (count == 0 || (element.Border.any() && element.box.height() <= HighestWholeCell)) {
             spans.push_back({top, bottomOf(element)});
             continue;
         }

@@ -269,11 +269,6 @@ void Viewer::zoomToText() {
     m_view->setFocus();
 }
 
-void Viewer::changeEvent(QEvent *event) {
-    QDialog::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange && isMinimized()) Q_EMIT minimised();
-}
-
 // Enter and Escape in a box are the box's, not the dialog's.
 bool Viewer::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::KeyPress) {

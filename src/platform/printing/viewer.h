@@ -35,12 +35,7 @@ public:
     /// Stands in for the print dialog: sets up the printer and tells whether to print.
     void setPrinterChooser(std::function<bool(QPrinter &)> chooser);
 
-Q_SIGNALS:
-    /// When the window has been minimised; more than once where the window system confirms it late.
-    void minimised();
-
 protected:
-    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
