@@ -68,7 +68,11 @@ private:
         } else if (name == QLatin1String("--database")) {
             m_line.database = value();
         } else if (name == QLatin1String("--format")) {
-            m_line.format = formatOf(value());
+            m_line.format = oneOf<Format>(value(), {"table", "csv", "tsv", "json"}, "format");
+            m_hasFormat = true;
+        } else if (name == QLatin1String("--xlsx")) {
+            m_line.xlsx = value();
+            if (m_line.xlsx.isEmpty()) throw UsageError("--xlsx needs a file");
         } else if (!commandOption(name, value)) {
             throw UsageError("no option " + name + (m_command.isEmpty() ? QString() : " of " + m_command));
         }
@@ -92,14 +96,48 @@ private:
                 m_line.temperatures << temperatureOf(word.trimmed());
             return true;
         }
-        return false;
+        return m_command == QLatin1String("card") && cardOption(name, value);
     }
 
-    static Format formatOf(const QString &word) {
-        const QStringList names{"table", "csv", "tsv", "json"};
-        const qsizetype at = names.indexOf(word.toLower());
-        if (at < 0) throw UsageError("no format '" + word + "'; there are " + names.join(", "));
-        return static_cast<Format>(at);
+    template <class Value>
+    bool cardOption(const QString &name, Value value) {
+        CardChoice &choice = m_line.card;
+        if (name == QLatin1String("--for"))
+            m_line.solver = oneOf<CommandLine::Solver>(value(), {"calculix", "mapdl"}, "program");
+        else if (name == QLatin1String("--units"))
+            m_units = oneOf<UnitSystem>(value(), {"si", "mm"}, "system of units");
+        else if (name == QLatin1String("--poisson"))
+            choice.poisson = faultless(value(), MaterialCard::poissonFault);
+        else if (name == QLatin1String("--density"))
+            choice.density = faultless(value(), MaterialCard::densityFault);
+        else if (name == QLatin1String("--yield"))
+            choice.yieldKey =
+                QStringList{"Rp02", "Rp10"}[oneOf<int>(value(), {"Rp02", "Rp10"}, "yield stress")];
+        else if (name == QLatin1String("--thickness"))
+            m_line.thickness = thicknessOf(value());
+        else
+            return false;
+        return true;
+    }
+
+    static QString faultless(const QString &word, QString (*fault)(const QString &typed)) {
+        if (!fault(word).isEmpty()) throw UsageError(fault(word));
+        return word;
+    }
+
+    static double thicknessOf(const QString &word) {
+        const std::optional<CellNumber> number = cellNumber(word);
+        if (!number || number->value() <= 0) throw UsageError("'" + word + "' is no thickness in mm");
+        return number->value();
+    }
+
+    /// The place of `word` in the list, in any capitals.
+    template <class Value>
+    static Value oneOf(const QString &word, const QStringList &names, const char *what) {
+        for (qsizetype i = 0; i < names.size(); ++i)
+            if (names[i].compare(word, Qt::CaseInsensitive) == 0) return static_cast<Value>(i);
+        throw UsageError(QStringLiteral("no %1 '%2'; there are %3")
+                             .arg(QString::fromLatin1(what), word, names.join(QStringLiteral(", "))));
     }
 
     static QString systemOf(const QString &word) {
@@ -129,6 +167,11 @@ private:
             m_line.grades = m_words;
             if (m_line.temperatures.isEmpty()) throw UsageError("values needs --at with a temperature in °C");
             if (m_line.temperatures.size() > MostTemperatures) throw UsageError("at most 1,000 temperatures");
+        } else if (m_command == QLatin1String("card")) {
+            m_line.command = Command::Card;
+            takeWords(1, 1, "card needs a grade");
+            m_line.grades = m_words;
+            finishCard();
         } else if (m_command == QLatin1String("export")) {
             m_line.command = Command::Export;
             takeWords(1, 1, "export needs a folder");
@@ -137,6 +180,18 @@ private:
             throw UsageError(m_command.isEmpty() ? QStringLiteral("what is to be done?")
                                                  : "no command '" + m_command + "'");
         }
+        if (m_line.xlsx.isEmpty() && !m_hasFormat) return;
+        if (m_line.command == Command::Card || m_line.command == Command::Export)
+            throw UsageError(m_command + " has a form of its own, without --format and --xlsx");
+        if (!m_line.xlsx.isEmpty() && m_hasFormat) throw UsageError("either --format or --xlsx");
+    }
+
+    void finishCard() {
+        if (!m_line.solver) throw UsageError("card needs --for with calculix or mapdl");
+        if (!m_units) throw UsageError("card needs --units with si or mm");
+        m_line.card.units = *m_units;
+        if (m_line.thickness && m_line.card.yieldKey.isEmpty())
+            throw UsageError("--thickness goes with --yield");
     }
 
     void takeWords(int least, int most, const QString &missing) const {
@@ -151,6 +206,8 @@ private:
     bool m_onlyWords = false;
     bool m_help = false;
     bool m_version = false;
+    bool m_hasFormat = false;
+    std::optional<UnitSystem> m_units;
     CommandLine m_line;
 };
 
@@ -162,11 +219,13 @@ CommandLine CommandLine::parse(const QStringList &words) {
 
 QString CommandLine::usage() {
     return QStringLiteral(
-        "velmar-values [--database FILE] [--format table|csv|tsv|json] COMMAND\n"
+        "velmar-values [--database FILE] [--format table|csv|tsv|json | --xlsx FILE] COMMAND\n"
         "\n"
         "  find [--standard T] [--name T] [--number T] [--group T] [--product-form T] [--system EN|SS|ASME]\n"
         "  show GRADE [TABLE...]\n"
         "  values GRADE... --at TEMPERATURE[,TEMPERATURE...]\n"
+        "  card GRADE --for calculix|mapdl --units si|mm [--poisson N] [--density N] [--yield Rp02|Rp10] "
+        "[--thickness N]\n"
         "  export FOLDER\n"
         "\n"
         "GRADE is a name, a number, either with @ and the standard behind it, or # and the identity.\n"

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "data/grades.h"
+#include "exchange/material_card.h"
 
 /// What is wrong with the words of the call.
 struct UsageError : std::runtime_error {
@@ -15,8 +16,9 @@ struct UsageError : std::runtime_error {
 };
 
 struct CommandLine {
-    enum class Command { Help, Version, Find, Show, Values, Export };
+    enum class Command { Help, Version, Find, Show, Values, Card, Export };
     enum class Format { Table, Csv, Tsv, Json };
+    enum class Solver { Calculix, Mapdl };
 
     Command command = Command::Help;
     /// Empty to find it as the program does.
@@ -30,6 +32,13 @@ struct CommandLine {
     /// In °C, as they would stand in the program's box.
     QStringList temperatures;
     QString folder;
+    /// Where the tables go instead of the standard output; empty without it.
+    QString xlsx;
+    /// Of a card; the band is found by the thickness.
+    std::optional<Solver> solver;
+    CardChoice card;
+    /// In mm.
+    std::optional<double> thickness;
 
     /// `words` without the program's own name. Raises UsageError.
     static CommandLine parse(const QStringList &words);
