@@ -150,9 +150,9 @@ QByteArray TakenTables::tsv(const TakenTable &table) {
 }
 
 QByteArray TakenTables::xlsx(const TakenBook &book) {
-    XlsxWorkbook workbook{book.tables.isEmpty() ? QString() : book.tables.first().title, book.made, {}};
+    XlsxWorkbook workbook{book.tables.size() == 1 ? book.tables.first().title : QString(), book.made, {}};
     for (const TakenTable &table : book.tables)
-        workbook.sheets << worksheet(table);
+        if (!table.rows.isEmpty()) workbook.sheets << worksheet(table);
     workbook.sheets << factSheet(book);
     return workbook.bytes();
 }

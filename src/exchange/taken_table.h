@@ -62,9 +62,9 @@ QVector<TakenFact> databaseFacts(const Database &database);
 QByteArray csv(const TakenTable &table);
 /// The same with tabs, LF, and blanks in the place of tabs and line ends: what the clipboard takes.
 QByteArray tsv(const TakenTable &table);
-/// A worksheet a table: headings, units where there are any, rows. Undecorated numbers are numbers with their
-/// decimals, everything else is text. The last worksheet holds the facts, the date, and the tables' notes.
-/// Raises what XlsxWorkbook::bytes() raises.
+/// A worksheet a table that has rows: headings, units where there are any, rows. Undecorated numbers are
+/// numbers with their decimals, everything else is text. The last worksheet holds the facts, the date, and
+/// the tables' notes. Raises what XlsxWorkbook::bytes() raises.
 QByteArray xlsx(const TakenBook &book);
 
 /// By the ending of the file's name, in any capitals; XLSX for any other.

@@ -8,9 +8,9 @@
 
 #include <QFile>
 #include <QSet>
-#include <QStorageInfo>
 #include <QTemporaryDir>
 
+#include "platform/files/packed_xml.h"
 #include "platform/runtime/runtime_error.h"
 
 namespace {
@@ -46,7 +46,8 @@ void checkSize(const XlsxSheet &sheet) {
 /// Two names may not differ by capitals alone.
 QString sheetName(const QString &wanted, QSet<QString> &taken) {
     QString base = wanted.simplified();
-    for (const char sign : {'[', ']', ':', '*', '?', '/', '\\', '\''})
+    base.replace(QLatin1Char('['), QLatin1Char('(')).replace(QLatin1Char(']'), QLatin1Char(')'));
+    for (const char sign : {':', '*', '?', '/', '\\', '\''})
         base.replace(QLatin1Char(sign), QLatin1Char('-'));
     base = base.simplified().left(LongestName).trimmed();
     if (base.isEmpty()) base = QStringLiteral("Sheet");
@@ -155,29 +156,18 @@ void writeFile(const XlsxWorkbook &workbook, const QByteArray &path, QByteArray 
     check(workbook_close(book.release()));
 }
 
-/// The library does not look whether its temporary files could be written, and packs what is there of them.
-void checkRoom(const XlsxWorkbook &workbook, const QString &folder) {
-    constexpr qint64 Packing = 1 << 20;
-    constexpr qint64 Marks = 64;
-    qint64 size = Packing;
-    for (const XlsxSheet &sheet : workbook.sheets)
-        for (const QVector<XlsxCell> &row : sheet.rows)
-            for (const XlsxCell &cell : row)
-                size += Marks + 6 * cell.text.size();
-    if (QStorageInfo(folder).bytesAvailable() < 2 * size) throw RuntimeError(61);
-}
-
 } // namespace
 
 QByteArray XlsxWorkbook::bytes() const {
     const QTemporaryDir folder;
     if (!folder.isValid()) throw RuntimeError(75);
-    checkRoom(*this, folder.path());
     const QString path = folder.filePath(QStringLiteral("workbook.xlsx"));
     writeFile(*this, QFile::encodeName(path), QFile::encodeName(folder.path()));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) throw RuntimeError(75);
     QByteArray bytes = file.readAll();
-    if (bytes.size() != file.size()) throw RuntimeError(57);
+    // The library does not look whether its temporary files could be written, and packs what there is of
+    // them.
+    if (!holdsWholeXml(bytes)) throw RuntimeError(61);
     return bytes;
 }
