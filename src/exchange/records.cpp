@@ -73,14 +73,14 @@ QString tsvCell(const QString &cell) {
 
 } // namespace
 
-QString Records::written(const Sheet &sheet, Format format) {
+QString Records::written(const Sheet &sheet, Format format, const QString &lineEnd) {
     if (format == Format::Table) return asTable(sheet);
     const bool csv = format == Format::Csv;
-    const auto line = [csv](const QStringList &cells) {
+    const auto line = [csv, &lineEnd](const QStringList &cells) {
         QStringList parts;
         for (const QString &cell : cells)
             parts << (csv ? csvCell(cell) : tsvCell(cell));
-        return parts.join(QLatin1Char(csv ? ',' : '\t')) + QLatin1Char('\n');
+        return parts.join(QLatin1Char(csv ? ',' : '\t')) + lineEnd;
     };
     QString text = line(sheet.headings);
     for (const QStringList &row : sheet.rows)

@@ -15,8 +15,8 @@ struct Sheet {
 };
 
 /// Lines with their ends. A table is aligned and has its headings above a rule; a text of several lines takes
-/// as many in it. CSV is that of RFC 4180 with LF as the line end; TSV has blanks in the place of tabs and
-/// line ends.
-QString written(const Sheet &sheet, Format format);
+/// as many in it. CSV is that of RFC 4180, with LF unless another end of the lines is given; TSV has blanks
+/// in the place of tabs and line ends.
+QString written(const Sheet &sheet, Format format, const QString &lineEnd = QStringLiteral("\n"));
 
 } // namespace Records

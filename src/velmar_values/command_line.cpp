@@ -14,6 +14,34 @@ using Command = CommandLine::Command;
 using Format = CommandLine::Format;
 
 constexpr int MostTemperatures = 1000;
+constexpr int Any = -1;
+
+/// How many words a command takes beside its options.
+struct CommandRule {
+    const char *name;
+    Command command;
+    int least;
+    int most;
+    const char *words;
+};
+
+constexpr CommandRule CommandRules[] = {
+    {"find", Command::Find, 0, 0, ""},
+    {"show", Command::Show, 1, Any, "a grade"},
+    {"values", Command::Values, 1, Any, "a grade"},
+    {"properties", Command::Properties, 0, 0, ""},
+    {"compare", Command::Compare, 1, Any, "grades"},
+    {"sheet", Command::Sheet, 1, 1, "a grade"},
+    {"card", Command::Card, 1, 1, "a grade"},
+    {"export", Command::Export, 1, 1, "a folder"},
+};
+
+const CommandRule &ruleOf(const QString &command) {
+    for (const CommandRule &rule : CommandRules)
+        if (command == QLatin1String(rule.name)) return rule;
+    throw UsageError(command.isEmpty() ? QStringLiteral("what is to be done?")
+                                       : "no command '" + command + "'");
+}
 
 QString keyOf(const QString &word) {
     for (int i = 0; i < TableVocabulary::TableCount; ++i) {
@@ -71,7 +99,11 @@ private:
         } else if (name == QLatin1String("--database")) {
             m_line.database = value();
         } else if (name == QLatin1String("--format")) {
-            m_line.format = formatOf(value());
+            m_line.format = oneOf<Format>(value(), {"table", "csv", "tsv", "json"}, "format");
+            m_hasFormat = true;
+        } else if (name == QLatin1String("--xlsx")) {
+            m_line.xlsx = value();
+            if (m_line.xlsx.isEmpty()) throw UsageError("--xlsx needs a file");
         } else if (!commandOption(name, value)) {
             throw UsageError("no option " + name + (m_command.isEmpty() ? QString() : " of " + m_command));
         }
@@ -97,6 +129,7 @@ private:
             return true;
         }
         if (m_command == QLatin1String("compare")) return compareOption(name, value);
+        if (m_command == QLatin1String("card")) return cardOption(name, value);
         return m_command == QLatin1String("sheet") && sheetOption(name, value);
     }
 
@@ -122,11 +155,39 @@ private:
         return true;
     }
 
-    static Format formatOf(const QString &word) {
-        const QStringList names{"table", "csv", "tsv", "json"};
-        const qsizetype at = names.indexOf(word.toLower());
-        if (at < 0) throw UsageError("no format '" + word + "'; there are " + names.join(", "));
-        return static_cast<Format>(at);
+    template <class Value>
+    bool cardOption(const QString &name, Value value) {
+        CardChoice &choice = m_line.card;
+        if (name == QLatin1String("--for"))
+            m_line.solver = oneOf<CommandLine::Solver>(value(), {"calculix", "mapdl"}, "program");
+        else if (name == QLatin1String("--units"))
+            m_units = oneOf<UnitSystem>(value(), {"si", "mm"}, "system of units");
+        else if (name == QLatin1String("--poisson"))
+            choice.poisson = faultless(value(), MaterialCard::poissonFault);
+        else if (name == QLatin1String("--density"))
+            choice.density = faultless(value(), MaterialCard::densityFault);
+        else if (name == QLatin1String("--yield"))
+            choice.yieldKey =
+                QStringList{"Rp02", "Rp10"}[oneOf<int>(value(), {"Rp02", "Rp10"}, "yield stress")];
+        else if (name == QLatin1String("--thickness"))
+            m_line.thickness = understood(TypedTexts::thickness(value()));
+        else
+            return false;
+        return true;
+    }
+
+    static QString faultless(const QString &word, QString (*fault)(const QString &typed)) {
+        if (!fault(word).isEmpty()) throw UsageError(fault(word));
+        return word;
+    }
+
+    /// The place of `word` in the list, in any capitals.
+    template <class Value>
+    static Value oneOf(const QString &word, const QStringList &names, const char *what) {
+        for (qsizetype i = 0; i < names.size(); ++i)
+            if (names[i].compare(word, Qt::CaseInsensitive) == 0) return static_cast<Value>(i);
+        throw UsageError(QStringLiteral("no %1 '%2'; there are %3")
+                             .arg(QString::fromLatin1(what), word, names.join(QStringLiteral(", "))));
     }
 
     static QString systemOf(const QString &word) {
@@ -137,59 +198,67 @@ private:
     }
 
     void finish() {
-        if (m_version) {
-            m_line.command = Command::Version;
-        } else if (m_help) {
-            m_line.command = Command::Help;
-        } else if (m_command == QLatin1String("find")) {
-            m_line.command = Command::Find;
-            takeWords(0, 0, {});
+        if (m_version || m_help) {
+            m_line.command = m_version ? Command::Version : Command::Help;
+            return;
+        }
+        const CommandRule &rule = ruleOf(m_command);
+        m_line.command = rule.command;
+        if (m_words.size() < rule.least)
+            throw UsageError(QString::fromLatin1(rule.name) + " needs " + QString::fromLatin1(rule.words));
+        if (rule.most != Any && m_words.size() > rule.most)
+            throw UsageError("'" + m_words[rule.most] + "' is one word too many");
+        finishCommand();
+        if (m_line.xlsx.isEmpty() && !m_hasFormat) return;
+        if (m_line.command == Command::Card || m_line.command == Command::Export)
+            throw UsageError(m_command + " has a form of its own, without --format and --xlsx");
+        if (!m_line.xlsx.isEmpty() && m_hasFormat) throw UsageError("either --format or --xlsx");
+    }
+
+    void finishCommand() {
+        m_line.grades = m_words;
+        switch (m_line.command) {
+        case Command::Find:
             if (m_line.conditions.size() > ValueSearch::MostConditions)
                 throw UsageError(QStringLiteral("at most %1 conditions").arg(ValueSearch::MostConditions));
-        } else if (m_command == QLatin1String("show")) {
-            m_line.command = Command::Show;
-            takeWords(1, -1, "show needs a grade");
-            m_line.grades << m_words.takeFirst();
-            for (const QString &word : m_words)
+            break;
+        case Command::Show:
+            m_line.grades = {m_words.takeFirst()};
+            for (const QString &word : std::as_const(m_words))
                 m_line.tables << keyOf(word);
-        } else if (m_command == QLatin1String("values")) {
-            m_line.command = Command::Values;
-            takeWords(1, -1, "values needs a grade");
-            m_line.grades = m_words;
+            break;
+        case Command::Values:
             if (m_line.temperatures.isEmpty()) throw UsageError("values needs --at with a temperature in °C");
             if (m_line.temperatures.size() > MostTemperatures) throw UsageError("at most 1,000 temperatures");
-        } else if (m_command == QLatin1String("properties")) {
-            m_line.command = Command::Properties;
-            takeWords(0, 0, {});
-        } else if (m_command == QLatin1String("compare")) {
-            m_line.command = Command::Compare;
-            takeWords(1, -1, "compare needs grades");
-            m_line.grades = m_words;
+            break;
+        case Command::Compare:
             if (m_words.size() > Comparison::MostGrades)
                 throw UsageError(QStringLiteral("at most %1 grades").arg(Comparison::MostGrades));
             if (m_line.temperatures.size() != 1)
                 throw UsageError("compare needs --at with a temperature in °C");
-        } else if (m_command == QLatin1String("sheet")) {
-            m_line.command = Command::Sheet;
-            takeWords(1, 1, "sheet needs a grade");
-            m_line.grades = m_words;
+            break;
+        case Command::Sheet:
             if (m_line.from.isEmpty() || m_line.to.isEmpty() || m_line.step.isEmpty())
                 throw UsageError("sheet needs --from, --to and --step in °C");
             understood(ValueSheets::temperatures(m_line.from, m_line.to, m_line.step));
-        } else if (m_command == QLatin1String("export")) {
-            m_line.command = Command::Export;
-            takeWords(1, 1, "export needs a folder");
+            break;
+        case Command::Card:
+            finishCard();
+            break;
+        case Command::Export:
             m_line.folder = m_words.first();
-        } else {
-            throw UsageError(m_command.isEmpty() ? QStringLiteral("what is to be done?")
-                                                 : "no command '" + m_command + "'");
+            break;
+        default:
+            break;
         }
     }
 
-    void takeWords(int least, int most, const QString &missing) const {
-        if (m_words.size() < least) throw UsageError(missing);
-        if (most >= 0 && m_words.size() > most)
-            throw UsageError("'" + m_words[most] + "' is one word too many");
+    void finishCard() {
+        if (!m_line.solver) throw UsageError("card needs --for with calculix or mapdl");
+        if (!m_units) throw UsageError("card needs --units with si or mm");
+        m_line.card.units = *m_units;
+        if (m_line.thickness && m_line.card.yieldKey.isEmpty())
+            throw UsageError("--thickness goes with --yield");
     }
 
     QStringList m_rest;
@@ -198,6 +267,8 @@ private:
     bool m_onlyWords = false;
     bool m_help = false;
     bool m_version = false;
+    bool m_hasFormat = false;
+    std::optional<UnitSystem> m_units;
     CommandLine m_line;
 };
 
@@ -209,7 +280,7 @@ CommandLine CommandLine::parse(const QStringList &words) {
 
 QString CommandLine::usage() {
     return QStringLiteral(
-        "velmar-values [--database FILE] [--format table|csv|tsv|json] COMMAND\n"
+        "velmar-values [--database FILE] [--format table|csv|tsv|json | --xlsx FILE] COMMAND\n"
         "\n"
         "  find [--standard T] [--name T] [--number T] [--group T] [--product-form T] [--system EN|SS|ASME]\n"
         "       [--where CONDITION]...\n"
@@ -218,6 +289,8 @@ QString CommandLine::usage() {
         "  properties\n"
         "  compare GRADE... --at TEMPERATURE [--thickness MM]\n"
         "  sheet GRADE --from TEMPERATURE --to TEMPERATURE --step DEGREES [--property PROPERTY]...\n"
+        "  card GRADE --for calculix|mapdl --units si|mm [--poisson N] [--density N]\n"
+        "       [--yield Rp02|Rp10] [--thickness N]\n"
         "  export FOLDER\n"
         "\n"
         "CONDITION is such as \"Rp02 >= 150 at 300 thickness 40\", PROPERTY one that properties lists.\n"

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "data/grades.h"
+#include "exchange/material_card.h"
 #include "values/typed.h"
 
 /// What is wrong with the words of the call.
@@ -25,8 +26,9 @@ const Value &understood(const Typed<Value> &typed) {
 }
 
 struct CommandLine {
-    enum class Command { Help, Version, Find, Show, Values, Properties, Compare, Sheet, Export };
+    enum class Command { Help, Version, Find, Show, Values, Properties, Compare, Sheet, Card, Export };
     enum class Format { Table, Csv, Tsv, Json };
+    enum class Solver { Calculix, Mapdl };
 
     Command command = Command::Help;
     /// Empty to find it as the program does.
@@ -43,12 +45,16 @@ struct CommandLine {
     /// As they were written: what a property is, the database tells.
     QStringList conditions;
     QStringList properties;
-    /// In mm.
+    /// In mm; of a card it tells the band.
     std::optional<double> thickness;
     /// Of a sheet: in °C, as they were written.
     QString from;
     QString to;
     QString step;
+    /// Where the tables go instead of the standard output; empty without it.
+    QString xlsx;
+    std::optional<Solver> solver;
+    CardChoice card;
 
     /// `words` without the program's own name. Raises UsageError.
     static CommandLine parse(const QStringList &words);

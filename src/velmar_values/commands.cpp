@@ -6,7 +6,10 @@
 #include "data/GradeTables.h"
 #include "data/Material.h"
 #include "data/table_vocabulary.h"
+#include "exchange/calculix_card.h"
 #include "exchange/database_texts.h"
+#include "exchange/mapdl_card.h"
+#include "exchange/taken_table.h"
 #include "platform/runtime/runtime_error.h"
 #include "platform/runtime/whole_file.h"
 #include "velmar_values/grade_tables_text.h"
@@ -14,6 +17,7 @@
 
 using Commands::bytes;
 using Commands::gradeOf;
+using Commands::taken;
 
 namespace {
 
@@ -22,6 +26,8 @@ using Format = CommandLine::Format;
 QByteArray find(Database &database, const CommandLine &line) {
     const QVector<Grades::Grade> grades = Grades::find(database, line.criteria);
     if (grades.isEmpty()) throw NotFound("no grade found");
+    if (!line.xlsx.isEmpty())
+        return taken(database, line, {TakenTables::of(GradeTexts::sheet(grades), "Grades", {"id"})}, {});
     if (line.format != Format::Json) return bytes(GradeTexts::sheet(grades), line.format);
     QJsonArray list;
     for (const Grades::Grade &grade : grades)
@@ -39,6 +45,12 @@ QByteArray show(Database &database, const CommandLine &line) {
             keys << TableVocabulary::GetShortTableName(i);
     for (const QString &key : keys)
         shown.tables << tables.load(*material, key);
+    if (!line.xlsx.isEmpty()) {
+        QVector<TakenTable> sheets;
+        for (const LoadedTable &table : shown.tables)
+            sheets << TakenTables::of(table);
+        return taken(database, line, sheets, TakenTables::gradeFacts({shown.grade}));
+    }
     if (line.format == Format::Json) return bytes(QJsonArray{GradeTexts::json(shown)});
     if (line.format == Format::Table) return GradeTexts::text(shown).toUtf8();
     return bytes(GradeTexts::sheet(shown), line.format);
@@ -47,8 +59,10 @@ QByteArray show(Database &database, const CommandLine &line) {
 QByteArray values(Database &database, const CommandLine &line) {
     const NumberFlags flags = NumberFlags::fromSystem();
     QVector<ValuedGrade> valued;
+    QVector<Grades::Grade> grades;
     for (const QString &text : line.grades) {
         const Grades::Grade grade = gradeOf(database, text);
+        grades << grade;
         const auto material = Grades::material(database, grade.id);
         GradeTables tables(database);
         DesignValues design;
@@ -59,12 +73,38 @@ QByteArray values(Database &database, const CommandLine &line) {
             valued << ValuedGrade{grade, at, hasValues ? design.tables() : QVector<DesignTable>()};
         }
     }
+    if (!line.xlsx.isEmpty()) {
+        const QStringList values{"id", "at", "text", "value"};
+        const QVector<TakenFact> facts =
+            TakenTables::gradeFacts(grades) + QVector<TakenFact>{{"Temperature [°C]", line.temperatures}};
+        return taken(database, line, {TakenTables::of(GradeTexts::sheet(valued), "Design values", values)},
+                     facts);
+    }
     if (line.format == Format::Table) return GradeTexts::text(valued).toUtf8();
     if (line.format != Format::Json) return bytes(GradeTexts::sheet(valued), line.format);
     QJsonArray list;
     for (const ValuedGrade &each : valued)
         list << GradeTexts::json(each);
     return bytes(list);
+}
+
+int bandOf(const CardSource &source, const CommandLine &line) {
+    const QString &key = line.card.yieldKey;
+    const QStringList bands = source.bands(key);
+    if (bands.isEmpty()) return 0;
+    if (!line.thickness)
+        throw NotFound(key + " depends on the thickness; --thickness tells which of " + bands.join(", "));
+    const int band = source.bandOf(key, *line.thickness);
+    if (band == 0) throw NotFound("no thickness band of " + key + " holds it: " + bands.join(", "));
+    return band;
+}
+
+QByteArray card(Database &database, const CommandLine &line) {
+    const CardSource source = CardSource::read(database, gradeOf(database, line.grades.first()).id);
+    CardChoice choice = line.card;
+    choice.band = bandOf(source, line);
+    const MaterialCard made = MaterialCard::of(source, choice);
+    return (*line.solver == CommandLine::Solver::Calculix ? calculixCard(made) : mapdlCard(made)).toLatin1();
 }
 
 /// Either all of the texts are there, or an error has told which one is not.
@@ -88,6 +128,13 @@ QByteArray Commands::bytes(const Records::Sheet &sheet, Format format) {
                       : format == Format::Csv ? Records::Format::Csv
                                               : Records::Format::Tsv;
     return Records::written(sheet, kind).toUtf8();
+}
+
+QByteArray Commands::taken(const Database &database, const CommandLine &line,
+                           const QVector<TakenTable> &tables, const QVector<TakenFact> &facts) {
+    TakenTables::save({tables, facts + TakenTables::databaseFacts(database)}, line.xlsx,
+                      TakenTables::Format::Xlsx);
+    return {};
 }
 
 Grades::Grade Commands::gradeOf(Database &database, const QString &text) {
@@ -115,6 +162,8 @@ Answer Commands::run(Database &database, const CommandLine &line) {
         return show(database, line);
     case CommandLine::Command::Values:
         return values(database, line);
+    case CommandLine::Command::Card:
+        return card(database, line);
     default:
         return exportTexts(database, line);
     }

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 
 #include "exchange/records.h"
+#include "exchange/taken_table.h"
 #include "velmar_values/command_line.h"
 
 class Database;
@@ -36,5 +37,8 @@ Grades::Grade gradeOf(Database &database, const QString &text);
 
 QByteArray bytes(const QJsonArray &list);
 QByteArray bytes(const Records::Sheet &sheet, CommandLine::Format format);
+/// Into the workbook that the line names, and nothing to the standard output.
+QByteArray taken(const Database &database, const CommandLine &line, const QVector<TakenTable> &tables,
+                 const QVector<TakenFact> &facts);
 
 } // namespace Commands

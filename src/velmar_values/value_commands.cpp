@@ -12,6 +12,7 @@
 
 using Commands::bytes;
 using Commands::gradeOf;
+using Commands::taken;
 
 namespace {
 
@@ -93,6 +94,12 @@ Records::Sheet records(const ValueSheet &sheet) {
     return records;
 }
 
+QVector<TakenFact> atFacts(const CommandLine &line) {
+    QVector<TakenFact> facts{{"Temperature [°C]", line.temperatures}};
+    if (line.thickness) facts << TakenFact{"Thickness [mm]", {CStr(*line.thickness)}};
+    return facts;
+}
+
 /// The conditions and what was found by them.
 struct Search {
     ValueSearch values;
@@ -155,6 +162,7 @@ Answer ValueCommands::properties(Database &database, const CommandLine &line) {
         list << QJsonObject{
             {"property", property.name()}, {"heading", property.label}, {"unit", property.unit}};
     }
+    if (!line.xlsx.isEmpty()) return taken(database, line, {TakenTables::of(sheet, "Properties", {})}, {});
     return line.format == Format::Json ? bytes(list) : bytes(sheet, line.format);
 }
 
@@ -180,6 +188,9 @@ Answer ValueCommands::compare(Database &database, const CommandLine &line) {
         }
         rows << cells;
     }
+    if (!line.xlsx.isEmpty())
+        return taken(database, line, {TakenTables::of(sheet, "Comparison", sheet.headings.mid(3))},
+                     atFacts(line));
     return line.format == Format::Json ? bytes(columns, rows) : bytes(sheet, line.format);
 }
 
@@ -193,6 +204,12 @@ Answer ValueCommands::find(Database &database, const CommandLine &line) {
     search.result = search.values.find(search.query);
     const QString summary = search.values.summary(search.query, search.result);
     if (search.count() == 0) throw NotFound(summary);
+    if (!line.xlsx.isEmpty()) {
+        const Records::Sheet found = records(search, false);
+        return {taken(database, line, {TakenTables::of(found, "Grades", found.headings.mid(5))},
+                      {{"Conditions", line.conditions}, {"Found", {summary}}}),
+                summary};
+    }
     if (line.format != Format::Json)
         return {bytes(records(search, line.format != Format::Table), line.format), summary};
     QJsonArray list;
@@ -211,5 +228,10 @@ Answer ValueCommands::sheet(Database &database, const CommandLine &line) {
     if (columns.isEmpty()) throw NotFound("the grade has no such table");
     const ValueSheet sheet = ValueSheets::sheet(
         grade, columns, understood(ValueSheets::temperatures(line.from, line.to, line.step)));
+    if (!line.xlsx.isEmpty()) {
+        const Records::Sheet shown = records(sheet);
+        return taken(database, line, {TakenTables::of(shown, "Values over temperature", shown.headings)},
+                     TakenTables::gradeFacts({grade.grade()}));
+    }
     return line.format == Format::Json ? json(sheet) : bytes(records(sheet), line.format);
 }

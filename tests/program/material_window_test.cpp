@@ -244,6 +244,17 @@ TEST_F(MaterialWindow, AdditionalInformationTakesThePageAndGivesItBack) {
     EXPECT_FALSE(window.txtNotes->toPlainText().contains("General"));
 }
 
+TEST_F(MaterialWindow, OpenNotesLeaveTheNextTableItsPlace) {
+    frmMaterial2 &window = show(P265GH, "MechProp");
+    const int height = placeOf(window.tdbTable).height();
+    ASSERT_TRUE(window.TimerFlash->isActive());
+    QTest::mouseClick(window.cmdShowNotes, Qt::LeftButton);
+    ASSERT_LT(placeOf(window.tdbTable).height(), height);
+    window.ShowTable("ModElast");
+    EXPECT_EQ(placeOf(window.tdbTable).height(), height);
+    EXPECT_FALSE(window.TimerFlash->isActive()) << "a table without notes";
+}
+
 TEST_F(MaterialWindow, TheNotesButtonCallsForAttention) {
     frmMaterial2 &window = show(P265GH, "MechProp");
     EXPECT_EQ(placeOf(window.tdbTable).height(), 3735);

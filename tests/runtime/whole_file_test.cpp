@@ -1,6 +1,4 @@
 // Writing a file as a whole, and what is left where that fails.
-#include <csignal>
-
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -8,13 +6,13 @@
 #include <QStorageInfo>
 #include <QTemporaryDir>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
 #include "platform/runtime/text_file.h"
 #include "platform/runtime/whole_file.h"
 #include "tests/support/error_of.h"
+#include "tests/support/small_disk.h"
 
 namespace {
 
@@ -22,27 +20,6 @@ QByteArray contentOf(const QString &path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
-/// While it lives, no file can grow beyond so many bytes.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t size)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{size, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    SmallDisk(const SmallDisk &) = delete;
-    SmallDisk &operator=(const SmallDisk &) = delete;
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
 
 class WholeFile : public ::testing::TestWithParam<std::pair<const char *, int>> {};
 

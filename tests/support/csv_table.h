@@ -30,7 +30,7 @@ struct CsvTable {
         return table;
     }
 
-private:
+    /// The cells of each line.
     static QVector<QVector<QVariant>> split(const QString &text) {
         QVector<QVector<QVariant>> lines(1);
         QString cell;
@@ -63,6 +63,7 @@ private:
         return lines;
     }
 
+private:
     static FieldDefinition field(const QString &head) {
         static const QHash<QString, FieldType> types = {
             {"BOOLEAN", FieldType::Boolean}, {"BYTE", FieldType::Byte},     {"INT", FieldType::Integer},
