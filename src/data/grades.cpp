@@ -52,6 +52,11 @@ QVector<Grades::Grade> Grades::named(Database &database, const QString &text) {
     return grades;
 }
 
+Grades::Grade Grades::of(const Material &material) {
+    return {material.ID(),          material.Name(),  material.Number(),      material.Standard(),
+            material.Description(), material.Group(), material.RevisionDate()};
+}
+
 std::shared_ptr<Material> Grades::material(Database &database, qint16 id) {
     const auto materials = database.OpenRecordset(Queries::sqlSelectedMaterials({id}));
     const auto standards = database.OpenRecordset(Queries::sqlAllStandards());

@@ -42,6 +42,8 @@ QVector<Grade> find(Database &database, const Criteria &criteria);
 /// and the identity. Capitals do not count.
 QVector<Grade> named(Database &database, const QString &text);
 
+Grade of(const Material &material);
+
 /// Raises 3021 for an identity that no grade has, and for a grade whose standard is missing.
 std::shared_ptr<Material> material(Database &database, qint16 id);
 

@@ -42,13 +42,7 @@ int CardSource::bandOf(const QString &key, double thickness) const {
 CardSource CardSource::read(Database &database, qint16 id) {
     const auto material = Grades::material(database, id);
     CardSource source;
-    source.grade = {id,
-                    material->Name(),
-                    material->Number(),
-                    material->Standard(),
-                    material->Description(),
-                    material->Group(),
-                    material->RevisionDate()};
+    source.grade = Grades::of(*material);
     source.standardRevision = material->StandardRevisionDate().date();
     const QFileInfo file(database.Name());
     source.database = file.fileName();

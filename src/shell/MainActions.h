@@ -16,6 +16,7 @@ public:
     virtual void physical(int index) = 0;
     virtual void settings(int index) = 0;
     virtual void toolbarSettings(int index) = 0;
+    virtual void tools(int index) = 0;
     virtual void window(int index) = 0;
     virtual void help(int index) = 0;
 

@@ -72,6 +72,19 @@ void buildSettings(MainMenu &menu) {
     menu.mnuSettingsElem.add(menu.mnuSettings, SettingsEntry::BackColour, "C&hange Back Colour");
 }
 
+/// Its windows stand beside the main window, and their keys hold in these, too.
+void buildTools(MainMenu &menu) {
+    const auto add = [&menu](int index, const QString &caption, const QKeySequence &keys = {}) {
+        menu.mnuToolsElem.add(menu.mnuTools, index, caption, keys)
+            .setShortcutContext(Qt::ApplicationShortcut);
+    };
+    add(ToolsEntry::CompareGrades, "&Compare Grades", ctrl('E'));
+    add(ToolsEntry::FindByValue, "&Find by Value", ctrl('F'));
+    addSeparator(menu.mnuToolsElem, menu.mnuTools, 2);
+    add(ToolsEntry::ValuesOverTemperature, "&Values over Temperature");
+    add(ToolsEntry::MaterialCard, "&Material Card");
+}
+
 void buildWindowAndHelp(MainMenu &menu) {
     menu.mnuWindowElem.add(menu.mnuWindow, WindowEntry::Cascade, "&Cascade").setChecked(true);
     menu.mnuWindowElem.add(menu.mnuWindow, WindowEntry::TileHorizontal, "Tile &Horizontal");
@@ -94,6 +107,8 @@ MainMenu::MainMenu(MDIForm &window)
     , mnuSettings(addToBar(window, "mnuSettings", "&Settings"))
     , mnuSettingsElem("mnuSettingsElem")
     , mnuSettingsToolElem("mnuSettingsToolElem")
+    , mnuTools(addToBar(window, "mnuTools", "&Tools"))
+    , mnuToolsElem("mnuToolsElem")
     , mnuWindow(addToBar(window, "mnuWindow", "&Window"))
     , mnuWindowElem("mnuWindowElem")
     , mnuHelp(addToBar(window, "mnuHelp", "&Help"))
@@ -101,6 +116,7 @@ MainMenu::MainMenu(MDIForm &window)
     buildFile(*this);
     buildView(*this);
     buildSettings(*this);
+    buildTools(*this);
     buildWindowAndHelp(*this);
     window.setWindowList(mnuWindow);
 }

@@ -23,6 +23,9 @@ enum : int { Show, Hide, AlignTop, AlignBottom };
 namespace WindowEntry {
 enum : int { Cascade, TileHorizontal };
 }
+namespace ToolsEntry {
+enum : int { CompareGrades = 0, FindByValue = 1, ValuesOverTemperature = 3, MaterialCard = 4 };
+}
 namespace HelpEntry {
 enum : int { Contents = 0, Index = 1, Search = 2, About = 4 };
 }
@@ -40,6 +43,8 @@ struct MainMenu {
     MenuEntry *mnuSettings;
     MenuArray mnuSettingsElem;
     MenuArray mnuSettingsToolElem;
+    MenuEntry *mnuTools;
+    MenuArray mnuToolsElem;
     MenuEntry *mnuWindow;
     MenuArray mnuWindowElem;
     MenuEntry *mnuHelp;

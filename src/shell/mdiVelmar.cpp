@@ -112,6 +112,7 @@ void mdiVelmar::connectCommands() {
     entries(menu.mnuViewPhysElem, &MainActions::physical);
     entries(menu.mnuSettingsElem, &MainActions::settings);
     entries(menu.mnuSettingsToolElem, &MainActions::toolbarSettings);
+    entries(menu.mnuToolsElem, &MainActions::tools);
     entries(menu.mnuWindowElem, &MainActions::window);
     entries(menu.mnuHelpElem, &MainActions::help);
     connect(Toolbar1, &Toolbar::ButtonClick, this,

@@ -14,12 +14,19 @@ constexpr int CascadeStep = 300;
 constexpr int TileWidth = 11280;
 constexpr int SecondRow = 5050;
 
+/// It stands outside the main window.
+bool isBeside(FormBase &form) {
+    const auto *window = form.as<Form>();
+    return window != nullptr && window->isBeside();
+}
+
 /// A window that the user has maximised or minimised keeps its place. They are told before any of them takes
 /// the focus, and with it the maximised state of another.
 QList<Form *> takingPart(const QStringList &excluded) {
     QList<Form *> forms;
     for (FormBase &form : Forms())
-        if (!excluded.contains(form.Name()) && form.WindowState() == vbNormal) forms << form.as<Form>();
+        if (!excluded.contains(form.Name()) && form.WindowState() == vbNormal && !isBeside(form))
+            forms << form.as<Form>();
     return forms;
 }
 

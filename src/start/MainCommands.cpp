@@ -26,6 +26,7 @@
 #include "shell/mdiVelmar.h"
 #include "shell/modToolTips.h"
 #include "start/frmAbout.h"
+#include "workbench/Workbench.h"
 
 namespace {
 
@@ -57,7 +58,9 @@ bool isDropDown(const ToolbarButton &button) {
 }
 
 /// The windows that a View command speaks to.
-bool showsTables(const FormBase &form) {
+bool showsTables(FormBase &form) {
+    const auto *window = form.as<Form>();
+    if (window != nullptr && window->isBeside()) return false;
     return form.Name() != QLatin1String("mdiVelmar") && form.Name() != QLatin1String("frmSearch");
 }
 
@@ -276,6 +279,10 @@ void MainCommands::changeBackColour() {
             : QList<int>{m_window.cBlue, m_window.cGreen, m_window.cInfoBack, m_window.cWorkspace, vbWhite};
     const qsizetype at = cycle.indexOf(colour);
     if (at >= 0) m_window.setBackColor(cycle[(at + 1) % cycle.size()]);
+}
+
+void MainCommands::tools(int index) {
+    Workbench::show(index);
 }
 
 void MainCommands::window(int index) {

@@ -18,6 +18,7 @@ public:
     void physical(int index) override;
     void settings(int index) override;
     void toolbarSettings(int index) override;
+    void tools(int index) override;
     void window(int index) override;
     void help(int index) override;
 

@@ -2,7 +2,6 @@
 // tells it. Whoever changes a window on purpose takes over what the failing test prints.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QtWidgets/QtWidgets>
 
 #include "data/queries.h"
@@ -17,6 +16,7 @@
 #include "search/modDBase_picks.h"
 #include "shell/mdiVelmar.h"
 #include "start/frmAbout.h"
+#include "tests/program/contents.h"
 #include "tests/support/gui.h"
 #include "tests/support/program_fixture.h"
 
@@ -83,28 +83,10 @@ QString outsideTheirPlace(const QWidget &window) {
     return outside;
 }
 
-/// The lines of the one that the other does not have.
-QString missing(const QString &lines, const QString &other) {
-    const QStringList known = other.split('\n');
-    QStringList left = lines.split('\n');
-    left.removeIf([&known](const QString &line) { return known.contains(line); });
-    return left.join('\n');
-}
-
 void expectContents(const QWidget &window, const QString &name) {
-    QFile file(QStringLiteral(SOURCE_FOLDER "/tests/program/contents/") + name);
     QString lines;
     list(window, {}, lines);
-    if (qEnvironmentVariableIsSet("RENEW_CONTENTS")) {
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-        file.write(lines.toUtf8());
-        return;
-    }
-    ASSERT_TRUE(file.open(QFile::ReadOnly)) << file.fileName().toStdString();
-    const QString expected = QString::fromUtf8(file.readAll());
-    EXPECT_TRUE(lines == expected) << name.toStdString() << "\nhas not\n"
-                                   << missing(expected, lines).toStdString() << "\nbut\n"
-                                   << missing(lines, expected).toStdString();
+    Contents::expect(lines, name);
     EXPECT_EQ(outsideTheirPlace(window).toStdString(), "");
 }
 

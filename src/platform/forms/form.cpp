@@ -99,6 +99,10 @@ void Form::setCancelButton(QAbstractButton *button) {
 void Form::showFrame() {
     if (isMdiChild() && MDIForm::current() != nullptr && !MDIForm::current()->Visible())
         MDIForm::current()->Show(); // a child cannot show without it
+    if (isBeside() && MDIForm::current() != nullptr) {
+        create();
+        windowHandle()->setTransientParent(MDIForm::current()->windowHandle());
+    }
     frame()->show();
 }
 

@@ -13,7 +13,8 @@ class Form : public QWidget, public FormBase {
     Q_OBJECT
 
 public:
-    enum class Kind { Window, MdiChild };
+    /// Beside: a window of its own above the main window, for as long as the user wants it.
+    enum class Kind { Window, MdiChild, Beside };
 
     /// A child needs a main window: without one it raises 366.
     explicit Form(const QString &name, Kind kind = Kind::Window);
@@ -25,6 +26,7 @@ public:
     using QWidget::setWindowState;
 
     bool isMdiChild() const { return m_kind == Kind::MdiChild; }
+    bool isBeside() const { return m_kind == Kind::Beside; }
 
     /// Shows a form of its own above `owner` (without one, above the form in front) and returns when it is
     /// hidden or unloaded; the other forms are disabled meanwhile. It is moved and made smaller where it

@@ -120,6 +120,7 @@ QColor GridDelegate::background(const QModelIndex &index, const QPalette &palett
         const QColor own = (odd ? m_look.oddRow : m_look.evenRow).BackColor;
         if (own.isValid()) colour = own;
     }
+    if (const QVariant own = index.data(Qt::BackgroundRole); own.isValid()) colour = own.value<QColor>();
     if (m_look.marquee == MarqueeStyle::Row && m_view->currentIndex().row() == index.row())
         colour = mixed(colour, palette.color(QPalette::Highlight), CurrentRowShare);
     return colour;

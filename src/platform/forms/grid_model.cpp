@@ -2,7 +2,11 @@
 
 #include <algorithm>
 
+#include <QApplication>
+#include <QFont>
+
 #include "platform/dao/recordset.h"
+#include "platform/forms/grid_cells.h"
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/x_array_db.h"
 
@@ -22,6 +26,7 @@ GridModel::~GridModel() = default;
 void GridModel::showRecordset(std::shared_ptr<Recordset> recordset) {
     beginResetModel();
     m_array = nullptr;
+    m_cells = nullptr;
     m_recordset = std::move(recordset);
     m_rows = m_recordset ? m_recordset->RecordCount() : 0;
     findFields();
@@ -31,11 +36,25 @@ void GridModel::showRecordset(std::shared_ptr<Recordset> recordset) {
 void GridModel::showArray(std::shared_ptr<XArrayDB> array) {
     beginResetModel();
     m_recordset = nullptr;
+    m_cells = nullptr;
     m_array = std::move(array);
     m_rows = m_array ? m_array->Count(1) : 0;
     m_firstArrayRow = m_array ? m_array->LowerBound(1) : 0;
     m_firstArrayColumn = m_array ? m_array->LowerBound(2) : 0;
     endResetModel();
+}
+
+void GridModel::showCells(std::shared_ptr<const GridCells> cells) {
+    beginResetModel();
+    m_recordset = nullptr;
+    m_array = nullptr;
+    m_cells = std::move(cells);
+    m_rows = m_cells ? m_cells->rows : 0;
+    endResetModel();
+}
+
+bool GridModel::rowsGrow() const {
+    return m_array != nullptr || (m_cells && m_cells->rowsGrow);
 }
 
 bool GridModel::shows(const XArrayDB &array) const {
@@ -89,8 +108,21 @@ QVariant GridModel::data(const QModelIndex &index, int role) const {
     case Qt::TextAlignmentRole:
         return int(column(index.column()).Alignment() | Qt::AlignVCenter);
     default:
-        return {};
+        return m_cells && m_cells->mark ? marked(index, role) : QVariant();
     }
+}
+
+QVariant GridModel::marked(const QModelIndex &index, int role) const {
+    if (role != Qt::FontRole && role != Qt::BackgroundRole && role != Qt::ToolTipRole &&
+        role != Qt::AccessibleDescriptionRole)
+        return {};
+    const GridCellMark mark = m_cells->mark(index.row(), index.column());
+    if (role == Qt::BackgroundRole) return mark.BackColor.isValid() ? mark.BackColor : QVariant();
+    if (role != Qt::FontRole) return mark.tip;
+    if (!mark.bold) return {};
+    QFont font = QApplication::font();
+    font.setBold(true);
+    return font;
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -113,6 +145,7 @@ QVariant GridModel::value(int row, int column) const {
         const int field = m_fields[static_cast<std::size_t>(column)];
         return field < 0 ? QVariant() : m_recordset->value(row, field);
     }
+    if (m_cells) return m_cells->text(row, column);
     if (!m_array) return {};
     // Its owner may have made the array smaller since it was shown.
     const int arrayRow = m_firstArrayRow + row;

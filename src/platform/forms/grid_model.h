@@ -8,6 +8,7 @@
 
 #include "platform/forms/grid_column.h"
 
+struct GridCells;
 class Recordset;
 class XArrayDB;
 
@@ -24,7 +25,9 @@ public:
     /// Null shows no rows.
     void showRecordset(std::shared_ptr<Recordset> recordset);
     void showArray(std::shared_ptr<XArrayDB> array);
-    bool showsArray() const { return m_array != nullptr; }
+    void showCells(std::shared_ptr<const GridCells> cells);
+    /// Rows are as tall as their text.
+    bool rowsGrow() const;
     /// The array on show, with the bounds that it had when it was shown.
     bool shows(const XArrayDB &array) const;
 
@@ -47,12 +50,14 @@ Q_SIGNALS:
 private:
     void onColumnChanged(const GridColumn &column);
     QVariant value(int row, int column) const;
+    QVariant marked(const QModelIndex &index, int role) const;
     void findFields();
 
     std::vector<std::unique_ptr<GridColumn>> m_columns;
     std::vector<int> m_fields; // of each column its field's position in the recordset, or -1
     std::shared_ptr<Recordset> m_recordset;
     std::shared_ptr<XArrayDB> m_array;
+    std::shared_ptr<const GridCells> m_cells;
     int m_rows = 0;
     int m_firstArrayRow = 0;
     int m_firstArrayColumn = 0;

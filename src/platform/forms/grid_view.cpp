@@ -68,7 +68,7 @@ int GridView::firstVisibleColumn() const {
 }
 
 void GridView::columnsChanged() {
-    m_rowsGrow = m_model.showsArray() || anyColumnWraps();
+    m_rowsGrow = m_model.rowsGrow() || anyColumnWraps();
     m_heightsStale = true;
     scheduleDelayedItemsLayout();
 }

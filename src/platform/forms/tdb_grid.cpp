@@ -12,6 +12,7 @@
 #include "platform/dao/recordset.h"
 #include "platform/forms/data_control.h"
 #include "platform/forms/drop_target.h"
+#include "platform/forms/grid_cells.h"
 #include "platform/forms/grid_delegate.h"
 #include "platform/forms/grid_footer.h"
 #include "platform/forms/grid_header.h"
@@ -82,6 +83,12 @@ DataControl *TDBGrid::DataSource() const {
 void TDBGrid::setArray(std::shared_ptr<XArrayDB> array) {
     setDataSource(nullptr);
     m_array = std::move(array);
+}
+
+void TDBGrid::setCells(std::shared_ptr<const GridCells> cells) {
+    setDataSource(nullptr);
+    m_array = nullptr;
+    showRows(cells && cells->rows == RowCount(), [&] { m_model->showCells(std::move(cells)); });
 }
 
 void TDBGrid::Rebind() {
@@ -277,13 +284,16 @@ void TDBGrid::showRecordset() {
 }
 
 void TDBGrid::showArray() {
+    showRows(m_array && m_model->shows(*m_array), [this] { m_model->showArray(m_array); });
+}
+
+/// New values in the same rows leave the user where he was.
+void TDBGrid::showRows(bool sameRows, const std::function<void()> &show) {
     const QScopedValueRollback<bool> layingOut(m_layingOut, true);
-    // New values in the same rows leave the user where he was.
-    const bool sameRows = m_array && m_model->shows(*m_array);
     const int left = m_view->horizontalScrollBar()->value();
     const int top = sameRows ? m_view->verticalScrollBar()->value() : 0;
     const int row = sameRows ? qMax(Row(), 0) : 0;
-    m_model->showArray(m_array);
+    show();
     applyColumns(0, ColumnCount() - 1);
     if (RowCount() > 0) selectRow(row);
     m_view->horizontalScrollBar()->setValue(left);
@@ -314,8 +324,10 @@ void TDBGrid::selectRow(int row) {
 
 bool TDBGrid::showCellTip(QWidget &place, const QHelpEvent &event) {
     const QString whole = wholeTextAt(place, event.pos());
-    QString tip;
-    if (m_cellTips != 0 && m_fetchCellTip) {
+    QString tip = markedTip(place, event.pos());
+    if (!tip.isEmpty()) {
+        // of the cell alone
+    } else if (m_cellTips != 0 && m_fetchCellTip) {
         const std::optional<QString> fetched = fetchedTip(place, event.pos().x());
         tip = fetched.value_or(QString());
         if (whole.isEmpty() && fetched && tip.isEmpty()) return false;
@@ -340,6 +352,10 @@ std::optional<QString> TDBGrid::fetchedTip(const QWidget &place, int x) const {
     if (&place == m_header->viewport()) return m_fetchCellTip(GridArea::Header, m_header->logicalIndexAt(x));
     if (&place == m_footer) return m_fetchCellTip(GridArea::Footer, m_footer->columnAt(x));
     return m_fetchCellTip(GridArea::Cell, m_view->columnAt(x));
+}
+
+QString TDBGrid::markedTip(const QWidget &place, const QPoint &at) const {
+    return &place == m_view->viewport() ? m_view->indexAt(at).data(Qt::ToolTipRole).toString() : QString();
 }
 
 /// Empty where the text can be read in its place.

@@ -11,6 +11,7 @@
 #include "platform/forms/grid_column.h"
 #include "platform/forms/grid_look.h"
 
+struct GridCells;
 class DataControl;
 class GridDelegate;
 class GridFooter;
@@ -43,6 +44,9 @@ public:
     /// Shown from the next Rebind() or Refresh() on. Grid column c shows the array's c-th column, whatever
     /// its lower bound.
     void setArray(std::shared_ptr<XArrayDB> array);
+
+    /// Shown at once. The current row stays where `cells` has as many rows.
+    void setCells(std::shared_ptr<const GridCells> cells);
 
     /// Reads bounds and values anew. The columns keep their layout.
     void Rebind();
@@ -122,12 +126,14 @@ private:
     void userResized(int column, int pixels);
     void showRecordset();
     void showArray();
+    void showRows(bool sameRows, const std::function<void()> &show);
     void followRecordset();
     void moveRecordset(const QModelIndex &current);
     void selectRow(int row);
     bool showCellTip(QWidget &place, const QHelpEvent &event);
     std::optional<QString> fetchedTip(const QWidget &place, int x) const;
     QRect partAt(const QWidget &place, const QPoint &at) const;
+    QString markedTip(const QWidget &place, const QPoint &at) const;
     QString wholeTextAt(const QWidget &place, const QPoint &at) const;
     void updateScrollBar();
 

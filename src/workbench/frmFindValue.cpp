@@ -1,0 +1,4 @@
+#include "workbench/frmFindValue.h"
+
+frmFindValue::frmFindValue()
+    : WorkbenchWindow("frmFindValue", "Find by Value", "Find_By_Value.htm") {}

@@ -1,0 +1,4 @@
+#include "workbench/frmValueSheet.h"
+
+frmValueSheet::frmValueSheet()
+    : WorkbenchWindow("frmValueSheet", "Values over Temperature", "Value_Sheet.htm") {}

@@ -1,0 +1,34 @@
+// What stands on the pages of the reports, in reading order, as tests/program/contents tells it.
+#include <QRegularExpression>
+
+#include "reports/actRepMain.h"
+#include "tests/program/contents.h"
+#include "tests/program/reports_fixture.h"
+
+namespace {
+
+QString contentsOf(const Printing::Document &document) {
+    static const QRegularExpression now("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d$");
+    QString lines;
+    int number = 0;
+    for (const Printing::Page &page : document.pages) {
+        lines += QStringLiteral("page %1\n").arg(++number);
+        for (const Printing::Element &element : page.elements) {
+            QString text = element.text;
+            text.replace(now, "(now)");
+            if (!element.pictureSize.isEmpty()) text += "(picture) " + element.alternativeText;
+            if (!text.isEmpty()) lines += "  " + text.replace("\r\n", "\\n").replace('\n', "\\n") + '\n';
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+TEST_F(Reports, OfAGradeHaveTheseContents) {
+    open(SampleGrades::P265GH);
+    tickAll();
+    actRepMain report;
+    report.Run();
+    Contents::expect(contentsOf(report.document()), "report of a grade");
+}
