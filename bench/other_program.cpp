@@ -8,8 +8,6 @@
 
 namespace Bench {
 
-namespace {
-
 void runToEnd(const QString &program, const QStringList &arguments) {
     QProcess process;
     process.setStandardOutputFile(QProcess::nullDevice());
@@ -21,8 +19,6 @@ void runToEnd(const QString &program, const QStringList &arguments) {
     std::fprintf(stderr, "%s does not run: %s\n", qPrintable(program), qPrintable(process.errorString()));
     std::exit(1);
 }
-
-} // namespace
 
 bool othersRead(const QString &database) {
     QFile file(database);

@@ -3,9 +3,14 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryFile>
 
 namespace Bench {
+
+/// Any program from its start to its end, its output thrown away. Ends this program with a message where it
+/// fails.
+void runToEnd(const QString &program, const QStringList &arguments);
 
 /// Whether they can be asked about this file at all.
 bool othersRead(const QString &database);

@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QThread>
 
+#include "bench/other_program.h"
 #include "bench/process_info.h"
 #include "bench/program.h"
 #include "bench/rows.h"
@@ -91,6 +92,22 @@ struct IdleProgram {
     double resident = 0;
 };
 
+/// The program without windows, from its start to the last design value of the richest grade.
+void valuesStart(benchmark::State &state, const QString &database) {
+    const int grade = richestGrades(database, 1).first();
+    const QStringList call{"--database", database, "values", QStringLiteral("#%1").arg(grade), "--at", "310"};
+    Samples ours;
+    Samples other;
+    for ([[maybe_unused]] auto _ : state) {
+        state.SetIterationTime(
+            ours.take([&] { runToEnd(QCoreApplication::applicationDirPath() + "/velmar-values", call); }));
+        if (!othersRead(database)) continue;
+        const OtherSelect select(database, QStringLiteral("select * from Rp02 where matID = %1").arg(grade));
+        other.take([&] { select.run(); });
+    }
+    ours.report(state, {60, 1}, other);
+}
+
 void programTime(benchmark::State &state, const QString &database) {
     Samples samples;
     for ([[maybe_unused]] auto _ : state) {
@@ -122,6 +139,10 @@ void addProcessRows(const QString &database, const QString &sample) {
         [sample](benchmark::State &state) { start(state, sample); });
     add("process start to painted search window", Starts,
         [database](benchmark::State &state) { start(state, database); });
+    add("sample: velmar-values, process start to the last design value", Starts,
+        [sample](benchmark::State &state) { valuesStart(state, sample); });
+    add("velmar-values, process start to the last design value", Starts,
+        [database](benchmark::State &state) { valuesStart(state, database); });
     add("sample: the program itself until idle, processor time", MemoryRuns,
         [sample](benchmark::State &state) { programTime(state, sample); });
     add("sample: the program itself, idle at its list, memory", 1,

@@ -236,6 +236,7 @@ TEST_F(Dialect, Errors) {
         {"select id from", "3131: Syntax error in FROM clause."},
         {"select id from part, part", "3131: Syntax error in FROM clause."},
         {"select id from part order by", "3138: Syntax error in ORDER BY clause."},
+        {"select label from part group by", "3132: Syntax error in GROUP BY clause."},
         {"select from part", "3141: The SELECT statement includes a reserved word or an argument name that "
                              "is misspelled or missing, or "
                              "the punctuation is incorrect."},
