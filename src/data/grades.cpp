@@ -26,6 +26,23 @@ bool isSame(const QString &left, const QString &right) {
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
+/// None where the text is no number of 16 bits.
+QVector<int> identity(const QString &text) {
+    bool isNumber = false;
+    const short id = text.toShort(&isNumber);
+    return isNumber && text == QString::number(id) ? QVector<int>{id} : QVector<int>();
+}
+
+/// Of the grades with this name or number. Compared here and not in a statement, since a name may hold what
+/// would end a text there; and without a list of all grades, which takes longest of all.
+QVector<int> idsOf(Database &database, const QString &text) {
+    QVector<int> ids;
+    database.ReadRows("materials", {"matID", "name", "numbr"}, [&](const QVector<QVariant> &cells) {
+        if (isSame(cellText(cells[1]), text) || isSame(cellText(cells[2]), text)) ids << CInt(cells[0]);
+    });
+    return ids;
+}
+
 } // namespace
 
 QVector<Grades::Grade> Grades::find(Database &database, const Criteria &criteria) {
@@ -42,13 +59,11 @@ QVector<Grades::Grade> Grades::named(Database &database, const QString &text) {
     const QString wanted = text.section(QLatin1Char('@'), 0, 0).trimmed();
     const QString standard = text.section(QLatin1Char('@'), 1).trimmed();
     const bool byIdentity = wanted.startsWith(QLatin1Char('#'));
-    // Compared here and not in a statement: a name may hold what would end a text there.
-    QVector<Grade> grades = find(database, {});
-    grades.removeIf([&](const Grade &grade) {
-        const bool fits = byIdentity ? wanted.mid(1) == QString::number(grade.id)
-                                     : isSame(grade.name, wanted) || isSame(grade.number, wanted);
-        return !fits || (!standard.isEmpty() && !isSame(grade.standard, standard));
-    });
+    const QVector<int> ids = byIdentity ? identity(wanted.mid(1)) : idsOf(database, wanted);
+    if (ids.isEmpty()) return {};
+    QVector<Grade> grades = gradesOf(*database.OpenRecordset(Queries::sqlSelectedMaterials(ids)));
+    grades.removeIf(
+        [&](const Grade &grade) { return !standard.isEmpty() && !isSame(grade.standard, standard); });
     return grades;
 }
 

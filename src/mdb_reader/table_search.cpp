@@ -64,6 +64,7 @@ TableSearch::TableSearch(const AccessFile &file, const Table &table)
 void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
     m_writer.restart();
     m_lastKey.clear();
+    m_lastInteger.reset();
     PageGroups &groups = groupsBy(conditions);
     KeyHash key;
     bool known = true;
@@ -124,6 +125,7 @@ void TableSearch::add(Groups &groups, int group) {
 
 TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
     if (conditions.empty()) return {true, AnyGroup};
+    if (conditions.size() == 1 && !conditions.front().isText) return matchInteger(row, conditions.front());
     m_cells.clear();
     m_key.clear();
     for (const Condition &condition : conditions) {
@@ -139,6 +141,21 @@ TableSearch::Match TableSearch::match(const Row &row, const std::vector<Conditio
     if (m_key != m_lastKey) {
         m_lastMatch = compare(m_cells, conditions);
         m_lastKey.swap(m_key);
+    }
+    return m_lastMatch;
+}
+
+/// The usual key, and the same as below: of many rows nothing else is read.
+TableSearch::Match TableSearch::matchInteger(const Row &row, const Condition &condition) {
+    const Column &column = m_table.columns[condition.column];
+    const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
+    if (!cell.data) return {false, NoGroup};
+    const std::int32_t value = integerOf(column, cell);
+    if (value != m_lastInteger) {
+        KeyHash key;
+        key.add(static_cast<std::uint32_t>(value));
+        m_lastInteger = value;
+        m_lastMatch = {value == condition.integer, key.group()};
     }
     return m_lastMatch;
 }

@@ -3,6 +3,7 @@
 
 #include <bitset>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -54,6 +55,7 @@ private:
     Groups searchPage(std::uint32_t page, const std::vector<Condition> &conditions, Reply &reply);
     static void add(Groups &groups, int group);
     Match match(const Row &row, const std::vector<Condition> &conditions);
+    Match matchInteger(const Row &row, const Condition &condition);
     Match compare(const std::vector<CellBytes> &cells, const std::vector<Condition> &conditions);
 
     const Table &m_table;
@@ -65,6 +67,7 @@ private:
     std::vector<CellBytes> m_cells;
     std::vector<std::uint8_t> m_key; // the stored bytes of the cells that are compared
     std::vector<std::uint8_t> m_lastKey;
+    std::optional<std::int32_t> m_lastInteger;
     Match m_lastMatch;
     std::u16string m_text;
 };
