@@ -24,10 +24,6 @@ Row::Row(const std::uint8_t *data, std::size_t size, const Table &table, bool je
     m_jumps = jumps > 0 && (m_mask - behindCells) / 256 < jumps ? jumps - 1 : jumps;
 }
 
-bool Row::bit(const Column &column) const {
-    return column.number < m_columns && (m_data[m_mask + column.number / 8] >> column.number % 8 & 1) != 0;
-}
-
 CellBytes Row::cell(const Column &column) const {
     std::size_t begin = 0;
     std::size_t end = 0;

@@ -24,7 +24,10 @@ public:
     Row(const std::uint8_t *data, std::size_t size, const Table &table, bool jet3);
 
     /// The bit that says "not Null", and for a Boolean is the value. Clear for a column younger than the row.
-    bool bit(const Column &column) const;
+    bool bit(const Column &column) const {
+        return column.number < m_columns &&
+               (m_data[m_mask + column.number / 8] >> column.number % 8 & 1) != 0;
+    }
     /// For a column whose bit is set. Raises Damaged where the cell does not lie within the row. A null
     /// `data` where the row is older than the column.
     CellBytes cell(const Column &column) const;

@@ -23,18 +23,11 @@ TableScan::TableScan(const AccessFile &file, const Table &table)
     , m_movedRows(file.pages())
     , m_owned(file.pagesOf(table)) {}
 
-void TableScan::visit(std::uint32_t number, const std::function<void(const Row &row)> &visitor) {
-    const DataPage page(m_pages.at(number), m_pages.pageSize(), m_jet3);
-    if (!page.belongsTo(m_table.definitionPage)) {
-        // A map can list a page that has gone to another use. Any other page has lost this table's rows.
-        if (!hasOtherUse(page)) throw Damaged("page that is nobody's");
-        return;
-    }
-    for (std::size_t i = 0; i < page.slots(); ++i) {
-        const Slot slot = page.slot(i);
-        if (slot.hidden || slot.size == 0) continue;
-        visitor(slot.moved ? follow(newPlace(slot)) : Row(slot.data, slot.size, m_table, m_jet3));
-    }
+bool TableScan::isOurs(const DataPage &page) {
+    if (page.belongsTo(m_table.definitionPage)) return true;
+    // A map can list a page that has gone to another use. Any other page has lost this table's rows.
+    if (!hasOtherUse(page)) throw Damaged("page that is nobody's");
+    return false;
 }
 
 bool TableScan::hasOtherUse(const DataPage &page) {
@@ -42,7 +35,8 @@ bool TableScan::hasOtherUse(const DataPage &page) {
     return page.owner() == DataPage::LongValues || m_movedRows.at(page.owner())[0] == DefinitionKind;
 }
 
-Row TableScan::follow(std::uint32_t place) {
+Row TableScan::follow(const Slot &moved) {
+    std::uint32_t place = newPlace(moved);
     for (int moves = 0; moves < MostMoves; ++moves) {
         const DataPage page(m_movedRows.at(place >> 8), m_movedRows.pageSize(), m_jet3);
         if (!page.belongsTo(m_table.definitionPage)) throw Damaged("row moved out of its table");

@@ -1,7 +1,7 @@
 // Grades beside each other: a row a property, a column a grade.
 #pragma once
 
-#include "values/GradeValues.h"
+#include "values/grade_values.h"
 
 struct ComparisonRow {
     Property property;

@@ -1,7 +1,7 @@
 // The values of one grade over temperature, in even steps.
 #pragma once
 
-#include "values/GradeValues.h"
+#include "values/grade_values.h"
 
 struct SheetRow {
     /// In °C, as GradeValues::at takes it.

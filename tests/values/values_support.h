@@ -8,7 +8,7 @@
 #include "platform/dao/db_engine.h"
 #include "tests/support/pinned_settings.h"
 #include "tests/support/small_database.h"
-#include "values/GradeValues.h"
+#include "values/grade_values.h"
 #include "values/value_search.h"
 
 class ValuesDatabase {

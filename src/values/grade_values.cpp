@@ -1,4 +1,4 @@
-#include "values/GradeValues.h"
+#include "values/grade_values.h"
 
 #include <limits>
 
