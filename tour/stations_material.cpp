@@ -7,7 +7,7 @@
 #include "platform/forms/form.h"
 #include "shell/mdiVelmar.h"
 #include "tests/support/given_rows.h"
-#include "tests/tour/tour.h"
+#include "tour/tour.h"
 
 namespace {
 

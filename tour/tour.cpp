@@ -1,4 +1,4 @@
-#include "tests/tour/tour.h"
+#include "tour/tour.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -6,7 +6,7 @@
 #include "platform/forms/default_instance.h"
 #include "platform/forms/form.h"
 #include "start/frmSplash.h"
-#include "tests/tour/tour.h"
+#include "tour/tour.h"
 
 void startProgram(Tour &tour) {
     auto &splash = DefaultInstance<frmSplash>();

@@ -12,8 +12,8 @@
 #include "platform/forms/screen.h"
 #include "platform/runtime/regional_settings.h"
 #include "start/program_start.h"
-#include "tests/tour/dark_theme.h"
-#include "tests/tour/tour.h"
+#include "tour/dark_theme.h"
+#include "tour/tour.h"
 
 int main(int argc, char **argv) {
     const bool dark = argc == 3 && std::strcmp(argv[2], "--dark") == 0;

@@ -1,4 +1,4 @@
-#include "tests/tour/dark_theme.h"
+#include "tour/dark_theme.h"
 
 #include <QApplication>
 #include <QPalette>

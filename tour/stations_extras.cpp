@@ -18,7 +18,7 @@
 #include "platform/forms/screen.h"
 #include "shell/HTMLHelp.h"
 #include "start/frmSplash.h"
-#include "tests/tour/tour.h"
+#include "tour/tour.h"
 
 namespace {
 

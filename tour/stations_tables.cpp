@@ -9,7 +9,7 @@
 
 #include "platform/forms/form.h"
 #include "platform/forms/tdb_grid.h"
-#include "tests/tour/tour.h"
+#include "tour/tour.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "platform/forms/form.h"
 #include "platform/forms/msg_box.h"
-#include "tests/tour/tour.h"
+#include "tour/tour.h"
 
 namespace {
 
