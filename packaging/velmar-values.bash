@@ -21,7 +21,7 @@ _velmar_values() {
     show) words+=" Ref ChemComp MechProp ImpEnergy Rp02 Rp10 Rm ModElast ThermExp ThermCond SpecThermCap
         SpecElecRes CreepProp AddInfo" ;;
     values) words+=" --at" ;;
-    compare) words+=" --at --thickness" ;;
+    compare) words+=" --at --thickness --composition" ;;
     sheet) words+=" --from --to --step --property" ;;
     card) words+=" --for --units --poisson --density --yield --thickness" ;;
     export) mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;

@@ -15,30 +15,17 @@ namespace {
 
 using Row = QVector<XlsxCell>;
 
-QString bareUnit(const QString &unit) {
-    const bool inBrackets = unit.startsWith(QLatin1Char('[')) && unit.endsWith(QLatin1Char(']'));
-    return inBrackets ? unit.mid(1).chopped(1) : unit;
-}
-
 /// Some headings are the unit alone, because a formula stands for them on the screen.
 TakenColumn columnOf(const TableColumn &column, const LoadedTable &table) {
     QString heading = column.heading.simplified();
     if (!column.unit.isEmpty()) heading = heading.remove(column.unit.simplified()).simplified();
     if (heading.isEmpty() && !column.unit.isEmpty()) heading = table.caption;
-    return {heading, bareUnit(column.unit.simplified()), table.key == QLatin1String("Ref")};
+    return {heading, TakenTables::bareUnit(column.unit.simplified()), table.key == QLatin1String("Ref")};
 }
 
 QString oneLine(const TakenColumn &column) {
     if (column.unit.isEmpty()) return column.heading;
     return (column.heading + QStringLiteral(" [") + column.unit + QLatin1Char(']')).trimmed();
-}
-
-Records::Sheet sheetOf(const TakenTable &table) {
-    Records::Sheet sheet;
-    for (const TakenColumn &column : table.columns)
-        sheet.headings << oneLine(column);
-    sheet.rows = table.rows;
-    return sheet;
 }
 
 /// A worksheet's lines end with LF alone.
@@ -141,12 +128,25 @@ QVector<TakenFact> TakenTables::databaseFacts(const Database &database) {
             {QStringLiteral("Date of the database"), {RegionalSettings::current().dateText(date)}}};
 }
 
+QString TakenTables::bareUnit(const QString &unit) {
+    const bool inBrackets = unit.startsWith(QLatin1Char('[')) && unit.endsWith(QLatin1Char(']'));
+    return inBrackets ? unit.mid(1).chopped(1) : unit;
+}
+
+Records::Sheet TakenTables::records(const TakenTable &table) {
+    Records::Sheet sheet;
+    for (const TakenColumn &column : table.columns)
+        sheet.headings << oneLine(column);
+    sheet.rows = table.rows;
+    return sheet;
+}
+
 QByteArray TakenTables::csv(const TakenTable &table) {
-    return Records::written(sheetOf(table), Records::Format::Csv, QStringLiteral("\r\n")).toUtf8();
+    return Records::written(records(table), Records::Format::Csv, QStringLiteral("\r\n")).toUtf8();
 }
 
 QByteArray TakenTables::tsv(const TakenTable &table) {
-    return Records::written(sheetOf(table), Records::Format::Tsv).toUtf8();
+    return Records::written(records(table), Records::Format::Tsv).toUtf8();
 }
 
 QByteArray TakenTables::xlsx(const TakenBook &book) {

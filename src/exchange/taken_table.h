@@ -57,6 +57,11 @@ QVector<TakenFact> gradeFacts(const QVector<Grades::Grade> &grades);
 /// The database's file and the date of that file.
 QVector<TakenFact> databaseFacts(const Database &database);
 
+/// Without the brackets that some units stand in.
+QString bareUnit(const QString &unit);
+/// Headings with their units in square brackets, and the rows.
+Records::Sheet records(const TakenTable &table);
+
 /// A line of headings with their units in square brackets, then the rows; lines end with CR LF, as RFC 4180
 /// has it. Texts are UTF-8.
 QByteArray csv(const TakenTable &table);

@@ -23,8 +23,12 @@ ComparisonChart ComparisonChart::of(const ComparedGrades &grades, const Property
     int rows = 0;
     for (int i = 0; i < grades.size(); ++i) {
         const QVector<ValueColumn> found = grades[i]->columns(property, thickness);
-        if (found.isEmpty()) continue;
         const Grades::Grade &grade = grades[i]->grade();
+        if (found.isEmpty()) {
+            chart.missing << grade.name + " " + grade.standard + ": " +
+                                 grades[i]->missing(property, thickness);
+            continue;
+        }
         const QString &band = found.first().band;
         columns << found.first();
         chart.grades << i;

@@ -12,6 +12,8 @@ struct ComparisonChart {
     QStringList legends;
     /// Which of the grades a curve is of.
     QVector<int> grades;
+    /// A sentence for each grade without a curve.
+    QStringList missing;
 
     /// A grade that does not have the property, or no band of the thickness, has no curve; without a
     /// thickness the first band is drawn.

@@ -27,12 +27,17 @@ QVector<CompositionRow> compareCompositions(const QVector<GradeComposition> &gra
     elements.removeDuplicates();
     QVector<CompositionRow> rows;
     for (const QString &element : elements) {
-        CompositionRow row{element, {}, {}};
-        for (const GradeComposition &grade : grades) {
+        CompositionRow row{element, {}};
+        for (const GradeComposition &grade : grades)
             row.cells << grade.of(element);
-            row.differs << !(row.cells.last() == row.cells.first());
-        }
         rows << row;
     }
+    CompositionRow others{QStringLiteral("Other elements"), {}, true};
+    bool any = false;
+    for (const GradeComposition &grade : grades) {
+        others.cells << ElementLimits{{}, grade.others};
+        any = any || !grade.others.isEmpty();
+    }
+    if (any) rows << others;
     return rows;
 }

@@ -34,11 +34,15 @@ struct CompositionRow {
     QString element;
     /// One a grade.
     QVector<ElementLimits> cells;
-    /// The cell is not that of the first grade.
-    QVector<bool> differs;
+    /// What a standard tells in words, though there be a number in it.
+    bool isText = false;
 
-    bool anyDiffers() const { return differs.contains(true); }
+    /// The limit is not that of the first grade.
+    bool minDiffers(qsizetype grade) const { return cells[grade].min != cells.first().min; }
+    bool maxDiffers(qsizetype grade) const { return cells[grade].max != cells.first().max; }
+    bool anyDiffers() const { return cells.count(cells.first()) != cells.size(); }
 };
 
-/// Elements in the order of the first grade, behind them those that only further ones name.
+/// Elements in the order of the first grade, behind them those that only further ones name, and last what
+/// the standards tell beside the elements, as maxima.
 QVector<CompositionRow> compareCompositions(const QVector<GradeComposition> &grades);

@@ -83,13 +83,16 @@ QVector<ValueColumn> GradeValues::columns(const Property &property, std::optiona
     return columns;
 }
 
+QString GradeValues::missing(const Property &property, std::optional<double> thickness) const {
+    const ValueSource *table = source(property);
+    if (table && !table->bands.isEmpty()) return table->bands.missing(thickness.value_or(0));
+    return QStringLiteral("The grade has no such table.");
+}
+
 ValueCells GradeValues::at(const Property &property, const QString &temperature,
                            std::optional<double> thickness) const {
-    const ValueSource *table = source(property);
     const QVector<ValueColumn> wanted = columns(property, thickness);
-    if (wanted.isEmpty() && table && !table->bands.isEmpty())
-        return {{}, table->bands.missing(thickness.value_or(0))};
-    if (wanted.isEmpty()) return {{}, QStringLiteral("The grade has no such table.")};
+    if (wanted.isEmpty()) return {{}, missing(property, thickness)};
     ValueCells cells;
     for (const ValueColumn &column : wanted) {
         const ValueCell each = cell(column, temperature);

@@ -72,6 +72,9 @@ public:
     QVector<ValueColumn> columns(const Property &property,
                                  std::optional<double> thickness = std::nullopt) const;
 
+    /// Why there are none.
+    QString missing(const Property &property, std::optional<double> thickness) const;
+
     /// `temperature` as TypedTexts::temperature gives it, `thickness` in mm. A cell that cannot be computed
     /// is told as the reason. Raises 6 for a temperature beyond a single.
     ValueCells at(const Property &property, const QString &temperature,

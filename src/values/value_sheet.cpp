@@ -55,16 +55,20 @@ QVector<ValueColumn> ValueSheets::columns(const GradeValues &grade, const QVecto
     return columns;
 }
 
+SheetRow ValueSheets::row(const GradeValues &grade, const QVector<ValueColumn> &columns,
+                          const QString &temperature) {
+    SheetRow row{temperature, {}, {}};
+    for (const ValueColumn &column : columns) {
+        row.cells << grade.cell(column, temperature);
+        row.own << grade.hasRow(column.property, temperature);
+    }
+    return row;
+}
+
 ValueSheet ValueSheets::sheet(const GradeValues &grade, const QVector<ValueColumn> &columns,
                               const QStringList &temperatures) {
     ValueSheet sheet{columns, {}};
-    for (const QString &temperature : temperatures) {
-        SheetRow row{temperature, {}, {}};
-        for (const ValueColumn &column : columns) {
-            row.cells << grade.cell(column, temperature);
-            row.own << grade.hasRow(column.property, temperature);
-        }
-        sheet.rows << row;
-    }
+    for (const QString &temperature : temperatures)
+        sheet.rows << row(grade, columns, temperature);
     return sheet;
 }

@@ -30,6 +30,8 @@ Typed<QStringList> temperatures(const QString &from, const QString &to, const QS
 /// All columns of these properties that the grade has.
 QVector<ValueColumn> columns(const GradeValues &grade, const QVector<Property> &properties);
 
+SheetRow row(const GradeValues &grade, const QVector<ValueColumn> &columns, const QString &temperature);
+
 ValueSheet sheet(const GradeValues &grade, const QVector<ValueColumn> &columns,
                  const QStringList &temperatures);
 

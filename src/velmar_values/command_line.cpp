@@ -139,6 +139,8 @@ private:
             m_line.temperatures << understood(TypedTexts::temperature(value()));
         else if (name == QLatin1String("--thickness"))
             m_line.thickness = understood(TypedTexts::thickness(value()));
+        else if (name == QLatin1String("--composition"))
+            m_line.composition = true;
         else
             return false;
         return true;
@@ -234,8 +236,7 @@ private:
         case Command::Compare:
             if (m_words.size() > Comparison::MostGrades)
                 throw UsageError(QStringLiteral("at most %1 grades").arg(Comparison::MostGrades));
-            if (m_line.temperatures.size() != 1)
-                throw UsageError("compare needs --at with a temperature in °C");
+            finishCompare();
             break;
         case Command::Sheet:
             if (m_line.from.isEmpty() || m_line.to.isEmpty() || m_line.step.isEmpty())
@@ -251,6 +252,13 @@ private:
         default:
             break;
         }
+    }
+
+    void finishCompare() const {
+        if (m_line.composition && (!m_line.temperatures.isEmpty() || m_line.thickness))
+            throw UsageError("a composition has no --at and no --thickness");
+        if (!m_line.composition && m_line.temperatures.size() != 1)
+            throw UsageError("compare needs --at with a temperature in °C, or --composition");
     }
 
     void finishCard() {
@@ -288,6 +296,7 @@ QString CommandLine::usage() {
         "  values GRADE... --at TEMPERATURE[,TEMPERATURE...]\n"
         "  properties\n"
         "  compare GRADE... --at TEMPERATURE [--thickness MM]\n"
+        "  compare GRADE... --composition\n"
         "  sheet GRADE --from TEMPERATURE --to TEMPERATURE --step DEGREES [--property PROPERTY]...\n"
         "  card GRADE --for calculix|mapdl --units si|mm [--poisson N] [--density N]\n"
         "       [--yield Rp02|Rp10] [--thickness N]\n"

@@ -45,6 +45,8 @@ struct CommandLine {
     /// As they were written: what a property is, the database tells.
     QStringList conditions;
     QStringList properties;
+    /// The composition is compared, and no values.
+    bool composition = false;
     /// In mm; of a card it tells the band.
     std::optional<double> thickness;
     /// Of a sheet: in °C, as they were written.

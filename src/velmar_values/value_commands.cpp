@@ -4,6 +4,7 @@
 #include <QJsonObject>
 
 #include "design/value_text.h"
+#include "exchange/value_tables.h"
 #include "platform/runtime/conversions.h"
 #include "values/comparison.h"
 #include "values/condition_text.h"
@@ -52,10 +53,6 @@ QJsonObject json(const ValueCells &cells) {
     return object;
 }
 
-QString title(const Grades::Grade &grade) {
-    return grade.name + " " + grade.number + " " + grade.standard;
-}
-
 QString title(const ValueColumn &column) {
     QString title = column.property.name();
     if (!column.band.isEmpty()) title += " " + column.band;
@@ -94,10 +91,43 @@ Records::Sheet records(const ValueSheet &sheet) {
     return records;
 }
 
-QVector<TakenFact> atFacts(const CommandLine &line) {
-    QVector<TakenFact> facts{{"Temperature [°C]", line.temperatures}};
-    if (line.thickness) facts << TakenFact{"Thickness [mm]", {CStr(*line.thickness)}};
-    return facts;
+QByteArray json(const QVector<GradeComposition> &grades, const QVector<CompositionRow> &elements) {
+    QJsonArray columns{QJsonObject{{"heading", "element"}}};
+    for (const GradeComposition &composition : grades)
+        for (const char *limit : {"min", "max"}) {
+            QJsonObject column = GradeTexts::json(composition.grade);
+            column.insert("limit", limit);
+            columns << column;
+        }
+    const auto cell = [](const CompositionRow &row, const QString &text, bool differs) {
+        QJsonObject object = row.isText ? plainText(text) : json(text);
+        object.insert("differs", differs);
+        return object;
+    };
+    QJsonArray rows;
+    for (const CompositionRow &element : elements) {
+        QJsonArray cells{plainText(element.element)};
+        for (qsizetype i = 0; i < element.cells.size(); ++i)
+            cells << cell(element, element.cells[i].min, element.minDiffers(i))
+                  << cell(element, element.cells[i].max, element.maxDiffers(i));
+        rows << cells;
+    }
+    return bytes(columns, rows);
+}
+
+Answer compareComposition(Database &database, const CommandLine &line) {
+    QVector<Grades::Grade> grades;
+    QVector<GradeComposition> compositions;
+    for (const QString &text : line.grades) {
+        grades << gradeOf(database, text);
+        compositions << GradeComposition::load(database, grades.last());
+    }
+    const QVector<CompositionRow> rows = compareCompositions(compositions);
+    if (rows.isEmpty()) throw NotFound("none of the grades has a composition");
+    const TakenTable table = ValueTables::composition(grades, rows);
+    if (!line.xlsx.isEmpty()) return taken(database, line, {table}, {});
+    return line.format == Format::Json ? json(compositions, rows)
+                                       : bytes(TakenTables::records(table), line.format);
 }
 
 /// The conditions and what was found by them.
@@ -167,13 +197,14 @@ Answer ValueCommands::properties(Database &database, const CommandLine &line) {
 }
 
 Answer ValueCommands::compare(Database &database, const CommandLine &line) {
+    if (line.composition) return compareComposition(database, line);
     ComparedGrades grades;
     Records::Sheet sheet{{"property", "heading", "unit"}, {}};
     QJsonArray columns{QJsonObject{{"heading", "property"}}, QJsonObject{{"heading", "heading"}},
                        QJsonObject{{"heading", "unit"}}};
     for (const QString &text : line.grades) {
         grades << std::make_shared<GradeValues>(database, gradeOf(database, text));
-        sheet.headings << title(grades.last()->grade());
+        sheet.headings << ValueTables::title(grades.last()->grade());
         columns << GradeTexts::json(grades.last()->grade());
     }
     QJsonArray rows;
@@ -190,7 +221,7 @@ Answer ValueCommands::compare(Database &database, const CommandLine &line) {
     }
     if (!line.xlsx.isEmpty())
         return taken(database, line, {TakenTables::of(sheet, "Comparison", sheet.headings.mid(3))},
-                     atFacts(line));
+                     ValueTables::atFacts(line.temperatures.first(), line.thickness));
     return line.format == Format::Json ? bytes(columns, rows) : bytes(sheet, line.format);
 }
 

@@ -1,6 +1,9 @@
 // What the program without windows writes for other programs: cards and workbooks.
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 
 #include "exchange/calculix_card.h"
@@ -8,6 +11,7 @@
 #include "exchange/material_card.h"
 #include "tests/exchange/sample_database.h"
 #include "tests/exchange/xlsx_reader.h"
+#include "tests/support/csv_table.h"
 
 namespace {
 
@@ -65,6 +69,56 @@ TEST(ValuesProgramFiles, AreWorkbooks) {
     EXPECT_TRUE(unwritable.error.contains("error 76")) << unwritable.error.toStdString();
 }
 
+TEST(ValuesProgramFiles, HoldTheCompositionsOfGradesBesideEachOther) {
+    const QStringList compare{"compare", "#2", "#3", "#11", "--composition"};
+    const QStringList lines =
+        answer(QStringList{"--format", "csv"} + compare).output.split("\n", Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 16) << "headings, 14 elements, and what is beside them";
+    // The limits as the sample's texts have them.
+    const CsvTable limits = CsvTable::read(SOURCE_FOLDER "/sample/csv/Chemical.csv");
+    const auto limitsOf = [&](const QString &standard, const QString &name, const QString &element) {
+        QStringList texts;
+        for (const auto &row : limits.rows)
+            if (row[fieldIndex(limits.fields, "standard")] == standard &&
+                row[fieldIndex(limits.fields, "name")] == name &&
+                row[fieldIndex(limits.fields, "element")] == element)
+                texts << row[fieldIndex(limits.fields, "val")].toString();
+        return texts.isEmpty() ? QStringList{"", ""} : texts;
+    };
+    int marked = 0;
+    for (const QString &line : lines.mid(1, 14)) {
+        const QVector<QVariant> cells = CsvTable::split(line + '\n').first();
+        const QString element = cells[0].toString();
+        const QStringList first = limitsOf("EN 10028-2", "P265GH", element);
+        const QStringList second = limitsOf("EN 10028-2", "P295GH", element);
+        const QStringList third = limitsOf("EN 10028-7", "X5CrNi18-10", element);
+        QStringList shown;
+        for (const QVariant &cell : cells.mid(1, 6))
+            shown << cell.toString();
+        EXPECT_EQ(shown, first + second + third) << element.toStdString();
+        const bool differs = first != second || first != third;
+        EXPECT_EQ(cells[7].toString(), differs ? "*" : "") << element.toStdString();
+        marked += differs;
+    }
+    EXPECT_GT(marked, 5);
+    EXPECT_TRUE(lines.last().startsWith("Other elements,,Cr + Cu + Mo + Ni")) << lines.last().toStdString();
+
+    const QJsonObject json =
+        QJsonDocument::fromJson(answer(QStringList{"--format=json"} + compare).output.toUtf8()).object();
+    EXPECT_EQ(json["columns"].toArray()[4].toObject()["limit"], "max");
+    const QJsonArray carbon = json["rows"].toArray()[0].toArray();
+    EXPECT_EQ(carbon[2].toObject()["value"], 0.2);
+    EXPECT_EQ(carbon[2].toObject()["differs"], false);
+    EXPECT_EQ(carbon[6].toObject()["differs"], true);
+    EXPECT_EQ(json["rows"].toArray().last().toArray()[2].toObject()["value"], QJsonValue::Null);
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("book.xlsx");
+    ASSERT_EQ(answer(QStringList{"--xlsx", path} + compare).status, 0);
+    EXPECT_TRUE(XlsxReader(path).sheets[0].rows[1][2].isNumber);
+    EXPECT_EQ(answer({"compare", "#38", "--composition"}).status, 1) << "it has none";
+}
+
 TEST(ValuesProgramFiles, TellWhatIsNotUnderstood) {
     const QStringList card{"card", "#2", "--for", "mapdl", "--units", "si"};
     const struct {
@@ -82,6 +136,8 @@ TEST(ValuesProgramFiles, TellWhatIsNotUnderstood) {
         {card + QStringList{"--yield", "Rp02"}, 1, "--thickness tells which of ( ) - 16mm, (16) - 40mm"},
         {card + QStringList{"--yield", "Rp02", "--thickness", "250.5"}, 1, "no thickness band"},
         {card + QStringList{"--format", "csv"}, 2, "a form of its own"},
+        {{"compare", "#2"}, 2, "or --composition"},
+        {{"compare", "#2", "--composition", "--at", "20"}, 2, "no --at"},
         {{"--format", "csv", "--xlsx", "a.xlsx", "find"}, 2, "either"},
     };
     for (const auto &each : cases) {

@@ -162,10 +162,11 @@ TEST(ComparisonTest, CompositionsDifferFromTheFirst) {
     for (const CompositionRow &row : compareCompositions(grades)) {
         QStringList cells;
         for (int i = 0; i < row.cells.size(); ++i)
-            cells << row.cells[i].min + "-" + row.cells[i].max + (row.differs[i] ? "!" : "");
+            cells << (row.minDiffers(i) ? "!" : "") + row.cells[i].min + "-" + row.cells[i].max +
+                         (row.maxDiffers(i) ? "!" : "");
         lines << row.element + " " + cells.join(' ');
     }
-    EXPECT_EQ(lines, QStringList({"C -0,20 -0,16! -!", "Mn 0,8-1,4 0,8-1,4 -!", "Cu - -0,3! -"}));
+    EXPECT_EQ(lines, QStringList({"C -0,20 -0,16! -!", "Mn 0,8-1,4 0,8-1,4 !-!", "Cu - -0,3! -"}));
 }
 
 TEST(ValueSheetTest, StepsFromTheFirstToTheLastTemperature) {

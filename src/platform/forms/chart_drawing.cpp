@@ -109,6 +109,8 @@ CurveStyle curveStyle(std::size_t index) {
         {QColor(0xb8, 0x10, 0x58), {4, 2}, QCPScatterStyle::ssTriangleInverted, true},
         {QColor(0x00, 0x78, 0x88), {10, 2.5, 2, 2.5, 2, 2.5}, QCPScatterStyle::ssSquare, false},
         {QColor(0x48, 0x48, 0x48), {1.5, 1.5}, QCPScatterStyle::ssTriangle, false},
+        {QColor(0x4f, 0x6b, 0x00), {12, 3, 2, 3}, QCPScatterStyle::ssPlus, false},
+        {QColor(0x9c, 0x1c, 0x1c), {5, 5}, QCPScatterStyle::ssCross, false},
     };
     return styles[index % styles.size()];
 }
@@ -146,6 +148,7 @@ public:
         m_plot.setViewport(QRect(QPoint(0, 0), size));
         m_plot.axisRect()->setMinimumMargins(QMargins(12, 6, 16, 6));
         addCurves();
+        addMark();
         layOutAxis(m_plot.xAxis, m_plot.xAxis2, m_content.axisTitle[0], m_size.width(), 80);
         layOutAxis(m_plot.yAxis, m_plot.yAxis2, m_content.axisTitle[1], m_size.height(), 40);
         layOutLegend();
@@ -173,6 +176,7 @@ public:
 
 private:
     void addCurves();
+    void addMark();
     void layOutAxis(QCPAxis *axis, QCPAxis *opposite, const QString &title, int length, int tickDistance);
     void layOutLegend();
     void layOutTitle();
@@ -209,8 +213,32 @@ void ChartDrawing::addCurves() {
                                                style.filled ? QBrush(style.colour) : QBrush(Qt::white), 7));
     }
     m_hasPoints = !allX.empty();
+    if (m_hasPoints && m_content.mark) allX.push_back(m_content.mark->x);
     m_plot.xAxis->setRange(rangeAround(allX));
     m_plot.yAxis->setRange(rangeAround(allY));
+}
+
+void ChartDrawing::addMark() {
+    if (!m_hasPoints || !m_content.mark) return;
+    const double x = m_content.mark->x;
+    auto *line = new QCPItemLine(&m_plot);
+    line->setPen(QPen(Ink, 1, Qt::DashLine));
+    auto *label = new QCPItemText(&m_plot);
+    const auto put = [x](QCPItemPosition *position, double share) {
+        position->setTypeX(QCPItemPosition::ptPlotCoords);
+        position->setTypeY(QCPItemPosition::ptAxisRectRatio);
+        position->setCoords(x, share);
+    };
+    put(line->start, 1);
+    put(line->end, 0);
+    put(label->position, 0);
+    label->setText(onOneLine(m_content.mark->label));
+    label->setFont(chartFont(11));
+    label->setColor(Ink);
+    label->setBrush(QBrush(Qt::white));
+    label->setPadding(QMargins(4, 1, 4, 1));
+    const bool inRightHalf = x > m_plot.xAxis->range().center();
+    label->setPositionAlignment(Qt::AlignTop | (inRightHalf ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 void ChartDrawing::layOutAxis(QCPAxis *axis, QCPAxis *opposite, const QString &title, int length,

@@ -1,6 +1,7 @@
 // What a chart shows, and its drawing by the plot library.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QPointF>
@@ -16,6 +17,12 @@ struct ChartSeries {
     std::vector<QPointF> points;
 };
 
+/// An upright line through the plot, and what stands beside its upper end.
+struct ChartMark {
+    double x = 0;
+    QString label;
+};
+
 struct ChartContent {
     QString title;
     /// X axis, Y axis.
@@ -24,6 +31,8 @@ struct ChartContent {
     bool uniformAxis = false;
     bool showLegend = false;
     std::vector<ChartSeries> series;
+    /// The axis reaches as far; without points it is not drawn.
+    std::optional<ChartMark> mark;
 };
 
 /// Reads the first `columnCount` columns in pairs, X and then Y; a column without a partner is left out. A

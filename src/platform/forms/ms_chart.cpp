@@ -55,6 +55,11 @@ void MSChart::setShowLegend(bool show) {
     changed();
 }
 
+void MSChart::setMark(std::optional<double> x, const QString &label) {
+    m_content.mark = x ? std::optional(ChartMark{*x, label}) : std::nullopt;
+    changed();
+}
+
 void MSChart::setColumnCount(int count) {
     if (count < 0) throw RuntimeError(9);
     const std::size_t before = m_labels.size();
@@ -123,7 +128,9 @@ void MSChart::changed() {
     const QString up = m_content.axisTitle[1].simplified();
     const QString what = up.isEmpty() ? title : up;
     const QString axes = what.isEmpty() || over.isEmpty() ? what + over : tr("%1 over %2").arg(what, over);
-    setAccessibleDescription(curves.isEmpty() ? axes : tr("%1. Curves: %2").arg(axes, curves.join(", ")));
+    QString description = curves.isEmpty() ? axes : tr("%1. Curves: %2").arg(axes, curves.join(", "));
+    if (m_content.mark) description += tr(". Line at %1").arg(m_content.mark->label);
+    setAccessibleDescription(description);
     update();
 }
 

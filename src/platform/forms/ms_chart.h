@@ -39,6 +39,9 @@ public:
     bool ShowLegend() const { return m_content.showLegend; }
     void setShowLegend(bool show);
 
+    /// An upright line at this X value with its label; without a value there is none.
+    void setMark(std::optional<double> x, const QString &label = {});
+
     int ColumnCount() const { return int(m_labels.size()); }
     /// Data columns beyond the count are not drawn. Raises 9 below 0.
     void setColumnCount(int count);
@@ -51,7 +54,7 @@ public:
     QString ColumnLabel() const;
     void setColumnLabel(const QString &label);
 
-    /// Takes type, data, title, axis titles, legend and the label of every column; the axes keep their units.
+    /// Takes type, data, title, axis titles, legend, mark and the label of every column; the axes keep their units.
     void copyFrom(const MSChart &other);
 
     /// The chart for a report, laid out for `size` pixels of 1/96 inch.
