@@ -39,6 +39,8 @@ int main(int argc, char **argv) {
     readMaterials(tour);
     showTablesAndGraphs(tour);
     designValues(tour);
+    compareGrades(tour);
+    valuesOverTemperature(tour);
     printAndSave(tour);
     showAbout(tour);
     readHelp(tour);

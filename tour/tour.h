@@ -65,6 +65,8 @@ void showPmaIndex(Tour &tour);
 void readMaterials(Tour &tour);
 void showTablesAndGraphs(Tour &tour);
 void designValues(Tour &tour);
+void compareGrades(Tour &tour);
+void valuesOverTemperature(Tour &tour);
 void printAndSave(Tour &tour);
 void showAbout(Tour &tour);
 void readHelp(Tour &tour);
