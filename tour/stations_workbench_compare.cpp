@@ -54,6 +54,7 @@ void valuesOverTemperature(Tour &tour) {
     tour.menu("mnuToolsElem(3)");
     FormBase &form = tour.form("frmValueSheet");
     QWidget &window = *form.asWidget();
+    tour.retype(tour.control<QLineEdit>(form, "txtFrom"), "0");
     tour.retype(tour.control<QLineEdit>(form, "txtStep"), "25");
     tour.picture("value-sheet", window);
     pictureSmall(tour, "value-sheet-800x600", form);

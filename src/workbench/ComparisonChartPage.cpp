@@ -75,7 +75,8 @@ const Property *ComparisonChartPage::chosen() const {
 void ComparisonChartPage::show(const CompareInput &input) {
     const Property *property = chosen();
     chtValues->setVisible(property != nullptr);
-    lblMissing->setText(property ? QString() : QStringLiteral("None of the grades has design values."));
+    lblMissing->setText(QStringLiteral("None of the grades has design values."));
+    lblMissing->setVisible(!property);
     if (!property) return;
     const ComparisonChart chart = chartOf(m_values, *property, input);
     chtValues->setTitleText(property->label);
@@ -90,8 +91,8 @@ void ComparisonChartPage::show(const CompareInput &input) {
     chtValues->setShowLegend(!chart.legends.isEmpty());
     const auto line = input.temperature ? ValueText::numberIn(*input.temperature) : std::nullopt;
     chtValues->setMark(line, line ? *input.temperature + " °C" : QString());
-    if (!chart.missing.isEmpty())
-        lblMissing->setText("Without a curve: " + chart.missing.join(QLatin1Char(' ')));
+    lblMissing->setText("Without a curve: " + chart.missing.join(QLatin1Char(' ')));
+    lblMissing->setVisible(!chart.missing.isEmpty());
 }
 
 TakenTable ComparisonChartPage::taken(const CompareInput &input) const {

@@ -80,7 +80,10 @@ void ComparisonPage::show(const CompareInput &input) {
     };
     cells.mark = [rows](int row, int column) {
         GridCellMark mark;
-        if (column >= FirstGrade) mark.tip = (*rows)[row].cells[column - FirstGrade].reason;
+        if (column < FirstGrade) return mark;
+        const ValueCells &shown = (*rows)[row].cells[column - FirstGrade];
+        mark.tip = shown.reason;
+        if (mark.tip.isEmpty() && shown.cells.size() == 1) mark.tip = shown.cells.first().band;
         return mark;
     };
     tdbValues->setCells(std::make_shared<const GridCells>(std::move(cells)));

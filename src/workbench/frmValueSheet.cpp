@@ -60,7 +60,7 @@ QWidget *frmValueSheet::layOut() {
     auto *content = new QWidget;
     auto *boxes = new QHBoxLayout;
     cboGrade->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cboGrade->setMinimumContentsLength(24);
+    cboGrade->setMinimumContentsLength(20);
     for (const auto &[caption, box] : {std::pair<const char *, QWidget *>("&Grade", cboGrade),
                                        std::pair<const char *, QWidget *>("&From [°C]", txtFrom),
                                        std::pair<const char *, QWidget *>("&To [°C]", txtTo),
@@ -70,14 +70,14 @@ QWidget *frmValueSheet::layOut() {
         boxes->addWidget(label);
         boxes->addWidget(box);
     }
-    boxes->addStretch(1);
+    boxes->addWidget(lblTyped, 1);
     lblTyped->setWordWrap(true);
     auto *tables = new QHBoxLayout;
     lstColumns->setFixedWidth(lstColumns->fontMetrics().averageCharWidth() * 36);
     tables->addWidget(lstColumns);
     tables->addWidget(tdbSheet, 1);
     auto *buttons = new QHBoxLayout;
-    buttons->addWidget(lblTyped, 1);
+    buttons->addStretch(1);
     buttons->addWidget(cmdCopy);
     buttons->addWidget(cmdSave);
     auto *layout = new QVBoxLayout(content);
@@ -161,7 +161,7 @@ void frmValueSheet::columnsChosen() {
     QStringList samples{"Temperature"};
     for (const ValueColumn &column : m_columns) {
         captions << headingOf(column);
-        samples << (column.property.isCreep() ? "Rp1,0 / 100 000 h" : "(100) - 150mm");
+        samples << (column.property.isCreep() ? "Rp1,0 / 100 000 h" : "(1000) - 1500mm");
     }
     tdbSheet->setCells(nullptr);
     WorkbenchGrid::setColumns(*tdbSheet, captions, samples);

@@ -1,6 +1,8 @@
 // The chart control: its properties, what it takes for a point, and its drawing on screen and on paper.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include <QFile>
 #include <QImage>
 #include <QPainter>
@@ -240,6 +242,61 @@ TEST_F(ChartTest, KeepsLightGroundAndSurvivesAnySize) {
         EXPECT_EQ(chart.grab().toImage().pixelColor(0, 0), QColor(Qt::white)) << size.width();
     }
     EXPECT_TRUE(chart.picture({0, 0}).size().isEmpty());
+}
+
+TEST_F(ChartTest, AMarkIsAnUprightLineThatTheAxisReaches) {
+    MSChart chart;
+    fillTwoCurves(chart);
+    chart.resize(600, 400);
+    const QImage without = chart.grab().toImage();
+    chart.setMark(150, "150 K");
+    const QImage within = chart.grab().toImage();
+    QRect changed;
+    for (int y = 0; y < within.height(); ++y)
+        for (int x = 0; x < within.width(); ++x)
+            if (within.pixel(x, y) != without.pixel(x, y)) changed |= QRect(x, y, 1, 1);
+    EXPECT_GT(changed.height(), 200) << "from the top of the plot to its bottom";
+    EXPECT_LT(changed.width(), 70) << "with its label beside it";
+    EXPECT_EQ(chart.accessibleDescription().section(". ", -1), "Line at 150 K");
+
+    chart.setMark(900, "900 K");
+    const QString text = printedText(chart, m_folder.filePath("mark.pdf"));
+    for (const char *part : {"900 K", "800"})
+        EXPECT_TRUE(text.contains(part)) << text.toStdString();
+    chart.setMark(std::nullopt);
+    EXPECT_EQ(chart.grab().toImage(), without);
+
+    MSChart empty;
+    empty.setChartData(cells({{20, ""}}));
+    empty.setMark(150, "150 K");
+    EXPECT_FALSE(printedText(empty, m_folder.filePath("empty.pdf")).contains("150"));
+}
+
+TEST_F(ChartTest, TenCurvesAreAllDrawnInTheirOwnWay) {
+    std::set<QRgb> colours;
+    for (int curve = 0; curve < 10; ++curve) {
+        XArrayDB one;
+        one.ReDim(1, 2, 0, 19);
+        for (const int row : {1, 2}) {
+            one.Set(row, 2 * curve, 100 * row);
+            one.Set(row, 2 * curve + 1, 5);
+        }
+        MSChart chart;
+        chart.setChartData(one);
+        chart.resize(300, 300);
+        const QImage image = chart.grab().toImage();
+        QHash<QRgb, int> count;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (QColor(image.pixel(x, y)).saturation() > 100 || curve == 7) ++count[image.pixel(x, y)];
+        for (const QRgb plain : {qRgb(255, 255, 255), qRgb(0x20, 0x20, 0x20), qRgb(0xd4, 0xd8, 0xdc)})
+            count.remove(plain);
+        QRgb most = 0;
+        for (auto each = count.begin(); each != count.end(); ++each)
+            if (each.value() > count.value(most)) most = each.key();
+        colours.insert(most);
+    }
+    EXPECT_EQ(colours.size(), 10u);
 }
 
 TEST_F(ChartTest, UniformAxesGiveAUnitTheSameLength) {

@@ -384,6 +384,36 @@ TEST(CommonDialogs, TheRealDialogOffersNameFilterAndExtension) {
     EXPECT_EQ(dialog.FileName, folder.filePath("16Mo3_1.5415.rtf"));
 }
 
+TEST(CommonDialogs, TheEndingIsThatOfTheChosenFilter) {
+    const QTemporaryDir folder;
+    CommonDialog dialog;
+    dialog.InitDir = folder.path();
+    dialog.Filter = "Workbook (*.xlsx)|*.xlsx|Values (*.csv;*.txt)|*.csv;*.txt";
+    dialog.FilterExt = true;
+    const auto save = [&](const QString &typed, int filter) {
+        QTimer::singleShot(0, [&] {
+            auto *box = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            box->selectNameFilter(box->nameFilters().at(filter));
+            auto *edit = box->findChild<QLineEdit *>("fileNameEdit");
+            edit->setText(typed);
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        dialog.FileName.clear();
+        dialog.ShowSave();
+        return QFileInfo(dialog.FileName).fileName();
+    };
+    {
+        const ModalSeam::Pause person;
+        EXPECT_EQ(save("1.5415", 0), "1.5415.xlsx");
+        EXPECT_EQ(save("1.5415", 1), "1.5415.csv");
+        EXPECT_EQ(save("a.CSV", 0), "a.CSV") << "the ending of another filter is meant";
+    }
+    modal().chooseFile(folder.filePath("a.5415"));
+    dialog.ShowSave();
+    EXPECT_EQ(dialog.FileName, folder.filePath("a.5415.xlsx"));
+}
+
 TEST(Faults, AnErrorInAHandlerIsCaughtAtTheEvent) {
     auto *form = NewForm<RecordingForm>();
     auto *button = new QPushButton(form);
