@@ -7,11 +7,13 @@
 #include "platform/forms/application.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/event_procedure.h"
+#include "platform/forms/forms.h"
 #include "platform/runtime/regional_settings.h"
 #include "search/frmSearch.h"
 #include "shell/mdiVelmar.h"
 #include "start/frmSplash.h"
 #include "start/MainCommands.h"
+#include "workbench/WorkbenchWindow.h"
 
 namespace ProgramStart {
 
@@ -22,6 +24,8 @@ void keepSettings() {
     if (window == nullptr) return;
     if (auto *search = LoadedInstance<frmSearch>()) search->keepCriteria();
     window->WriteSettings();
+    for (FormBase &form : Forms())
+        if (auto *tool = form.as<WorkbenchWindow>()) tool->keepSettings();
 }
 
 void endProgram() {

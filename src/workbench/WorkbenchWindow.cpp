@@ -3,6 +3,7 @@
 #include <QShortcut>
 
 #include "data/Material.h"
+#include "data/modDBase.h"
 #include "data/modFileHandler.h"
 #include "platform/forms/event_procedure.h"
 #include "platform/forms/help_context.h"
@@ -42,6 +43,10 @@ void WorkbenchWindow::Form_Activate() {
 }
 
 void WorkbenchWindow::Form_Unload(bool &) {
+    keepSettings();
+}
+
+void WorkbenchWindow::keepSettings() {
     QSettings settings(settingsFile(), QSettings::IniFormat);
     settings.beginGroup(Name());
     if (WindowState() == vbNormal) settings.setValue("place", geometry());
@@ -49,6 +54,7 @@ void WorkbenchWindow::Form_Unload(bool &) {
 }
 
 void WorkbenchWindow::readSelection() {
+    if (!modDBase::dbMain()) return; // the program is on its way out
     QVector<Grades::Grade> selected;
     for (const auto &material : mdiVelmar::instance().colMaterials)
         selected << Grades::of(*material);

@@ -15,6 +15,9 @@ public:
     /// `topic` is the page of the help that F1 opens.
     WorkbenchWindow(const QString &name, const QString &caption, const QString &topic);
 
+    /// Writes what it remembers, as its end does.
+    void keepSettings();
+
 protected:
     void Form_Load() override;
     void Form_Activate() override;

@@ -54,13 +54,16 @@ TEST_F(BesideForm, TheMainWindowStaysInUse) {
     int clicks = 0;
     QObject::connect(button, &QPushButton::clicked, [&clicks] { ++clicks; });
     button->show();
-    main->SetFocus();
-    QTest::mouseClick(button, Qt::LeftButton);
-    EXPECT_EQ(clicks, 1);
-    beside->bringUp();
-    EXPECT_EQ(Forms::active(), beside);
-    EXPECT_EQ(formLog, QStringList({"main.Activate", "frmBeside.Activate"}).mid(1))
-        << "it is told each time that it comes to the front";
+    for (int i = 1; i <= 2; ++i) {
+        main->SetFocus();
+        QCoreApplication::processEvents();
+        QTest::mouseClick(button, Qt::LeftButton);
+        EXPECT_EQ(clicks, i);
+        EXPECT_NE(Forms::active(), beside);
+        beside->bringUp();
+        EXPECT_EQ(Forms::active(), beside);
+        EXPECT_EQ(formLog.count("frmBeside.Activate"), i) << "told each time that it comes to the front";
+    }
 }
 
 TEST_F(BesideForm, AModalWindowShutsItOff) {
@@ -77,17 +80,4 @@ TEST_F(BesideForm, AModalWindowShutsItOff) {
     (new RecordingForm("frmDialog"))->ShowModal(main);
     QTest::mouseClick(beside->windowHandle(), Qt::LeftButton, {}, button->geometry().center());
     EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(BesideForm, LeavesWithTheProgramUnlessItRefuses) {
-    bool stays = true;
-    beside->refuses = [&stays](UnloadMode) { return stays; };
-    EXPECT_FALSE(main->Unload());
-    EXPECT_TRUE(beside->isVisible());
-    stays = false;
-    formLog.clear();
-    EXPECT_TRUE(main->Unload());
-    EXPECT_EQ(Forms::Count(), 0);
-    EXPECT_TRUE(formLog.contains("frmBeside.Unload"));
-    EXPECT_LT(formLog.indexOf("frmBeside.Unload"), formLog.indexOf("main.Unload"));
 }

@@ -32,7 +32,7 @@ protected:
         made->rows = rows;
         made->text = [this, text](int row, int column) {
             asked.insert(row);
-            return text.arg(row).arg(column);
+            return QString(text).replace("%1", QString::number(row)).replace("%2", QString::number(column));
         };
         return made;
     }
@@ -131,7 +131,9 @@ TEST_F(MadeCells, AMarkIsSeenAndTold) {
 
 TEST_F(MadeCells, AreCopiedAndGiveWayToAnArray) {
     grid.setCells(cells(2));
+    grid.activateWindow();
     view->setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return view->hasFocus(); }));
     QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "one\ttwo\n0/0\t0/1\n1/0\t1/1");

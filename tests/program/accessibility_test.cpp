@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QSet>
+#include <QTabWidget>
 #include <QTest>
 
 #include "platform/desktop/help_viewer.h"
@@ -13,6 +14,8 @@
 #include "search/frmSearch.h"
 #include "tests/program/reports_fixture.h"
 #include "tests/support/gui.h"
+#include "workbench/frmCompare.h"
+#include "workbench/frmValueSheet.h"
 
 namespace {
 
@@ -130,6 +133,25 @@ TEST_F(Accessibility, OfTheMainWindowAndTheHelp) {
     ASSERT_NE(help, nullptr);
     checkNames(*help);
     delete help;
+}
+
+TEST_F(Accessibility, OfTheComparisonAndTheSheet) {
+    auto &compare = DefaultInstance<frmCompare>();
+    compare.Show();
+    check(compare, "without a grade");
+    compare.Unload();
+    open(SampleGrades::P265GH);
+    auto &window = DefaultInstance<frmCompare>();
+    window.Show();
+    for (const int page : {0, 1, 2}) {
+        window.tabPages->setCurrentIndex(page);
+        check(window, qPrintable(window.tabPages->tabText(page)));
+    }
+    window.Unload();
+    auto &sheet = DefaultInstance<frmValueSheet>();
+    sheet.Show();
+    check(sheet, "sheet");
+    sheet.Unload();
 }
 
 TEST_F(Accessibility, OfTheMaterialWindow) {
