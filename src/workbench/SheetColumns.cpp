@@ -9,6 +9,18 @@
 #include "exchange/value_tables.h"
 #include "platform/forms/placement.h"
 
+namespace {
+
+/// On a dark ground the style draws the edge of an empty box as dark as the ground.
+void makeBoxesVisible(QListWidget &list) {
+    QPalette palette = list.palette();
+    if (palette.color(QPalette::Base).lightness() >= 128) return;
+    palette.setColor(QPalette::Window, palette.color(QPalette::Text));
+    list.setPalette(palette);
+}
+
+} // namespace
+
 SheetColumns::SheetColumns(QWidget *parent)
     : QWidget(parent)
     , lstColumns(named(new QListWidget(this), "lstColumns", "Columns of the sheet"))
@@ -16,6 +28,7 @@ SheetColumns::SheetColumns(QWidget *parent)
     , cmdNone(named(new QPushButton("&None", this), "cmdNone", "No column")) {
     auto *lblColumns = new QLabel("Co&lumns", this);
     lblColumns->setBuddy(lstColumns);
+    makeBoxesVisible(*lstColumns);
     lstColumns->setTextElideMode(Qt::ElideMiddle);
     lstColumns->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     auto *buttons = new QHBoxLayout;

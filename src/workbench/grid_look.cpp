@@ -30,6 +30,8 @@ QString WorkbenchGrid::heading(const Grades::Grade &grade) {
 }
 
 QColor WorkbenchGrid::markColour(const TDBGrid &grid) {
-    const bool dark = grid.palette().color(QPalette::Base).lightness() < 128;
+    // The program's own colours of rows are light in every theme.
+    const bool dark =
+        mdiVelmar::instance().bColoursOff && grid.palette().color(QPalette::Base).lightness() < 128;
     return dark ? QColor(0x6b, 0x4e, 0x0a) : QColor(0xff, 0xe0, 0x9a);
 }
