@@ -101,7 +101,8 @@ TEST(ValuesProgramFiles, HoldTheCompositionsOfGradesBesideEachOther) {
         marked += differs;
     }
     EXPECT_GT(marked, 5);
-    EXPECT_TRUE(lines.last().startsWith("Other elements,,\"Cr + Cu + Mo + Ni max 0,70 %\",")) << lines.last().toStdString();
+    EXPECT_TRUE(lines.last().startsWith("Other elements,,\"Cr + Cu + Mo + Ni max 0,70 %\","))
+        << lines.last().toStdString();
 
     const QJsonObject json =
         QJsonDocument::fromJson(answer(QStringList{"--format=json"} + compare).output.toUtf8()).object();

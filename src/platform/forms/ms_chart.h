@@ -54,7 +54,8 @@ public:
     QString ColumnLabel() const;
     void setColumnLabel(const QString &label);
 
-    /// Takes type, data, title, axis titles, legend, mark and the label of every column; the axes keep their units.
+    /// Takes type, data, title, axis titles, legend, mark and the label of every column; the axes keep their
+    /// units.
     void copyFrom(const MSChart &other);
 
     /// The chart for a report, laid out for `size` pixels of 1/96 inch.
