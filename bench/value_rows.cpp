@@ -94,7 +94,6 @@ void keyInWindow(benchmark::State &state, const QString &database, const QString
     paint();
     program.command("mnuToolsElem(1)");
     auto &window = DefaultInstance<frmFindValue>();
-    window.resize(1000, 700);
     window.tabPages->setCurrentIndex(diagram ? 1 : 0);
     window.txtTemperature(0)->setText("200,1");
     window.txtLeast(0)->setText("10,1");

@@ -134,22 +134,28 @@ QStringList FoundTable::row(const ValueSearch &search, const FoundGrades &found,
     return row;
 }
 
-TakenBook FoundTable::book(const ValueSearch &search, const FoundGrades &found,
-                           const std::vector<int> &places, const Database &database) {
+TakenTable FoundTable::taken(const ValueSearch &search, const FoundGrades &found,
+                             const std::vector<int> &places) {
     TakenTable table{"Grades", {}, {}};
     for (const FoundColumn &column : columns(found.query))
         table.columns << heading(found.query, column);
     for (const int place : places)
         table.rows << row(search, found, place);
+    return table;
+}
+
+QVector<TakenFact> FoundTable::facts(const ValueSearch &search, const FoundGrades &found) {
+    QVector<TakenFact> facts;
+    const auto add = [&facts](const QString &name, const QString &text) {
+        if (!text.isEmpty()) facts << TakenFact{name, {text}};
+    };
+    add("Standard", found.query.texts.standard);
+    add("Group", found.query.texts.group);
+    add("Product form", found.query.texts.productForm);
     QStringList conditions;
     for (const ValueCondition &condition : found.query.conditions)
         conditions << ConditionText::of(condition);
-    const Grades::Criteria &texts = found.query.texts;
-    return {{table},
-            QVector<TakenFact>{{"Standard", {texts.standard}},
-                               {"Group", {texts.group}},
-                               {"Product form", {texts.productForm}},
-                               {"Conditions", conditions},
-                               {"Found", {search.summary(found.query, found.result)}}} +
-                TakenTables::databaseFacts(database)};
+    facts << TakenFact{"Conditions", conditions};
+    add("Found", search.summary(found.query, found.result));
+    return facts;
 }

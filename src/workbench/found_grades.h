@@ -50,8 +50,9 @@ QVector<FoundColumn> columns(const ValueQuery &query);
 TakenColumn heading(const ValueQuery &query, const FoundColumn &column);
 /// The texts of a grade, one a column.
 QStringList row(const ValueSearch &search, const FoundGrades &found, int place);
-/// All of it, in the order of `places`, with the conditions and the line that tells the rest.
-TakenBook book(const ValueSearch &search, const FoundGrades &found, const std::vector<int> &places,
-               const Database &database);
+/// All of it, in the order of `places`.
+TakenTable taken(const ValueSearch &search, const FoundGrades &found, const std::vector<int> &places);
+/// What was asked for, and the line that tells the rest.
+QVector<TakenFact> facts(const ValueSearch &search, const FoundGrades &found);
 
 } // namespace FoundTable

@@ -28,6 +28,8 @@ struct Format {
 const Format Formats[] = {{calculixCard, "CalculiX / Abaqus (*.inp)|*.inp", ".inp"},
                           {mapdlCard, "Ansys MAPDL (*.mac)|*.mac", ".mac"}};
 
+constexpr int CancelSelected = 32755;
+
 const std::pair<QString, QString> Yields[] = {{"Rp02", "Rp0,2"}, {"Rp10", "Rp1,0"}};
 
 qint16 currentID() {
@@ -185,9 +187,13 @@ void frmCard::saveCard() {
     dialog.DefaultExt = format.extension;
     dialog.Topic = "Material_Card.htm";
     dialog.FileName = "c:\\" + MaterialCard::of(*m_source, choice()).name + format.extension;
-    const QString offered = dialog.FileName;
-    dialog.ShowSave();
-    if (dialog.FileName == offered) return;
+    dialog.CancelError = true;
+    try {
+        dialog.ShowSave();
+    } catch (const RuntimeError &error) {
+        if (error.number() == CancelSelected) return;
+        throw;
+    }
     writeWholeFile(dialog.FileName, m_text.toLatin1());
 }
 

@@ -2,11 +2,6 @@
 
 #include <algorithm>
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
-
 #include "data/modDBase.h"
 #include "platform/dao/database.h"
 #include "platform/forms/busy_pointer.h"
@@ -17,7 +12,7 @@
 #include "workbench/condition_inputs.h"
 #include "workbench/FoundGrid.h"
 #include "workbench/PropertyPlot.h"
-#include "workbench/table_saving.h"
+#include "workbench/save_taken.h"
 #include "workbench/TableReading.h"
 
 namespace {
@@ -239,17 +234,17 @@ void frmFindValue::select(int grade) {
     Form_Activate();
 }
 
-TakenBook frmFindValue::book() const {
-    return FoundTable::book(*m_search, *m_found, m_grid->places(), *modDBase::dbMain());
+TakenTable frmFindValue::table() const {
+    return FoundTable::taken(*m_search, *m_found, m_grid->places());
 }
 
 void frmFindValue::copyAll() const {
     const BusyPointer busy;
-    QGuiApplication::clipboard()->setText(QString::fromUtf8(TakenTables::tsv(book().tables.first())));
+    SaveTaken::copy(table());
 }
 
-void frmFindValue::saveAll() {
-    TableSaving::ask(book(), "Save Grades Found...", "Find_By_Value.htm");
+void frmFindValue::saveAll() const {
+    SaveTaken::saveAsking(table(), FoundTable::facts(*m_search, *m_found), "Find_By_Value.htm");
 }
 
 void frmFindValue::restore(const QSettings &settings) {

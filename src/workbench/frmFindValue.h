@@ -48,9 +48,9 @@ private:
     bool showsPlot() const;
 
     void select(int grade);
-    TakenBook book() const;
+    TakenTable table() const;
     void copyAll() const;
-    void saveAll();
+    void saveAll() const;
 
     std::shared_ptr<ValueSearch> m_search;
     QVector<Property> m_properties;

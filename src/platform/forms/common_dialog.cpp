@@ -1,5 +1,7 @@
 #include "platform/forms/common_dialog.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -16,18 +18,30 @@
 
 namespace {
 
+bool endsInOneOf(const QStringList &extensions, const QString &name) {
+    return std::any_of(extensions.begin(), extensions.end(), [&name](const QString &extension) {
+        return name.endsWith(extension, Qt::CaseInsensitive);
+    });
+}
+
+QString withOneOf(const QStringList &extensions, const QString &name, qsizetype chosen) {
+    if (endsInOneOf(extensions, name)) return name;
+    return CommonDialog::withExtension(name, extensions.value(chosen, extensions.value(0)));
+}
+
 /// Qt puts its default suffix behind a name without a dot alone, and a number such as "1.0345" holds one. Put
 /// there in time, the whole name is what Qt asks about before it is replaced.
 class FileDialog : public QFileDialog {
 public:
     using QFileDialog::QFileDialog;
 
-    QString extension;
+    /// One for all filters, or one for each.
+    QStringList extensions;
 
     void accept() override {
         auto *edit = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-        if (edit && !extension.isEmpty() && !QFileInfo(directory(), edit->text()).isDir())
-            edit->setText(CommonDialog::withExtension(edit->text(), extension));
+        if (edit && !extensions.isEmpty() && !QFileInfo(directory(), edit->text()).isDir())
+            edit->setText(withOneOf(extensions, edit->text(), nameFilters().indexOf(selectedNameFilter())));
         QFileDialog::accept();
     }
 };
@@ -89,7 +103,7 @@ void CommonDialog::ShowSave() {
     for (;;) {
         const QString chosen = choose(true, folder, name);
         if (chosen.isEmpty()) return take(chosen);
-        const QString path = withExtension(chosen, DefaultExt);
+        const QString path = withOneOf(extensions(), chosen, 0);
         const QString parent = QFileInfo(path).path();
         if (!QDir(parent).exists())
             MsgBox(QDir::toNativeSeparators(parent) + QStringLiteral("\r\n\r\nThis folder does not exist."),
@@ -100,6 +114,16 @@ void CommonDialog::ShowSave() {
         folder = nearestFolder(path);
         name = chosen;
     }
+}
+
+/// To save.
+QStringList CommonDialog::extensions() const {
+    if (!FilterExt) return {DefaultExt};
+    QStringList extensions;
+    const QStringList pieces = Filter.split(QLatin1Char('|'));
+    for (qsizetype i = 1; i < pieces.size(); i += 2)
+        extensions << pieces[i].section(QLatin1Char(';'), 0, 0).section(QLatin1Char('*'), 1);
+    return extensions;
 }
 
 QString CommonDialog::choose(bool save, const QString &folder, const QString &name) const {
@@ -131,7 +155,7 @@ QString CommonDialog::ask(bool save, const QString &folder, const QString &name)
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (!Filter.isEmpty()) dialog.setNameFilters(nameFilters(Filter));
     if (save)
-        dialog.extension = DefaultExt;
+        dialog.extensions = extensions();
     else if (!DefaultExt.isEmpty())
         dialog.setDefaultSuffix(DefaultExt.startsWith(QLatin1Char('.')) ? DefaultExt.mid(1) : DefaultExt);
     // A name that holds separators is offered whole, not taken for a folder that would have to exist.

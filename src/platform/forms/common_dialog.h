@@ -18,6 +18,9 @@ public:
     /// Such as ".txt". To save, it is put behind every name that does not end in it; to open, behind a name
     /// without any extension.
     QString DefaultExt;
+    /// To save, the extension of the chosen filter is put behind every name that ends in that of none of
+    /// them, in the place of DefaultExt.
+    bool FilterExt = false;
     /// Of the help; see HelpContext.
     QString Topic;
     /// Cancel raises 32755; otherwise it leaves FileName as it was.
@@ -36,6 +39,7 @@ public:
     static QString withExtension(const QString &name, const QString &extension);
 
 private:
+    QStringList extensions() const;
     QString choose(bool save, const QString &folder, const QString &name) const;
     QString ask(bool save, const QString &folder, const QString &name) const;
     void take(const QString &chosen);
