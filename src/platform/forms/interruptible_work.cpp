@@ -82,7 +82,11 @@ bool InterruptibleWork::keyHeld(QObject *receiver, QEvent *event) {
     }
     const bool presses = key.key() == Qt::Key_Space || key.key() == Qt::Key_Return;
     const bool toTheButton = m_stop.hasFocus() && presses && isOfWindow(receiver);
-    if (!toTheButton && isOfWindow(receiver)) keep(receiver, *event);
+    if (!toTheButton && isOfWindow(receiver)) {
+        // To the control that has the focus now: a click may take it elsewhere meanwhile.
+        QWidget *focused = receiver->isWindowType() ? QApplication::focusWidget() : nullptr;
+        keep(focused != nullptr ? focused : receiver, *event);
+    }
     return !toTheButton;
 }
 
