@@ -5,13 +5,18 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include <QTest>
+
 #include "bench/other_program.h"
+#include "bench/program.h"
 #include "bench/rows.h"
 #include "bench/samples.h"
 #include "data/database_names.h"
 #include "platform/dao/database.h"
 #include "platform/dao/db_engine.h"
+#include "platform/forms/default_instance.h"
 #include "values/value_search.h"
+#include "workbench/frmFindValue.h"
 
 namespace Bench {
 
@@ -83,6 +88,38 @@ void furtherKey(benchmark::State &state, const QString &database, const QStringL
     samples.report(state, {1000.0 / 60});
 }
 
+/// In the real window, with its painting: digit for digit typed at the end of the box, each another number.
+void keyInWindow(benchmark::State &state, const QString &database, const QString &boxName, bool diagram) {
+    const Program program(database);
+    paint();
+    program.command("mnuToolsElem(1)");
+    auto &window = DefaultInstance<frmFindValue>();
+    window.tabPages->setCurrentIndex(diagram ? 1 : 0);
+    window.txtTemperature(0)->setText("200,1");
+    window.txtLeast(0)->setText("10,1");
+    paint();
+    auto *box = window.findChild<QLineEdit *>(boxName);
+    box->setFocus();
+    Samples samples;
+    const QString begin = box->text();
+    int number = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        // what stands before the digit is another number each time, so that no answer is known before
+        if (number++ % 9 == 0) box->setText(begin + QString::number(number % 10));
+        paint();
+        state.SetIterationTime(samples.take([&] {
+            QTest::keyClick(box, static_cast<char>('1' + number % 9));
+            paint();
+        }));
+        box->setText(box->text().chopped(1));
+    }
+    if (window.lblSummary->text().startsWith("0 ") || !window.cmdSave->isEnabled())
+        return state.SkipWithError("the window found nothing");
+    window.Unload();
+    paint();
+    samples.report(state, {1000.0 / 60});
+}
+
 } // namespace
 
 void addValueRows(const QString &database) {
@@ -100,6 +137,12 @@ void addValueRows(const QString &database) {
     addKey("find by value, a key of the least value", {"Rp02"}, false);
     addKey("find by value, a key of the temperature", {"Rp02"}, true);
     addKey("find by value, the same with five conditions", five, true);
+    for (const bool diagram : {false, true})
+        for (const char *box : {"txtLeast(0)", "txtTemperature(0)"})
+            add(QStringLiteral("find by value, a key in %1 with painting, %2")
+                    .arg(box == QStringLiteral("txtLeast(0)") ? "the least value" : "the temperature",
+                         diagram ? "diagram" : "list"),
+                Keys, [=](benchmark::State &state) { keyInWindow(state, database, box, diagram); });
 }
 
 } // namespace Bench

@@ -34,7 +34,10 @@ int main(int argc, char **argv) {
 
     Tour tour(QString::fromLocal8Bit(argv[1]));
     startProgram(tour);
+    makeCardOfNothing(tour);
     searchAndSelect(tour);
+    findByValue(tour);
+    makeCards(tour);
     showPmaIndex(tour);
     readMaterials(tour);
     showTablesAndGraphs(tour);

@@ -70,5 +70,8 @@ void valuesOverTemperature(Tour &tour);
 void printAndSave(Tour &tour);
 void showAbout(Tour &tour);
 void readHelp(Tour &tour);
+void findByValue(Tour &tour);
+void makeCards(Tour &tour);
+void makeCardOfNothing(Tour &tour);
 void useSmallScreens(Tour &tour);
 void useAScreenWithPanels(Tour &tour);

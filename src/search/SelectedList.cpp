@@ -6,6 +6,7 @@
 #include "data/queries.h"
 #include "data/status_numbers.h"
 #include "material/frmMaterial2.h"
+#include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/drop_target.h"
@@ -21,8 +22,17 @@ namespace {
 constexpr int MostMaterials = 10;
 constexpr int MostForBatch = 30;
 
-int matID(const DataControl &source) {
-    return CInt(source.recordset()->Fields("matID"));
+int matID(const Recordset &grades) {
+    return CInt(grades.Fields("matID"));
+}
+
+/// Whether the grade's standard is known. Tells the user where it is not.
+bool hasStandard(const Recordset &found, const Recordset &standards) {
+    if (!standards.Eof() && !standards.Bof()) return true;
+    MsgBox("The standard '" + cellText(found.Fields("standard")) + "' of the material '" +
+               cellText(found.Fields("name")) + "' is not in the database. The material cannot be selected.",
+           vbExclamation, "Standard Missing");
+    return false;
 }
 
 } // namespace
@@ -60,7 +70,7 @@ void SelectedList::addFromList() {
     if (m_search.dtaMaterials->recordset()->RecordCount() > 0) add();
 }
 
-bool SelectedList::mayAdd() const {
+bool SelectedList::mayAdd(const Recordset &found) const {
     const Materials &selected = mdiVelmar::instance().colMaterials;
     if ((selected.Count() == MostMaterials && !batchOffered()) || selected.Count() == MostForBatch) {
         // the title says 10 for 30 too: the number that holds is in the text
@@ -68,7 +78,7 @@ bool SelectedList::mayAdd() const {
                "10 Materials already selected!");
         return false;
     }
-    const int id = matID(*m_search.dtaMaterials);
+    const int id = matID(found);
     for (const auto &material : selected) {
         if (material->ID() != id) continue;
         MsgBox("This Material is already selected!", vbOKOnly, "Duplicate Choice");
@@ -77,26 +87,32 @@ bool SelectedList::mayAdd() const {
     return true;
 }
 
-bool SelectedList::hasStandard() const {
-    const auto standards = m_search.dtaStandard->recordset();
-    if (!standards->Eof() && !standards->Bof()) return true;
-    const auto found = m_search.dtaMaterials->recordset();
-    MsgBox("The standard '" + cellText(found->Fields("standard")) + "' of the material '" +
-               cellText(found->Fields("name")) + "' is not in the database. The material cannot be selected.",
-           vbExclamation, "Standard Missing");
-    return false;
-}
-
 void SelectedList::add() {
     if (m_search.cmbChooseStd->currentText() != QLatin1String("EN"))
         MsgBox("You have entered an ASME/SS-standard. \r\n"
                "The material properties given by VELMAR PED are valid for EN-standards only.",
                vbExclamation, "ASME/SS-standard");
     const auto found = m_search.dtaMaterials->recordset();
-    if (found->Eof() || found->Bof() || !mayAdd() || !hasStandard()) return;
+    if (found->Eof() || found->Bof() || !mayAdd(*found)) return;
+    take(*found, *m_search.dtaStandard->recordset());
+}
 
+void SelectedList::addGrade(qint16 id) {
+    Database &database = *modDBase::dbMain();
+    const auto found = database.OpenRecordset(Queries::sqlSelectedMaterials({id}));
+    if (found->Eof() || !mayAdd(*found)) return;
+    const auto standards = database.OpenRecordset(Queries::sqlAllStandards());
+    const QString standard = cellText(found->Fields("standard"));
+    while (!standards->Eof() &&
+           cellText(standards->Fields("standard")).compare(standard, Qt::CaseInsensitive) != 0)
+        standards->MoveNext();
+    take(*found, *standards);
+}
+
+void SelectedList::take(const Recordset &found, const Recordset &standard) {
+    if (!hasStandard(found, standard)) return;
     auto material = std::make_shared<Material>();
-    material->SetProperties(*found, *m_search.dtaStandard->recordset());
+    material->SetProperties(found, standard);
     Materials &selected = mdiVelmar::instance().colMaterials;
     selected.Add(material);
     refresh({});
@@ -107,7 +123,7 @@ void SelectedList::add() {
 void SelectedList::remove() {
     Materials &selected = mdiVelmar::instance().colMaterials;
     if (selected.Count() == 0) return;
-    const int id = matID(*m_search.dtaSelected);
+    const int id = matID(*m_search.dtaSelected->recordset());
     for (const auto &material : selected) {
         if (material->ID() != id) continue;
         selected.Remove(Materials::keyOf(*material));

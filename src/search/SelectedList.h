@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+class Recordset;
 class frmSearch;
 
 /// The list itself is mdiVelmar's colMaterials; the grid only shows it, by a query.
@@ -12,8 +13,11 @@ class SelectedList : public QObject {
 public:
     explicit SelectedList(frmSearch &window);
 
-    /// The current row of tdbMaterials. All ways of adding end here; warnings and refusals are told by boxes.
+    /// The current row of tdbMaterials. All ways of adding within the window end here; warnings and refusals
+    /// are told by boxes.
     void add();
+    /// A grade found elsewhere, by its identity, with the same refusals. One that is not there is none.
+    void addGrade(qint16 id);
     /// The same where the list of found materials holds rows.
     void addFromList();
     /// The current row of tdbSelected.
@@ -27,11 +31,11 @@ public:
 
 private:
     bool batchOffered() const;
-    bool mayAdd() const;
+    /// Whether there is room, and the grade of the current row is not in the list. Tells the user where not.
+    bool mayAdd(const Recordset &found) const;
+    void take(const Recordset &found, const Recordset &standard);
     /// Each in a window, in the place of the search.
     void OpenSelectedMaterials();
-    /// Whether the current row's standard is known. Tells the user where it is not.
-    bool hasStandard() const;
     void fillBin();
     void showCount();
     void openWindows();

@@ -145,6 +145,10 @@ void frmSearch::RefreshSelected(const QString &order) {
     m_selected->refresh(order);
 }
 
+void frmSearch::SelectGrade(qint16 id) {
+    m_selected->addGrade(id);
+}
+
 void frmSearch::ShowSelections() {
     m_selected->show();
 }

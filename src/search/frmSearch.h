@@ -30,6 +30,9 @@ public:
     void SearchMaterials(const QString &orderBy);
     /// Shows the selected materials in that order, a field's name; empty is "standard, name".
     void RefreshSelected(const QString &order);
+    /// Adds a grade that was found elsewhere to the selected materials, as the user would add it here: with
+    /// the same refusals, which boxes tell.
+    void SelectGrade(qint16 id);
     /// Opens the selected materials, each in a window, in the place of this one. Without any nothing happens.
     void ShowSelections();
 

@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include "platform/runtime/conversions.h"
+
 namespace {
 
 using Condition = Typed<ValueCondition>;
@@ -11,7 +13,18 @@ ValueLimits limitsOf(const QString &sign, double number) {
     return sign.startsWith(QLatin1Char('>')) ? ValueLimits{limit, {}} : ValueLimits{{}, limit};
 }
 
+QString limitText(const std::optional<ValueLimit> &limit, const QString &sign) {
+    return limit ? " " + sign + (limit->inclusive ? "= " : " ") + CStr(limit->number) : QString();
+}
+
 } // namespace
+
+QString ConditionText::of(const ValueCondition &condition) {
+    QString text = condition.property.name() + limitText(condition.limits.least, ">") +
+                   limitText(condition.limits.greatest, "<") + " at " + condition.temperature;
+    if (condition.thickness) text += " thickness " + CStr(*condition.thickness);
+    return text;
+}
 
 Condition ConditionText::read(const QString &text, const QVector<Property> &properties) {
     static const QRegularExpression form(

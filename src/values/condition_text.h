@@ -9,4 +9,7 @@ namespace ConditionText {
 /// limit, °C, mm. The error tells which part is not understood.
 Typed<ValueCondition> read(const QString &text, const QVector<Property> &properties);
 
+/// What read() understands, where only one limit is given; both stand beside each other.
+QString of(const ValueCondition &condition);
+
 } // namespace ConditionText

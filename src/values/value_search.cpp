@@ -91,16 +91,35 @@ const ValueTable &ValueSearch::table(const Property &property) const {
 }
 
 std::shared_ptr<const ValueSearch::Answer> ValueSearch::answer(const ValueCondition &condition) const {
-    for (const auto &[asked, answer] : std::as_const(m_answers))
-        if (asked == condition) return answer;
+    for (qsizetype i = 0; i < m_answers.size(); ++i) {
+        if (m_answers[i].first != condition) continue;
+        m_answers.move(i, m_answers.size() - 1);
+        return m_answers.last().second;
+    }
+    const bool leastOnly = condition.limits.least && !condition.limits.greatest;
+    const auto answer = std::make_shared<const Answer>(leastOnly ? atLeast(condition) : computed(condition));
+    if (m_answers.size() == MostAnswers) m_answers.removeFirst();
+    m_answers << std::pair(condition, answer);
+    return answer;
+}
+
+ValueSearch::Answer ValueSearch::computed(const ValueCondition &condition) const {
     const ValueTable &values = table(condition.property);
     const ValueTable::Question question = questionOf(values, condition);
-    auto answer = std::make_shared<Answer>();
-    answer->reserve(static_cast<std::size_t>(m_grades.count()));
+    Answer answer;
+    answer.reserve(static_cast<std::size_t>(m_grades.count()));
     for (int grade = 0; grade < m_grades.count(); ++grade)
-        answer->push_back(values.best(grade, question));
-    if (m_answers.size() > MostConditions) m_answers.removeFirst();
-    m_answers << std::pair(condition, answer);
+        answer.push_back(values.best(grade, question));
+    return answer;
+}
+
+/// The greatest value of all is also the best one from the limit on, or there is none.
+ValueSearch::Answer ValueSearch::atLeast(const ValueCondition &condition) const {
+    ValueCondition any = condition;
+    any.limits = {};
+    Answer answer = *this->answer(any);
+    for (ValueTable::Best &best : answer)
+        if (best.column != 0 && !condition.limits.hold(best.number)) best = {Absence::None};
     return answer;
 }
 
@@ -137,15 +156,35 @@ ValueResult ValueSearch::find(const ValueQuery &query) const {
     return result;
 }
 
+const ValueTable::Best &ValueSearch::hit(const ValueQuery &query, const ValueResult &result, int place,
+                                         int condition) {
+    return result.hits[static_cast<std::size_t>(place * query.conditions.size() + condition)];
+}
+
+std::optional<FoundValue> ValueSearch::at(const ValueCondition &condition, int grade) const {
+    const ValueTable &values = table(condition.property);
+    const ValueTable::Question question = questionOf(values, condition);
+    const ValueTable::Best best = values.best(grade, question);
+    if (best.column == 0) return std::nullopt;
+    return FoundValue{values.band(grade, best.column), values.text(grade, best.column, question),
+                      best.number};
+}
+
+int ValueSearch::bandLimit(const ValueQuery &query, const ValueResult &result, int place,
+                           int condition) const {
+    return table(query.conditions[condition].property)
+        .bandLimit(result.grades[static_cast<std::size_t>(place)],
+                   hit(query, result, place, condition).column);
+}
+
 FoundValue ValueSearch::found(const ValueQuery &query, const ValueResult &result, int place,
                               int condition) const {
     const ValueCondition &asked = query.conditions[condition];
     const ValueTable &values = table(asked.property);
     const int grade = result.grades[static_cast<std::size_t>(place)];
-    const ValueTable::Best &hit =
-        result.hits[static_cast<std::size_t>(place * query.conditions.size() + condition)];
-    return {values.band(grade, hit.column), values.text(grade, hit.column, questionOf(values, asked)),
-            hit.number};
+    const ValueTable::Best &best = hit(query, result, place, condition);
+    return {values.band(grade, best.column), values.text(grade, best.column, questionOf(values, asked)),
+            best.number};
 }
 
 QString ValueSearch::summary(const ValueQuery &query, const ValueResult &result) const {
@@ -164,18 +203,18 @@ QString ValueSearch::summary(const ValueQuery &query, const ValueResult &result)
 }
 
 std::vector<ValueSearch::Point> ValueSearch::points(const ValueCondition &x, const ValueCondition &y) const {
-    const ValueTable &xTable = table(x.property);
-    const ValueTable &yTable = table(y.property);
     ValueCondition xAny = x;
     ValueCondition yAny = y;
     xAny.limits = yAny.limits = {};
-    const ValueTable::Question xQuestion = questionOf(xTable, xAny);
-    const ValueTable::Question yQuestion = questionOf(yTable, yAny);
+    const std::shared_ptr<const Answer> xs = answer(xAny);
+    const std::shared_ptr<const Answer> ys = answer(yAny);
     std::vector<Point> points;
-    for (int grade = 0; grade < m_grades.count(); ++grade) {
-        const ValueTable::Best xBest = xTable.best(grade, xQuestion);
-        const ValueTable::Best yBest = yTable.best(grade, yQuestion);
-        if (xBest.column != 0 && yBest.column != 0) points.push_back({xBest.number, yBest.number, grade});
+    points.reserve(xs->size());
+    for (std::size_t grade = 0; grade < xs->size(); ++grade) {
+        const ValueTable::Best &xBest = (*xs)[grade];
+        const ValueTable::Best &yBest = (*ys)[grade];
+        if (xBest.column != 0 && yBest.column != 0)
+            points.push_back({xBest.number, yBest.number, static_cast<int>(grade)});
     }
     return points;
 }

@@ -79,6 +79,11 @@ public:
     ValueResult find(const ValueQuery &query) const;
     /// A value of the result.
     FoundValue found(const ValueQuery &query, const ValueResult &result, int place, int condition) const;
+    /// The value of a grade, known by its place in the list; nothing where it has none within the limits.
+    /// Raises as find().
+    std::optional<FoundValue> at(const ValueCondition &condition, int grade) const;
+    /// The upper limit in mm of the value's thickness band; 0 without bands.
+    int bandLimit(const ValueQuery &query, const ValueResult &result, int place, int condition) const;
     /// "212 of 32,767 grades; no value at 300 °C in 87: 31 tables end below, 40 begin above, 16 have no
     /// value"
     QString summary(const ValueQuery &query, const ValueResult &result) const;
@@ -95,14 +100,20 @@ public:
 
 private:
     using Answer = std::vector<ValueTable::Best>;
+    /// With and without its limits one for each condition, and one for each axis of a diagram.
+    static constexpr int MostAnswers = 2 * MostConditions + 2;
 
     const ValueTable &table(const Property &property) const;
+    static const ValueTable::Best &hit(const ValueQuery &query, const ValueResult &result, int place,
+                                       int condition);
     std::shared_ptr<const Answer> answer(const ValueCondition &condition) const;
+    Answer computed(const ValueCondition &condition) const;
+    Answer atLeast(const ValueCondition &condition) const;
 
     Database &m_database;
     NumberFlags m_flags;
     GradeList m_grades;
     std::map<QString, std::unique_ptr<ValueTable>> m_tables;
-    /// Of the last conditions asked, the newest last: at a key one of them changes.
+    /// Of the last conditions asked, the one asked last behind the others: at a key one of them changes.
     mutable QVector<std::pair<ValueCondition, std::shared_ptr<const Answer>>> m_answers;
 };

@@ -184,6 +184,10 @@ QString ValueTable::band(int grade, int column) const {
     return m_heads[at(grade).heads].bands.heading(column);
 }
 
+int ValueTable::bandLimit(int grade, int column) const {
+    return m_heads[at(grade).heads].bands.limits.value(column);
+}
+
 SourceArray ValueTable::source(const Grade &grade) const {
     const int last = columnCount(grade);
     SourceArray source(static_cast<int>(grade.rows), last);

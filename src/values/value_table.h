@@ -98,6 +98,8 @@ public:
     QString text(int grade, int column, const Question &question) const;
     /// The heading of the column's thickness band; empty without bands.
     QString band(int grade, int column) const;
+    /// Its upper limit in mm; 0 without bands.
+    int bandLimit(int grade, int column) const;
 
 private:
     enum class State : quint8 {
