@@ -98,7 +98,9 @@ QString FoundGrid::caption(int column) const {
                                          : at + (unit.isEmpty() ? "\n" : "\n[" + unit + "]"));
     }
     if (m_by != shown) return text;
-    return text + (m_reversed ? QStringLiteral(" ▲") : QStringLiteral(" ▼"));
+    const bool bestFirst =
+        shown.kind == Kind::Value && !m_found->query.conditions[shown.condition].limits.smallestIsBest();
+    return text + (bestFirst == m_reversed ? QStringLiteral(" ▲") : QStringLiteral(" ▼"));
 }
 
 void FoundGrid::showRows() {

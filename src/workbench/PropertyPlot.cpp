@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "platform/forms/placement.h"
+#include "platform/runtime/conversions.h"
 
 namespace {
 
@@ -12,7 +13,10 @@ const QStringList AxisNames{"X", "Y"};
 
 QString titleOf(const ValueCondition &condition) {
     const QString unit = ConditionInputs::unit(condition.property);
-    return ConditionInputs::heading(condition) + (unit.isEmpty() ? QString() : " [" + unit + "]");
+    QString title = condition.property.label + (unit.isEmpty() ? QString() : " [" + unit + "]") + ", " +
+                    condition.temperature + " °C";
+    if (condition.thickness) title += ", " + CStr(*condition.thickness) + " mm";
+    return title;
 }
 
 QString textOr(const QLineEdit *box) {
