@@ -1,5 +1,6 @@
 #include "workbench/CompositionPage.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -34,6 +35,10 @@ CompositionPage::CompositionPage(QWidget *parent)
     layout->addWidget(lblMarked);
     layout->addWidget(tdbComposition, 1);
     WorkbenchGrid::setLook(*tdbComposition);
+    m_later.setSingleShot(true);
+    connect(&m_later, &QTimer::timeout, this, [this] {
+        if (isVisible()) readOn();
+    });
 }
 
 void CompositionPage::setColumns() {
@@ -51,19 +56,46 @@ void CompositionPage::setColumns() {
 }
 
 void CompositionPage::show(const QVector<Grades::Grade> &grades) {
-    const BusyPointer busy;
     m_grades = grades;
-    QVector<GradeComposition> compositions;
-    for (const Grades::Grade &grade : grades) {
-        if (!m_read.contains(grade.id)) m_read[grade.id] = GradeComposition::load(*modDBase::dbMain(), grade);
-        compositions << m_read[grade.id];
+    readOn();
+}
+
+/// Whoever turns to another page or closes the window does not wait for the rest.
+void CompositionPage::readOn() {
+    const BusyPointer busy;
+    QElapsedTimer clock;
+    clock.start();
+    for (const Grades::Grade &grade : m_grades) {
+        if (m_read.contains(grade.id)) continue;
+        if (clock.elapsed() > patience) {
+            showProgress();
+            m_later.start();
+            return;
+        }
+        m_read[grade.id] = GradeComposition::load(*modDBase::dbMain(), grade);
     }
+    m_later.stop();
+    showRows();
+}
+
+void CompositionPage::showProgress() {
+    const auto read = std::count_if(m_grades.begin(), m_grades.end(),
+                                    [this](const auto &grade) { return m_read.contains(grade.id); });
+    lblMarked->setText(QStringLiteral("Reading the compositions: %1 of %2.").arg(read).arg(m_grades.size()));
+    m_rows = std::make_shared<QVector<CompositionRow>>();
+    tdbComposition->setCells(nullptr);
+}
+
+void CompositionPage::showRows() {
+    QVector<GradeComposition> compositions;
+    for (const Grades::Grade &grade : std::as_const(m_grades))
+        compositions << m_read[grade.id];
     const auto rows = std::make_shared<const QVector<CompositionRow>>(compareCompositions(compositions));
     m_rows = rows;
-    lblMarked->setText(rows->isEmpty()     ? "None of the grades has a composition."
-                       : grades.size() > 1 ? "Limits that are not those of " +
-                                                 ValueTables::title(grades.first()) + " are marked."
-                                           : QString());
+    lblMarked->setText(rows->isEmpty()       ? "None of the grades has a composition."
+                       : m_grades.size() > 1 ? "Limits that are not those of " +
+                                                   ValueTables::title(m_grades.first()) + " are marked."
+                                             : QString());
     setColumns();
     GridCells cells;
     cells.rows = static_cast<int>(rows->size());

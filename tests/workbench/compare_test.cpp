@@ -199,6 +199,26 @@ TEST_F(Compare, TheCompositionMarksWhatIsNotAsInTheFirstGrade) {
     EXPECT_EQ(tipOf(grid, 2, 4), "The first grade has 1,4.");
 }
 
+TEST_F(Compare, CompositionsThatTakeLongAreReadWhileTheirPageIsInSight) {
+    select({2, 3, 4, 11});
+    frmCompare &window = open();
+    const CompositionPage &page = *window.pagComposition;
+    window.pagComposition->patience = -1; // one that nothing is read in
+    window.tabPages->setCurrentIndex(2);
+    EXPECT_EQ(page.lblMarked->text(), "Reading the compositions: 0 of 4.");
+    EXPECT_EQ(page.tdbComposition->RowCount(), 0);
+    QTest::qWait(20);
+    window.tabPages->setCurrentIndex(0);
+    window.pagComposition->patience = 1000;
+    QTest::qWait(20);
+    EXPECT_EQ(page.tdbComposition->RowCount(), 0) << "nobody looks at it";
+    window.pagComposition->patience = -1;
+    window.tabPages->setCurrentIndex(2);
+    window.pagComposition->patience = 1000;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return page.tdbComposition->RowCount() > 10; }));
+    EXPECT_TRUE(page.lblMarked->text().startsWith("Limits that are not those of P265GH"));
+}
+
 TEST_F(Compare, TellsHowToSelectAndFollowsTheSelection) {
     frmCompare &window = open();
     EXPECT_TRUE(window.fraPages->lblNoGrade->isVisible());
