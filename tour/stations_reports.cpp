@@ -1,19 +1,11 @@
 // Reports on the screen and in files.
 #include <QDir>
-#include <QFileInfo>
-#include <QProcess>
 
 #include "platform/forms/form.h"
 #include "platform/forms/msg_box.h"
 #include "tour/tour.h"
 
 namespace {
-
-/// The pages of a saved file, where the tool for it is installed.
-void pagePictures(const QString &pdf) {
-    QProcess::execute(
-        "pdftoppm", {"-png", "-r", "70", pdf, QFileInfo(pdf).path() + "/page-" + QFileInfo(pdf).baseName()});
-}
 
 QString save(Tour &tour, const QString &name, int format) {
     const QString file = tour.folder() + '/' + name;
@@ -39,7 +31,7 @@ void saveDesignValues(Tour &tour) {
     tour.boxes().chooseFile(file);
     tour.boxes().answerMsgBox(vbOK);
     tour.click(window, "cmdPrintSave(4)");
-    pagePictures(file);
+    Tour::pagePictures(file);
 }
 
 void saveGraph(Tour &tour) {
@@ -50,7 +42,7 @@ void saveGraph(Tour &tour) {
     tour.boxes().chooseFile(file);
     tour.boxes().answerMsgBox(vbOK);
     tour.click(window, "cmdPrintSave(0)");
-    pagePictures(file);
+    Tour::pagePictures(file);
     tour.click(window, "CommandShowTable");
 }
 
@@ -69,11 +61,11 @@ void printAndSave(Tour &tour) {
     });
     tour.menu("mnuFileElem(3)");
 
-    pagePictures(save(tour, "P265GH.pdf", 0));
+    Tour::pagePictures(save(tour, "P265GH.pdf", 0));
     save(tour, "P265GH.rtf", 1);
     save(tour, "P265GH.txt", 2);
     tour.windowOf("X2CrNiMo17-12-2");
-    pagePictures(save(tour, "X2CrNiMo17-12-2.pdf", 0));
+    Tour::pagePictures(save(tour, "X2CrNiMo17-12-2.pdf", 0));
     saveDesignValues(tour);
     saveGraph(tour);
 }

@@ -11,6 +11,13 @@ namespace {
 
 constexpr QSize SmallScreen(800, 600);
 
+void save(Tour &tour, FormBase &form, const QString &name) {
+    const QString file = tour.folder() + '/' + name;
+    tour.boxes().chooseFile(file);
+    tour.click(form, "cmdSave");
+    if (file.endsWith(QLatin1String(".pdf"))) Tour::pagePictures(file);
+}
+
 void pictureSmall(Tour &tour, const QString &name, FormBase &form) {
     const QRect before = form.asWidget()->geometry();
     form.asWidget()->resize(SmallScreen.width() - 6, SmallScreen.height() - 28);
@@ -33,6 +40,8 @@ void compareGrades(Tour &tour) {
     tour.type(thickness, "40");
     tour.picture("compare", window);
     pictureSmall(tour, "compare-800x600", form);
+    for (const char *ending : {".pdf", ".rtf", ".txt", ".xlsx"})
+        save(tour, form, QLatin1String("comparison") + QLatin1String(ending));
     tour.type(tour.control<QLineEdit>(form, "txtFilter"), "therm");
     tour.picture("compare-filter", window);
     tour.retype(temperature, "3x");
@@ -57,6 +66,7 @@ void valuesOverTemperature(Tour &tour) {
     tour.retype(tour.control<QLineEdit>(form, "txtFrom"), "0");
     tour.retype(tour.control<QLineEdit>(form, "txtStep"), "25");
     tour.picture("value-sheet", window);
+    save(tour, form, "values-over-temperature.pdf");
     pictureSmall(tour, "value-sheet-800x600", form);
     auto &columns = tour.control<QListWidget>(form, "lstColumns");
     tour.click(form, "cmdNone");

@@ -8,7 +8,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QPainter>
+#include <QProcess>
 #include <QTest>
 #include <QWindow>
 
@@ -31,6 +33,11 @@ Tour::Tour(const QString &folder)
     QDir().mkpath(m_folder);
     qputenv("APPDATA", m_user.path().toUtf8());
     m_boxes.setUnexpectedHandler([](const QString &message) { giveUp("unexpected box: " + message); });
+}
+
+void Tour::pagePictures(const QString &pdf) {
+    const QFileInfo file(pdf);
+    QProcess::execute("pdftoppm", {"-png", "-r", "70", pdf, file.path() + "/page-" + file.baseName()});
 }
 
 QWidget &Tour::main() const {

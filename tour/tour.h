@@ -20,6 +20,8 @@ public:
     QString folder() const { return m_folder; }
     /// Every box that the program opens on its own is answered from here.
     ModalSeam &boxes() { return m_boxes; }
+    /// The pages of a saved file as pictures beside it, where the tool for that is installed.
+    static void pagePictures(const QString &pdf);
 
     /// A picture of the main window, or of another one, under the next number.
     void picture(const QString &name);

@@ -28,6 +28,8 @@ struct TakenTable {
     QList<QStringList> rows;
     /// Each on a line of its own.
     QString notes = {};
+    /// How many columns say what a row is: where not all have room, each part of the table begins with them.
+    int keyColumns = 1;
 };
 
 /// What a table does not tell itself: "Grade", "Temperature". Several texts stand beside each other.

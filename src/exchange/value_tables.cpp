@@ -26,6 +26,7 @@ TakenTable ValueTables::comparison(const QVector<Grades::Grade> &grades, const Q
     TakenTable table{QStringLiteral("Comparison"),
                      {{QStringLiteral("Property"), {}, true}, {QStringLiteral("Unit"), {}, true}},
                      {}};
+    table.keyColumns = 2;
     for (const Grades::Grade &grade : grades)
         table.columns << TakenColumn{title(grade)};
     for (const ComparisonRow &row : rows) {
@@ -73,6 +74,7 @@ TakenTable ValueTables::sheet(const ValueSheet &sheet) {
         QStringLiteral("Values over temperature"),
         {{QStringLiteral("Temperature"), QStringLiteral("°C")}, {QStringLiteral("Own row"), {}, true}},
         {}};
+    table.keyColumns = 2;
     for (const ValueColumn &column : sheet.columns)
         table.columns << TakenColumn{title(column), TakenTables::bareUnit(column.property.unit)};
     for (const SheetRow &row : sheet.rows) {

@@ -40,16 +40,7 @@ void addBlockTitle(Section &section, const QString &name, const QString &text, i
 void addReportHeader(actRepMain &report) {
     Section &section = report.AddSection(SectionType::ReportHeader, "ReportHeader");
     section.Height = 3930;
-    // the picture fills the gap in front of the word: it is the product's first letter
-    Image &letter = addImage(section, "imgVelmar", ":/velmar/app/velmar-ped.svg", 0, 90, 540, 540);
-    letter.AlternativeText = "V";
-    Label &title = addLabel(section, "lblVelmar", "     elmar-PED", 0, 120, 6000, 540);
-    title.Font.Size = 20;
-    title.Font.Bold = true;
-    Field &dateTime = addField(section, "txtDateTime", 6000, 330, 3060, LineHeight);
-    dateTime.Alignment = 1;
-    dateTime.Font.Size = 9;
-    addImage(section, "Image1", ":/velmar/app/logo.svg", 9240, 0, 960, 720);
+    addProgramHead(section);
 
     constexpr int WordWidth = 1650;
     constexpr int Right = 6000;

@@ -53,6 +53,20 @@ SubReport &addSubReport(Section &section, const QString &name, int top) {
     return add<SubReport>(section, name, 0, top, PageWidth, 0);
 }
 
+void addProgramHead(Section &section, const QString &dateTime) {
+    // the picture fills the gap in front of the word: it is the product's first letter
+    Image &letter = addImage(section, "imgVelmar", ":/velmar/app/velmar-ped.svg", 0, 90, 540, 540);
+    letter.AlternativeText = "V";
+    Label &title = addLabel(section, "lblVelmar", "     elmar-PED", 0, 120, 6000, 540);
+    title.Font.Size = 20;
+    title.Font.Bold = true;
+    Field &made = addField(section, "txtDateTime", 6000, 330, 3060, 270);
+    made.Text = dateTime;
+    made.Alignment = 1;
+    made.Font.Size = TableFontSize;
+    addImage(section, "Image1", ":/velmar/app/logo.svg", 9240, 0, 960, 720);
+}
+
 Label &addTitle(Section &section, const QString &text) {
     Label &title = addLabel(section, "lblTitle", text, 0, 0, PageWidth, TitleHeight);
     asHeading(title, 2);

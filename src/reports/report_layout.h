@@ -26,6 +26,8 @@ Printing::Image &addImage(Printing::Section &section, const QString &name, const
                           int top, int width, int height);
 Printing::SubReport &addSubReport(Printing::Section &section, const QString &name, int top);
 
+/// The product's name and pictures, and `dateTime`: imgVelmar, lblVelmar, txtDateTime and Image1.
+void addProgramHead(Printing::Section &section, const QString &dateTime = {});
 /// lblTitle, at the top.
 Printing::Label &addTitle(Printing::Section &section, const QString &text);
 /// lblNotes and txtNotes.

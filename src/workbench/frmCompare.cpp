@@ -91,7 +91,7 @@ void frmCompare::SetToolTips(bool showTips) {
     set(pagValues->txtFilter, "Shows the properties that have all of these words in name or unit");
     set(pagChart->cboProperty, "The property that is drawn");
     set(cmdCopy, "Copy the table of this page with its headings");
-    set(cmdSave, "Save the table of this page as a workbook, CSV or TSV");
+    set(cmdSave, "Save the table of this page as a workbook, a table for other programs or a report");
 }
 
 void frmCompare::selectionChanged() {

@@ -113,7 +113,7 @@ void frmValueSheet::SetToolTips(bool showTips) {
     set(lstColumns->cmdAll, "Tick all columns");
     set(lstColumns->cmdNone, "Tick no column");
     set(cmdCopy, "Copy the sheet with its headings");
-    set(cmdSave, "Save the sheet as a workbook, CSV or TSV");
+    set(cmdSave, "Save the sheet as a workbook, a table for other programs or a report");
 }
 
 /// The one that was shown before, else the one in the window in front, else the first.

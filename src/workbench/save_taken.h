@@ -7,8 +7,9 @@ namespace SaveTaken {
 
 /// With headings.
 void copy(const TakenTable &table);
-/// Asks for the file; its ending tells the form. What the database is stands in every workbook. `topic` is
-/// the page of the help. Raises what TakenTables::save raises.
+/// Asks for the file; its ending tells the form: a workbook, a text for other programs, or a report as PDF,
+/// RTF or text. What the database is stands in workbooks and reports. `topic` is the page of the help. Raises
+/// what TakenTables::save and the report outputs raise.
 void saveAsking(const TakenTable &table, const QVector<TakenFact> &facts, const QString &topic);
 
 } // namespace SaveTaken

@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -139,21 +138,4 @@ TEST_F(Sheet, BeginsWithTheGradeInFrontAndKeepsTheChoice) {
     select({});
     comeBack(*window);
     EXPECT_TRUE(window->fraPages->lblNoGrade->isVisible());
-}
-
-TEST_F(Sheet, AKeyIsShownWithinAFrame) {
-    select({23});
-    frmValueSheet &window = open();
-    ask(window, "20", "1019", "1");
-    QList<qint64> taken;
-    for (int i = 0; i < 11; ++i) {
-        QElapsedTimer clock;
-        clock.start();
-        QTest::keyClick(window.txtTo, i % 2 == 0 ? Qt::Key_Backspace : Qt::Key_9);
-        window.grab();
-        taken << clock.nsecsElapsed() / 1000;
-    }
-    std::sort(taken.begin(), taken.end());
-    RecordProperty("microseconds", static_cast<int>(taken[5]));
-    EXPECT_LT(taken[5], 200'000) << "ten times what a frame has, for a busy machine";
 }
