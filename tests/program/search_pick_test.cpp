@@ -164,16 +164,23 @@ TEST_F(SearchPickTest, WithToolTipsOffThereAreNone) {
 
 TEST_F(SearchPickTest, ErrorsGoUpWithTheRoutinesSource) {
     main();
-    for (const bool standard : {false, true}) {
-        try {
-            if (standard)
-                modDBase::SelectStandard("select * from nowhere", "DatabaseName");
-            else
-                modDBase::SelectFromList("select * from nowhere", "name", "Name", "DatabaseName");
-            FAIL();
-        } catch (const RuntimeError &error) {
-            EXPECT_EQ(error.number(), 3078);
-            EXPECT_EQ(error.source(), "velmar-pedmodDBase.SelectFromList");
+    const struct {
+        const char *sql, *database;
+        int number;
+    } cases[] = {{"select * from nowhere", "DatabaseName", 3078},
+                 {"select * from materials", "/nowhere/another.mdb", 3044}};
+    for (const auto &item : cases) {
+        for (const bool standard : {false, true}) {
+            try {
+                if (standard)
+                    modDBase::SelectStandard(item.sql, item.database);
+                else
+                    modDBase::SelectFromList(item.sql, "name", "Name", item.database);
+                FAIL();
+            } catch (const RuntimeError &error) {
+                EXPECT_EQ(error.number(), item.number);
+                EXPECT_EQ(error.source(), "velmar-pedmodDBase.SelectFromList");
+            }
         }
     }
 }
