@@ -25,8 +25,8 @@ std::array<Parts, 2> SplitValueText(const std::array<QString, 2> &values, bool b
 /// The first number of a cell, for a chart: "," becomes "." under a decimal point. Empty without one.
 QString GetNumberText(const QString &text, bool bDecimalPoint);
 
-/// The number in a cell or a design value, whatever its decimal sign; none for "-", "+", "x" and any text that
-/// has no number or more than one.
+/// The number in a cell or a design value, whatever its decimal sign; none for "-", "+", "x" and any text
+/// that has no number or more than one.
 std::optional<double> numberIn(const QString &text);
 
 /// Two decimals behind a comma, whatever the system's sign, rounded half away from zero on the decimal text.

@@ -10,8 +10,8 @@ namespace {
 
 const QString Sources = QStringLiteral(SOURCE_FOLDER "/src");
 /// From the ground up.
-const QStringList ProgramParts = {"data",    "design",   "values", "exchange", "shell",
-                                  "reports", "material", "pma",    "search", "workbench", "start"};
+const QStringList ProgramParts = {"data",     "design", "values", "exchange",  "shell", "reports",
+                                  "material", "pma",    "search", "workbench", "start"};
 /// How many of them know no window.
 constexpr int PartsWithoutWindows = 4;
 
