@@ -15,7 +15,7 @@ namespace Bench {
 
 namespace {
 
-constexpr int Strokes = 41;
+constexpr int SearchStrokes = 41;
 
 enum class Painted { No, Yes };
 
@@ -87,7 +87,7 @@ void addSearchRows(const QString &database) {
     const auto add = [&](const char *name, const Goal &goal, bool narrows, Painted painted) {
         benchmark::RegisterBenchmark(
             name, [=](benchmark::State &state) { stroke(state, database, goal, narrows, painted); })
-            ->Iterations(Strokes)
+            ->Iterations(SearchStrokes)
             ->UseManualTime();
     };
     add("a key in a search box, narrowing to a tenth", {4}, true, Painted::No);

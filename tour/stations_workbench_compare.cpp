@@ -11,7 +11,7 @@ namespace {
 
 constexpr QSize SmallScreen(800, 600);
 
-void save(Tour &tour, FormBase &form, const QString &name) {
+void saveValues(Tour &tour, FormBase &form, const QString &name) {
     const QString file = tour.folder() + '/' + name;
     tour.boxes().chooseFile(file);
     tour.click(form, "cmdSave");
@@ -41,7 +41,7 @@ void compareGrades(Tour &tour) {
     tour.picture("compare", window);
     pictureSmall(tour, "compare-800x600", form);
     for (const char *ending : {".pdf", ".rtf", ".txt", ".xlsx"})
-        save(tour, form, QLatin1String("comparison") + QLatin1String(ending));
+        saveValues(tour, form, QLatin1String("comparison") + QLatin1String(ending));
     tour.type(tour.control<QLineEdit>(form, "txtFilter"), "therm");
     tour.picture("compare-filter", window);
     tour.retype(temperature, "3x");
@@ -66,7 +66,7 @@ void valuesOverTemperature(Tour &tour) {
     tour.retype(tour.control<QLineEdit>(form, "txtFrom"), "0");
     tour.retype(tour.control<QLineEdit>(form, "txtStep"), "25");
     tour.picture("value-sheet", window);
-    save(tour, form, "values-over-temperature.pdf");
+    saveValues(tour, form, "values-over-temperature.pdf");
     pictureSmall(tour, "value-sheet-800x600", form);
     auto &columns = tour.control<QListWidget>(form, "lstColumns");
     tour.click(form, "cmdNone");

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int Width = 100;
+constexpr int CardWidth = 100;
 constexpr qsizetype LongestLine = 128;
 constexpr int MostValues = 6;
 const QString Comma = QStringLiteral(",");
@@ -75,7 +75,7 @@ QString mapdlCard(const MaterialCard &card) {
          QStringList{"Material card for Ansys MAPDL: material number 1, to be read in /PREP7",
                      "Name: " + card.name} +
              card.head)
-        lines << AsciiText::comment(line, "! ", Width);
+        lines << AsciiText::comment(line, "! ", CardWidth);
     lines << constants(card) << property("EX", card, CardQuantity::Elasticity, card.elasticity)
           << property("ALPX", card, CardQuantity::Expansion, card.expansion)
           << property("KXX", card, CardQuantity::Conductivity, card.conductivity)

@@ -16,9 +16,9 @@ using namespace Printing;
 namespace {
 
 /// What the place of a report takes on the drawing board; the report itself grows.
-constexpr int PlaceHeight = 1000;
+constexpr int ReportHeight = 1000;
 
-std::unique_ptr<actRepBatchPrint> &globalInstance() {
+std::unique_ptr<actRepBatchPrint> &batchInstance() {
     static std::unique_ptr<actRepBatchPrint> report;
     return report;
 }
@@ -26,8 +26,8 @@ std::unique_ptr<actRepBatchPrint> &globalInstance() {
 } // namespace
 
 actRepBatchPrint &actRepBatchPrint::instance() {
-    if (!globalInstance()) globalInstance() = std::make_unique<actRepBatchPrint>();
-    return *globalInstance();
+    if (!batchInstance()) batchInstance() = std::make_unique<actRepBatchPrint>();
+    return *batchInstance();
 }
 
 actRepBatchPrint::actRepBatchPrint() {
@@ -41,7 +41,7 @@ actRepBatchPrint::actRepBatchPrint() {
 
 void actRepBatchPrint::ShowModal(QWidget *owner) {
     // the main reports find their queue here until the last one has started
-    const auto unload = qScopeGuard([] { globalInstance().reset(); });
+    const auto unload = qScopeGuard([] { batchInstance().reset(); });
     mdiVelmar &main = mdiVelmar::instance();
     m_progress.emplace(main.stbStatus->PanelPlace(1), main.colMaterials.Count());
     Run();
@@ -65,7 +65,7 @@ void actRepBatchPrint::ReportStart() {
         auto &place = places.Add<SubReport>("SubReport" + number);
         place.Top = top;
         place.Width = PrintWidth();
-        place.Height = PlaceHeight;
+        place.Height = ReportHeight;
         place.Object = std::make_shared<actRepMain>();
         top = ReportLayout::bottomEdge(place);
         if (count < materials.Count()) places.Add<PageBreak>("PageBreak" + number).Top = top;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int LabelWidth = 1310;
 constexpr int SmallestColumn = 1155;
-constexpr int CaptionHeight = 851;
+constexpr int DesignCaptionHeight = 851;
 constexpr int ValueHeight = 283;
 constexpr int FieldTop = 10;
 constexpr int BlockGap = 70;
@@ -200,7 +200,7 @@ void actRepDesign::addNamesToBlock(const QString &column, int y) {
         if (!isExtendedRow(row)) continue;
         const RowKind kind = kindOf(row);
         const int height = row > LastLaidOutRow || kind == RowKind::Spacer ? 0
-                           : kind == RowKind::Caption                      ? CaptionHeight
+                           : kind == RowKind::Caption                      ? DesignCaptionHeight
                                                                            : ValueHeight;
         Field &cell = addField(block, blockCellName(row, column), label.Left, y, label.Width, height);
         asCell(cell);
@@ -274,7 +274,7 @@ void actRepDesign::placeBlockCell(Field &cell, int row, const Control *above, co
     cell.Font.Size = static_cast<const Field &>(previous).Font.Size;
     switch (kindOf(row)) {
     case RowKind::Caption:
-        cell.Height = CaptionHeight;
+        cell.Height = DesignCaptionHeight;
         cell.KeepWithNext = true;
         frameRight(cell);
         break;
@@ -327,7 +327,7 @@ void actRepDesign::Format(Section &section) {
             field.KeepWithNext = kindOf(row) == RowKind::Caption;
             switch (kindOf(row)) {
             case RowKind::Caption:
-                field.Height = CaptionHeight;
+                field.Height = DesignCaptionHeight;
                 field.Font.Bold = column == 0;
                 field.VerticalAlignment = 0;
                 field.Visible = true;

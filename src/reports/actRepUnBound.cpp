@@ -13,8 +13,8 @@ using namespace ReportLayout;
 namespace {
 
 // Less what the composition gives up, twelve columns of it fill the page, and four lines become three.
-constexpr int ColumnWidth = 900;
-constexpr int CaptionHeight = 960;
+constexpr int UnboundColumnWidth = 900;
+constexpr int UnboundCaptionHeight = 960;
 constexpr int CompositionWidthLess = 50;
 constexpr int CompositionHeightLess = 280;
 constexpr double CompositionFontSize = 8;
@@ -27,8 +27,8 @@ constexpr int BlockCaptionTop = BlockTitleTop + CaptionTop;
 constexpr int BlockLineDistance = 120;
 
 void addFirstColumnOfBlock(Section &block) {
-    constexpr int width = ColumnWidth - CompositionWidthLess;
-    constexpr int captionHeight = CaptionHeight - CompositionHeightLess;
+    constexpr int width = UnboundColumnWidth - CompositionWidthLess;
+    constexpr int captionHeight = UnboundCaptionHeight - CompositionHeightLess;
     constexpr int rowTop = BlockCaptionTop + captionHeight;
     asCaption(addLabel(block, "lblCapExt", {}, 0, BlockCaptionTop, width, captionHeight));
     for (const auto &[name, text, top] :
@@ -38,8 +38,8 @@ void addFirstColumnOfBlock(Section &block) {
         field.Text = text;
         field.Font.Size = CompositionFontSize;
     }
-    asCaption(addLabel(block, "lblX_0", {}, 0, BlockCaptionTop, width, CaptionHeight));
-    asCell(addField(block, "FieldX1_0", 0, BlockCaptionTop + CaptionHeight, width, RowHeight));
+    asCaption(addLabel(block, "lblX_0", {}, 0, BlockCaptionTop, width, UnboundCaptionHeight));
+    asCell(addField(block, "FieldX1_0", 0, BlockCaptionTop + UnboundCaptionHeight, width, RowHeight));
 }
 
 void addOtherElements(Section &section) {
@@ -55,13 +55,14 @@ actRepUnBound::actRepUnBound(std::shared_ptr<Material> material)
     : mMaterial(std::move(material)) {
     AddSection(SectionType::PageHeader, "PageHeader");
     Section &title = AddSection(SectionType::GroupHeader, "ghTitle");
-    title.Height = CaptionTop + CaptionHeight;
+    title.Height = CaptionTop + UnboundCaptionHeight;
     title.RepeatOnNewPage = true;
     addTitle(title, "  Title");
-    asCaption(addLabel(title, "lblCaption0", {}, 0, CaptionTop, ColumnWidth, CaptionHeight));
+    asCaption(addLabel(title, "lblCaption0", {}, 0, CaptionTop, UnboundColumnWidth, UnboundCaptionHeight));
     AddSection(SectionType::GroupHeader, "ghOther");
     AddSection(SectionType::GroupHeader, "ghExtended");
-    asCell(addField(AddSection(SectionType::Detail, "Detail"), "Field0", 0, 0, ColumnWidth, RowHeight));
+    asCell(
+        addField(AddSection(SectionType::Detail, "Detail"), "Field0", 0, 0, UnboundColumnWidth, RowHeight));
 
     Section &block = AddSection(SectionType::GroupFooter, "gfExtended");
     block.Visible = false;

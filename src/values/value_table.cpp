@@ -12,7 +12,7 @@ namespace {
 
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 /// No line between two such numbers leaves the range of a double.
-constexpr double MostPlain = 1e100;
+constexpr double LeastExponential = 1e100;
 
 } // namespace
 
@@ -71,7 +71,7 @@ bool ValueTable::isPlain(const Grade &grade) const {
     }
     return std::all_of(m_cells.begin() + grade.firstCell, m_cells.end(), [this](CellTexts::Id id) {
         const CellText &cell = m_texts[id];
-        return !cell.hasNumber || std::abs(cell.converted) < MostPlain;
+        return !cell.hasNumber || std::abs(cell.converted) < LeastExponential;
     });
 }
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-const QString CreepKey = QStringLiteral("CreepProp");
+const QString CreepTableKey = QStringLiteral("CreepProp");
 
 constexpr qint64 RowsBetweenTellings = 4096;
 
@@ -70,7 +70,7 @@ public:
         , m_table(std::make_unique<ValueTable>(grades.count(), flags)) {}
 
     std::unique_ptr<ValueTable> run() {
-        if (m_key == CreepKey)
+        if (m_key == CreepTableKey)
             readCreep();
         else
             readTemperatures();

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int LongestText = 30;
+constexpr int LongestCardText = 30;
 
 DropDownList *list(QWidget *page, const QString &name, const QString &accessibleName,
                    const QStringList &items = {}) {
@@ -22,7 +22,7 @@ DropDownList *list(QWidget *page, const QString &name, const QString &accessible
 
 QLineEdit *box(QWidget *page, const QString &name, const QString &accessibleName) {
     auto *made = named(new QLineEdit(page), name, accessibleName);
-    made->setMaxLength(LongestText);
+    made->setMaxLength(LongestCardText);
     return made;
 }
 

@@ -13,15 +13,15 @@ namespace {
 constexpr int LongestText = 60;
 constexpr int BoxCharacters = 9;
 
-QLineEdit *box(QWidget *window, const QString &name, const QString &accessibleName) {
+QLineEdit *textBox(QWidget *window, const QString &name, const QString &accessibleName) {
     auto *made = named(new QLineEdit(window), name, accessibleName);
     made->setMaxLength(LongestText);
     return made;
 }
 
-void keepNarrow(QLineEdit *box) {
-    box->setMaximumWidth(box->fontMetrics().averageCharWidth() * (BoxCharacters + 5));
-    box->setMinimumWidth(box->fontMetrics().averageCharWidth() * BoxCharacters);
+void keepNarrow(QLineEdit *textBox) {
+    textBox->setMaximumWidth(textBox->fontMetrics().averageCharWidth() * (BoxCharacters + 5));
+    textBox->setMinimumWidth(textBox->fontMetrics().averageCharWidth() * BoxCharacters);
 }
 
 QLabel *caption(QWidget *window, const QString &text, QWidget *buddy) {
@@ -45,9 +45,9 @@ FindControls::FindControls(QWidget &window) {
 }
 
 QHBoxLayout *FindControls::makeTexts(QWidget *window) {
-    txtStandard = box(window, "txtStandard", "Standard");
-    txtGroup = box(window, "txtGroup", "Group");
-    txtProductForm = box(window, "txtProductForm", "Product form");
+    txtStandard = textBox(window, "txtStandard", "Standard");
+    txtGroup = textBox(window, "txtGroup", "Group");
+    txtProductForm = textBox(window, "txtProductForm", "Product form");
     lblTexts = named(new QLabel(window), "lblTexts");
     auto *layout = new QHBoxLayout;
     layout->addWidget(caption(window, "&Standard", txtStandard));

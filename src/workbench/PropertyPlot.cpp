@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int LongestText = 20;
+constexpr int LongestPlotText = 20;
 const QStringList AxisNames{"X", "Y"};
 
 QString titleOf(const ValueCondition &condition) {
@@ -55,7 +55,7 @@ void PropertyPlot::makeAxis(QGridLayout *layout, int axis) {
     caption->setBuddy(cboAxis(axis));
     const auto box = [&](ControlArray<QLineEdit> &array, const QString &accessibleName) {
         QLineEdit *made = array.add(axis, new QLineEdit(this), accessibleName);
-        made->setMaxLength(LongestText);
+        made->setMaxLength(LongestPlotText);
         made->setMaximumWidth(made->fontMetrics().averageCharWidth() * 12);
         connect(made, &QLineEdit::textChanged, this, &PropertyPlot::changed);
         return made;

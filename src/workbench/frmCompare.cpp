@@ -18,11 +18,11 @@
 
 namespace {
 
-const QString Topic = QStringLiteral("Compare_Grades.htm");
+const QString CompareTopic = QStringLiteral("Compare_Grades.htm");
 } // namespace
 
 frmCompare::frmCompare()
-    : WorkbenchWindow("frmCompare", "Compare Grades", Topic)
+    : WorkbenchWindow("frmCompare", "Compare Grades", CompareTopic)
     , txtTemperature(numberBox("txtTemperature", "Temperature in °C"))
     , txtThickness(numberBox("txtThickness", "Thickness in mm"))
     , lblTyped(named(new QLabel, "lblTyped", "What is wrong with the boxes"))
@@ -135,7 +135,7 @@ void frmCompare::save() {
     QVector<TakenFact> facts = TakenTables::gradeFacts(selected().first(m_values.grades().size()));
     if (tabPages->currentWidget() != pagComposition && typed.isWhole())
         facts += ValueTables::atFacts(*typed.temperature, *typed.thickness);
-    SaveTaken::saveAsking(taken(), facts, Topic);
+    SaveTaken::saveAsking(taken(), facts, CompareTopic);
 }
 
 void frmCompare::restore(const QSettings &settings) {

@@ -24,7 +24,7 @@
 
 namespace {
 
-const QString Topic = QStringLiteral("Value_Sheet.htm");
+const QString SheetTopic = QStringLiteral("Value_Sheet.htm");
 
 QString headingOf(const ValueColumn &column) {
     const QString &unit = column.property.unit;
@@ -37,7 +37,7 @@ QString headingOf(const ValueColumn &column) {
 } // namespace
 
 frmValueSheet::frmValueSheet()
-    : WorkbenchWindow("frmValueSheet", "Values over Temperature", Topic)
+    : WorkbenchWindow("frmValueSheet", "Values over Temperature", SheetTopic)
     , cboGrade(named(new QComboBox, "cboGrade", "Grade"))
     , txtFrom(numberBox("txtFrom", "First temperature in °C"))
     , txtTo(numberBox("txtTo", "Last temperature in °C"))
@@ -190,7 +190,8 @@ ValueSheet frmValueSheet::sheet() const {
 }
 
 void frmValueSheet::save() {
-    SaveTaken::saveAsking(ValueTables::sheet(sheet()), TakenTables::gradeFacts({m_values->grade()}), Topic);
+    SaveTaken::saveAsking(ValueTables::sheet(sheet()), TakenTables::gradeFacts({m_values->grade()}),
+                          SheetTopic);
 }
 
 void frmValueSheet::restore(const QSettings &settings) {

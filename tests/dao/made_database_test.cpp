@@ -11,12 +11,12 @@
 
 namespace {
 
-struct Sample {
+struct MadeSample {
     const char *texts;
     const char *file;
 };
 
-class MadeDatabase : public ::testing::TestWithParam<Sample> {
+class MadeDatabase : public ::testing::TestWithParam<MadeSample> {
 protected:
     MadeDatabase() {
         QProcess script;
@@ -62,8 +62,8 @@ TEST_P(MadeDatabase, OpensInTheEngineUnderTheNameOfTheAccessFile) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, MadeDatabase,
-                         ::testing::Values(Sample{"csv", "Velmar_PED.mdb"},
-                                           Sample{"pma-csv", "PMA_Index.mdb"}),
+                         ::testing::Values(MadeSample{"csv", "Velmar_PED.mdb"},
+                                           MadeSample{"pma-csv", "PMA_Index.mdb"}),
                          [](const auto &each) {
                              return std::string(each.index == 0 ? "Materials" : "PmaIndex");
                          });

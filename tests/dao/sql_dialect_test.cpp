@@ -10,7 +10,7 @@
 
 namespace {
 
-using Rows = std::vector<std::string>;
+using RowTexts = std::vector<std::string>;
 
 class Dialect : public testing::Test {
 protected:
@@ -26,8 +26,8 @@ protected:
         return source;
     }
 
-    Rows rows(const QString &sql) { return shownRows(m_database, sql); }
-    Rows ids(const QString &where) { return rows("select id from part where " + where + " order by id"); }
+    RowTexts rows(const QString &sql) { return shownRows(m_database, sql); }
+    RowTexts ids(const QString &where) { return rows("select id from part where " + where + " order by id"); }
     std::string error(const QString &sql) {
         return errorText([&] { m_database.OpenRecordset(sql); });
     }
@@ -79,7 +79,7 @@ TEST(Wildcards, Table) {
 
 // The same patterns must mean the same over a whole column, in a condition row by row, and in a find.
 TEST_F(Dialect, LikeIsTheSameOnEveryRoad) {
-    const std::vector<std::pair<QString, Rows>> cases = {
+    const std::vector<std::pair<QString, RowTexts>> cases = {
         {"label like '*BOLT*'", {"1", "2"}},   {"label like '**'", {"1", "2", "3", "4"}},
         {"label like '?crou'", {"3", "4"}},    {"label LIKE \"*m#\"", {"1", "2"}},
         {"note like '*''s*'", {"4"}},          {"note like '*[[]new]'", {"4"}},
@@ -92,7 +92,7 @@ TEST_F(Dialect, LikeIsTheSameOnEveryRoad) {
         EXPECT_EQ(ids(where), expected) << where.toStdString();
         EXPECT_EQ(ids("(" + where + ") or id = 0"), expected) << where.toStdString();
         const auto all = m_database.OpenRecordset("part");
-        Rows found;
+        RowTexts found;
         for (all->FindFirst(where); !all->NoMatch(); all->FindNext(where))
             found.push_back(shownCell(all->Fields("id")));
         EXPECT_EQ(found, expected) << where.toStdString();
@@ -100,7 +100,7 @@ TEST_F(Dialect, LikeIsTheSameOnEveryRoad) {
 }
 
 TEST_F(Dialect, Conditions) {
-    const std::vector<std::pair<QString, Rows>> cases = {
+    const std::vector<std::pair<QString, RowTexts>> cases = {
         {"LABEL = 'BOLT m8'", {"1", "2"}},
         {"label = 'écrou'", {"3"}},
         {"[Part].[label] <> \"Bolt M8\"", {"3", "4"}},
@@ -135,18 +135,18 @@ TEST_F(Dialect, Conditions) {
 
 TEST_F(Dialect, OrderAndSummaries) {
     // Null comes first; an accent counts only between texts that are alike without it.
-    EXPECT_EQ(rows("select id from part order by label, id desc"), (Rows{"5", "2", "1", "4", "3"}));
-    EXPECT_EQ(rows("select id from part order by label desc"), (Rows{"3", "4", "1", "2", "5"}));
-    EXPECT_EQ(rows("select id from part order by mass, 1"), (Rows{"3", "1", "5", "4", "2"}));
+    EXPECT_EQ(rows("select id from part order by label, id desc"), (RowTexts{"5", "2", "1", "4", "3"}));
+    EXPECT_EQ(rows("select id from part order by label desc"), (RowTexts{"3", "4", "1", "2", "5"}));
+    EXPECT_EQ(rows("select id from part order by mass, 1"), (RowTexts{"3", "1", "5", "4", "2"}));
     EXPECT_EQ(rows("select distinct note from part order by note"),
-              (Rows{"-", "it's 100 % [new]", "steel", "Zinc"}));
+              (RowTexts{"-", "it's 100 % [new]", "steel", "Zinc"}));
     EXPECT_EQ(rows("select label, count(*), min(made) from part group by label"),
-              (Rows{"-|1|02.10.2017", "Bolt M8|2|30.09.2017", "ecrou|1|05.01.2016", "Écrou|1|-"}));
+              (RowTexts{"-|1|02.10.2017", "Bolt M8|2|30.09.2017", "ecrou|1|05.01.2016", "Écrou|1|-"}));
     EXPECT_EQ(
         rows("select inStock, count(label) from part group by inStock having count(label) < 3 order by 1"),
-        (Rows{"True|2", "False|2"}));
+        (RowTexts{"True|2", "False|2"}));
     EXPECT_EQ(rows("transform count(id) select inStock from part group by inStock pivot label"),
-              (Rows{"True|-|1|1|-", "False|1|1|-|1"}));
+              (RowTexts{"True|-|1|1|-", "False|1|1|-|1"}));
 }
 
 TEST_F(Dialect, Names) {
@@ -162,9 +162,9 @@ TEST_F(Dialect, Names) {
     EXPECT_EQ(fieldNames(
                   *m_database.OpenRecordset("transform max(id) select id from part group by id pivot label")),
               "id|<>|Bolt M8|ecrou|Écrou");
-    EXPECT_EQ(rows("select [order] from [select] where [order] > 1"), Rows{"2"});
-    EXPECT_EQ(rows("two words"), Rows{"7"});
-    EXPECT_EQ(rows(" [TWO WORDS] "), Rows{"7"});
+    EXPECT_EQ(rows("select [order] from [select] where [order] > 1"), RowTexts{"2"});
+    EXPECT_EQ(rows("two words"), RowTexts{"7"});
+    EXPECT_EQ(rows(" [TWO WORDS] "), RowTexts{"7"});
 }
 
 TEST_F(Dialect, TypesSurvive) {
@@ -187,7 +187,7 @@ TEST_F(Dialect, TypesSurvive) {
                                     QMetaType::Int};
     for (std::size_t i = 0; i < types.size(); ++i)
         EXPECT_EQ(summary->Fields(static_cast<int>(i)).typeId(), types[i]) << i;
-    EXPECT_EQ(shownRows(*summary), Rows{"Écrou|05.01.2016|15,45|12,25|251,275|False|5"});
+    EXPECT_EQ(shownRows(*summary), RowTexts{"Écrou|05.01.2016|15,45|12,25|251,275|False|5"});
 }
 
 TEST_F(Dialect, Errors) {

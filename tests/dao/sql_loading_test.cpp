@@ -5,7 +5,7 @@
 
 namespace {
 
-using Rows = std::vector<std::string>;
+using RowTexts = std::vector<std::string>;
 
 constexpr qint64 Never = 0;
 constexpr qint64 Always = 1'000'000;
@@ -80,8 +80,8 @@ TEST(Loading, TakesSmallTablesWholeAndOnce) {
     Database database = databaseOver(std::move(source), 6);
     EXPECT_TRUE(reads->isEmpty());
     EXPECT_EQ(shownRows(database, "select text from grades where name = 'a' and standard = 'EN 1'"),
-              (Rows{"x", "y"}));
-    EXPECT_EQ(shownRows(database, "select text from grades where name = 'B' order by text"), Rows{"z"});
+              (RowTexts{"x", "y"}));
+    EXPECT_EQ(shownRows(database, "select text from grades where name = 'B' order by text"), RowTexts{"z"});
     EXPECT_EQ(*reads, QStringList{"Grades"});
     database.OpenRecordset("select * from cells where id = 1");
     const auto some = database.OpenRecordset("select * from cells where id = 2");
@@ -125,7 +125,7 @@ TEST(Loading, RowsOutliveTheDatabase) {
     database.reset();
     rows->FindFirst("colID = 12");
     EXPECT_EQ(rows->Fields("val").toString(), QString::number(4 * 7 % 11 + 12));
-    EXPECT_EQ(shownRows(*result), (Rows{"EN 1", "EN 2"}));
+    EXPECT_EQ(shownRows(*result), (RowTexts{"EN 1", "EN 2"}));
 }
 
 } // namespace

@@ -7,12 +7,12 @@
 
 namespace {
 
-using Rows = std::vector<std::string>;
+using RowTexts = std::vector<std::string>;
 
 struct Case {
     const char *sql;
     QStringList columns;
-    Rows rows;
+    RowTexts rows;
 };
 
 class Statements : public testing::Test {
@@ -35,8 +35,9 @@ protected:
 Database *Statements::s_database = nullptr;
 
 TEST_F(Statements, ReferenceLists) {
-    const Rows standards = {"EN 10028-2", "EN 10028-3", "EN 10028-7", "EN 10213", "EN 10216-2", "EN 10216-5",
-                            "EN 10217-2", "EN 10222-2", "EN 10254",   "EN 10269", "EN 10273"};
+    const RowTexts standards = {"EN 10028-2", "EN 10028-3", "EN 10028-7", "EN 10213",
+                                "EN 10216-2", "EN 10216-5", "EN 10217-2", "EN 10222-2",
+                                "EN 10254",   "EN 10269",   "EN 10273"};
     expect({
         {"select * from standard order by standard", {"standard"}, standards},
         {"select * from StandardProdForm where standard = 'EN 10269'",
@@ -87,12 +88,13 @@ TEST_F(Statements, PropertyTables) {
          {"-1|50|494", "-1|100|450", "-1|150|420", "-1|200|400", "-1|250|390", "-1|300|380", "-1|350|380",
           "-1|400|380", "-1|450|370", "-1|500|360", "-1|550|330"}},
     });
-    const Rows chemical = shownRows(*s_database,
-                                    "select * from Chemical where standard = 'EN 10028-2' and name = "
-                                    "'P235GH' and numbr = '1.0345' order by elemID",
-                                    {"elemID", "element", "val"});
+    const RowTexts chemical = shownRows(*s_database,
+                                        "select * from Chemical where standard = 'EN 10028-2' and name = "
+                                        "'P235GH' and numbr = '1.0345' order by elemID",
+                                        {"elemID", "element", "val"});
     ASSERT_EQ(chemical.size(), 28u);
-    EXPECT_EQ(Rows(chemical.begin(), chemical.begin() + 3), (Rows{"100|C|-", "101|C|0,16", "200|Si|-"}));
+    EXPECT_EQ(RowTexts(chemical.begin(), chemical.begin() + 3),
+              (RowTexts{"100|C|-", "101|C|0,16", "200|Si|-"}));
 }
 
 TEST_F(Statements, ColumnsOfAGraph) {
@@ -115,10 +117,10 @@ TEST_F(Statements, ColumnsOfAGraph) {
 
 TEST_F(Statements, Crosstabs) {
     const QString rows = "select temp, ordering from Rp02 where matID = 1 group by temp, ordering ";
-    const Rows expected = {"50|1|227|218|208|193|179|164",  "100|2|214|205|196|182|169|155",
-                           "150|3|198|190|181|169|156|143", "200|4|182|174|167|155|143|132",
-                           "250|5|167|160|153|142|131|121", "300|6|153|147|140|130|121|111",
-                           "350|7|142|136|130|121|112|103", "400|8|133|128|122|114|105|97"};
+    const RowTexts expected = {"50|1|227|218|208|193|179|164",  "100|2|214|205|196|182|169|155",
+                               "150|3|198|190|181|169|156|143", "200|4|182|174|167|155|143|132",
+                               "250|5|167|160|153|142|131|121", "300|6|153|147|140|130|121|111",
+                               "350|7|142|136|130|121|112|103", "400|8|133|128|122|114|105|97"};
     for (const QString &sql :
          {"transform max(Rp02.Rp02) " + rows + "order by ordering pivot Rp02.thickness",
           "transform MAX (Rp02.Rp02) " + rows + "order by temp, ordering pivot Rp02.thickness",
@@ -209,9 +211,9 @@ TEST(PmaStatements, SearchAndSort) {
         "OR Designationnumber LIKE '*%1*' OR Product LIKE '*%1*' OR Revision LIKE '*%1*' "
         "OR Revisiondate LIKE '*%1*' OR Searchstring LIKE '*%1*'";
     EXPECT_EQ(shownRows(database, search.arg("2021-01"), columns),
-              (Rows{"ASTM A 182|F316L", "ASTM A 240|316L"}));
+              (RowTexts{"ASTM A 182|F316L", "ASTM A 240|316L"}));
     EXPECT_EQ(shownRows(database, search.arg("PIPE"), columns),
-              (Rows{"ASTM A 106|Grade B", "ASTM A 312|TP304L", "ASTM A 335|P91"}));
+              (RowTexts{"ASTM A 106|Grade B", "ASTM A 312|TP304L", "ASTM A 335|P91"}));
     EXPECT_EQ(shownRows(database, search.arg(""), columns).size(), 12u);
     EXPECT_EQ(
         shownRows(database, "SELECT * FROM PMA_Index ORDER BY RevisionDate DESC", {"RevisionDate"}).front(),

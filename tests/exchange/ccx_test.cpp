@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qint16 Grade = 2;
+constexpr qint16 CardGrade = 2;
 constexpr int Thickness = 40;
 constexpr double Reference = 20;
 constexpr double Density = 7850;
@@ -23,7 +23,7 @@ constexpr double Temperatures[] = {100, 300, 325};
 /// On the straight line between the rows around it.
 double inSample(const QString &table, int column, double temperature) {
     QVector<std::pair<double, double>> points;
-    for (const QVector<QVariant> &row : sampleRows(table, Grade))
+    for (const QVector<QVariant> &row : sampleRows(table, CardGrade))
         if (row[column].isValid() && (table != "Rp02" || row[2].toInt() == Thickness))
             points.append({row[1].toDouble(), row[column].toString().replace(',', '.').toDouble()});
     for (qsizetype i = 1; i < points.size(); ++i) {
@@ -40,7 +40,7 @@ class Cube {
 public:
     explicit Cube(UnitSystem units) {
         const auto database = openDatabase();
-        const CardSource source = CardSource::read(*database, Grade);
+        const CardSource source = CardSource::read(*database, CardGrade);
         const CardChoice choice{units, "0.3", QString::number(Density), "Rp02",
                                 source.bandOf("Rp02", Thickness)};
         const MaterialCard card = MaterialCard::of(source, choice);

@@ -14,7 +14,7 @@
 
 namespace {
 
-const QStringList Rows = {
+const QStringList ChartRows = {
     "Rp02 values (1, 100, 16, 1, '220'), (1, 200, 16, 2, '(200)'), (1, 100, 40, 1, '210'), (1, 300, 40, 3, "
     "'150')",
     "Rm values (1, 20, 60, 1, '410'), (2, 20, -1, 1, '400'), (2, 100, -1, 2, '380')",
@@ -59,7 +59,7 @@ QString dress(MSChart &chart) {
 
 class ChartWindowTest : public ::testing::Test {
 protected:
-    TestProgram program{smallDatabase(Rows), u',', u'.'};
+    TestProgram program{smallDatabase(ChartRows), u',', u'.'};
     frmMaterial2 &window = program.open(program.material(1));
 
     void expectChart(const char *expectedDress, const char *expectedPoints) {

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int LastGrade = 38;
+constexpr int SampleGrades = 38;
 
 /// The cells of the design values, table by table.
 QStringList designCells(const DesignValues &values) {
@@ -55,7 +55,7 @@ QStringList texts(const ValueCells &cells) {
 TEST(GradeValuesTest, AreTheDesignValuesOfEveryGradeOfTheSample) {
     const ValuesDatabase database;
     const QVector<Property> properties = Properties::all(database);
-    for (int id = 1; id <= LastGrade; ++id) {
+    for (int id = 1; id <= SampleGrades; ++id) {
         const auto material = Grades::material(database, static_cast<qint16>(id));
         DesignValues design;
         const bool hasValues = design.build(

@@ -2,7 +2,7 @@
 
 namespace {
 
-using Kind = JetToken::Kind;
+using TokenKind = JetToken::Kind;
 
 bool isDigit(QChar sign) {
     return sign >= QLatin1Char('0') && sign <= QLatin1Char('9');
@@ -42,16 +42,16 @@ private:
         if (sign == QLatin1Char('\'') || sign == QLatin1Char('"')) {
             scanText(token, sign);
         } else if (sign == QLatin1Char('#')) {
-            scanEnclosed(token, sign, Kind::Date, Kind::OpenDate);
+            scanEnclosed(token, sign, TokenKind::Date, TokenKind::OpenDate);
         } else if (sign == QLatin1Char('[')) {
-            scanEnclosed(token, QLatin1Char(']'), Kind::BracketedName, Kind::Symbol);
+            scanEnclosed(token, QLatin1Char(']'), TokenKind::BracketedName, TokenKind::Symbol);
         } else if (isDigit(sign) || (sign == QLatin1Char('.') && isDigit(peek(1)))) {
             scanNumber(token);
         } else if (isNameStart(sign)) {
             const qsizetype begin = m_at;
             while (m_at < m_statement.size() && isNamePart(peek()))
                 ++m_at;
-            token.kind = Kind::Name;
+            token.kind = TokenKind::Name;
             token.text = m_statement.mid(begin, m_at - begin);
         } else {
             scanSymbol(token);
@@ -59,12 +59,12 @@ private:
     }
 
     void scanText(JetToken &token, QChar quote) {
-        token.kind = Kind::OpenText;
+        token.kind = TokenKind::OpenText;
         for (++m_at; m_at < m_statement.size(); ++m_at) {
             if (peek() == quote) {
                 ++m_at;
                 if (peek() != quote) {
-                    token.kind = Kind::Text;
+                    token.kind = TokenKind::Text;
                     return;
                 }
             }
@@ -72,7 +72,7 @@ private:
         }
     }
 
-    void scanEnclosed(JetToken &token, QChar closing, Kind closed, Kind open) {
+    void scanEnclosed(JetToken &token, QChar closing, TokenKind closed, TokenKind open) {
         const qsizetype begin = m_at + 1;
         // A text of opening brackets alone must not be searched once for each of them.
         const qsizetype end = m_neverCloses == closing ? -1 : m_statement.indexOf(closing, begin);
@@ -80,7 +80,7 @@ private:
             m_neverCloses = closing;
             token.kind = open;
             token.text = m_statement.mid(m_at, 1);
-            m_at = open == Kind::Symbol ? m_at + 1 : m_statement.size();
+            m_at = open == TokenKind::Symbol ? m_at + 1 : m_statement.size();
             return;
         }
         token.kind = closed;
@@ -106,14 +106,14 @@ private:
                 digits();
             }
         }
-        token.kind = Kind::Number;
+        token.kind = TokenKind::Number;
         token.text = m_statement.mid(begin, m_at - begin);
     }
 
     void scanSymbol(JetToken &token) {
         static const QStringList pairs = {"<>", "<=", ">="};
         const qsizetype size = pairs.contains(m_statement.mid(m_at, 2)) ? 2 : 1;
-        token.kind = Kind::Symbol;
+        token.kind = TokenKind::Symbol;
         token.text = m_statement.mid(m_at, size);
         m_at += size;
     }
@@ -126,11 +126,11 @@ private:
 } // namespace
 
 bool JetToken::isKeyword(const char *word) const {
-    return kind == Kind::Name && text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+    return kind == TokenKind::Name && text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
 }
 
 bool JetToken::isSymbol(const char *symbol) const {
-    return kind == Kind::Symbol && text == QLatin1String(symbol);
+    return kind == TokenKind::Symbol && text == QLatin1String(symbol);
 }
 
 std::vector<JetToken> jetTokens(const QString &statement) {
@@ -138,6 +138,6 @@ std::vector<JetToken> jetTokens(const QString &statement) {
     std::vector<JetToken> tokens;
     do {
         tokens.push_back(scanner.next());
-    } while (tokens.back().kind != Kind::End);
+    } while (tokens.back().kind != TokenKind::End);
     return tokens;
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 HeaderSize = 100;
+constexpr qint64 SqliteHeaderSize = 100;
 constexpr qint64 LeastJournal = 512; // its header fills a sector
 const QByteArray JournalMark("\xd9\xd5\x05\xf9\x20\xa1\x63\xd7", 8);
 
@@ -50,8 +50,9 @@ void checkSqliteFile(const QString &path) {
     checkBeside(canonical);
     QFile file(canonical);
     if (!file.open(QIODevice::ReadOnly)) return;
-    const QByteArray header = file.read(HeaderSize);
-    const qint64 expected = header.size() < HeaderSize ? HeaderSize : declaredSize(header, file.size());
+    const QByteArray header = file.read(SqliteHeaderSize);
+    const qint64 expected =
+        header.size() < SqliteHeaderSize ? SqliteHeaderSize : declaredSize(header, file.size());
     if (file.size() >= expected) return;
     throw RuntimeError(3049, QString("Can't open database '%1'. The file is cut off: it has %2 bytes, and "
                                      "%3 belong to it.")

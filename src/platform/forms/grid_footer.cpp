@@ -6,7 +6,7 @@
 #include <QStylePainter>
 
 namespace {
-constexpr int Margin = 2;
+constexpr int FooterMargin = 2;
 }
 
 GridFooter::GridFooter(const QHeaderView *headings, QWidget *parent)
@@ -21,7 +21,7 @@ GridFooter::GridFooter(const QHeaderView *headings, QWidget *parent)
 }
 
 QSize GridFooter::sizeHint() const {
-    return {0, fontMetrics().height() + 2 * Margin};
+    return {0, fontMetrics().height() + 2 * FooterMargin};
 }
 
 int GridFooter::columnAt(int x) const {

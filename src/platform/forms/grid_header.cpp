@@ -12,7 +12,7 @@
 #include "platform/forms/number_blanks.h"
 
 namespace {
-constexpr int Margin = 4;
+constexpr int HeadingMargin = 4;
 constexpr int MinimumSection = 8;
 
 FittedText fitLine(const QString &line, const QFont &font, const QSize &room) {
@@ -36,8 +36,8 @@ QSize GridHeader::sizeHint() const {
     int height = qMax(fontMetrics().height(), std::accumulate(lines.begin(), lines.end(), 0));
     for (int i = 0; i < m_model.columnCount(); ++i)
         if (!isSectionHidden(i) && m_model.column(i).shownPicture() != nullptr)
-            height = qMax(height, pictureSize(i, sectionSize(i) - 2 * Margin).height());
-    return {length(), height + 2 * Margin};
+            height = qMax(height, pictureSize(i, sectionSize(i) - 2 * HeadingMargin).height());
+    return {length(), height + 2 * HeadingMargin};
 }
 
 void GridHeader::headingsChanged() {
@@ -65,7 +65,7 @@ void GridHeader::paintSection(QPainter *painter, const QRect &rect, int index) c
     painter->save();
     style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
 
-    const QRect inner = rect.adjusted(Margin, Margin, -Margin, -Margin);
+    const QRect inner = rect.adjusted(HeadingMargin, HeadingMargin, -HeadingMargin, -HeadingMargin);
     const QColor colour = option.palette.color(QPalette::ButtonText);
     if (m_model.column(index).shownPicture()) {
         paintPicture(painter, inner, index, colour);
@@ -80,7 +80,7 @@ QSize GridHeader::sectionSizeFromContents(int index) const {
     QSize size = pictureSize(index, QWIDGETSIZE_MAX);
     if (m_model.column(index).shownPicture() == nullptr)
         size = fitText(text(index), font(), {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}, false).size;
-    return size + QSize(2 * Margin + 1, 2 * Margin);
+    return size + QSize(2 * HeadingMargin + 1, 2 * HeadingMargin);
 }
 
 void GridHeader::paintPicture(QPainter *painter, const QRect &rect, int index, const QColor &colour) const {
@@ -124,7 +124,7 @@ std::vector<int> GridHeader::lineHeights() const {
     std::vector<int> heights;
     for (int i = 0; i < m_model.columnCount(); ++i) {
         if (isSectionHidden(i) || m_model.column(i).shownPicture() != nullptr) continue;
-        const std::vector<int> &own = measured(i, qMax(sectionSize(i) - 2 * Margin, 0)).heights;
+        const std::vector<int> &own = measured(i, qMax(sectionSize(i) - 2 * HeadingMargin, 0)).heights;
         heights.resize(std::max(heights.size(), own.size()), 0);
         for (std::size_t line = 0; line < own.size(); ++line)
             heights[line] = std::max(heights[line], own[line]);
@@ -152,13 +152,13 @@ std::vector<GridHeader::PlacedLine> GridHeader::placeLines(int index, const QRec
 /// Where the edge of the view would cut a line, the part of the heading that is in sight is all the room.
 std::vector<GridHeader::PlacedLine> GridHeader::linesInSight(int index, const QRect &section,
                                                              const QFont &font) const {
-    const auto inner = [](const QRect &rect) { return rect.adjusted(Margin, 0, -Margin, 0); };
+    const auto inner = [](const QRect &rect) { return rect.adjusted(HeadingMargin, 0, -HeadingMargin, 0); };
     const QRect inSight = section & viewport()->rect();
     const std::vector<PlacedLine> lines = placeLines(index, inner(section), font);
     const bool whole = std::all_of(lines.begin(), lines.end(), [&inSight](const PlacedLine &line) {
         return line.place.left() >= inSight.left() && line.place.right() <= inSight.right();
     });
-    return whole || inSight.width() <= 2 * Margin ? lines : placeLines(index, inner(inSight), font);
+    return whole || inSight.width() <= 2 * HeadingMargin ? lines : placeLines(index, inner(inSight), font);
 }
 
 void GridHeader::paintText(QPainter *painter, const QRect &section, int index) const {
@@ -178,7 +178,7 @@ void GridHeader::paintText(QPainter *painter, const QRect &section, int index) c
 bool GridHeader::isCut(int index) const {
     const QRect section(sectionViewportPosition(index), 0, sectionSize(index), height());
     if (const QSvgRenderer *picture = m_model.column(index).shownPicture())
-        return picture->defaultSize().width() > (section & viewport()->rect()).width() - 2 * Margin;
+        return picture->defaultSize().width() > (section & viewport()->rect()).width() - 2 * HeadingMargin;
     const std::vector<PlacedLine> lines = linesInSight(index, section, font());
     return std::any_of(lines.begin(), lines.end(), [](const PlacedLine &line) { return line.text.cut; });
 }

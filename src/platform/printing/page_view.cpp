@@ -16,7 +16,7 @@ namespace {
 constexpr int PageDistance = 16; // pixels around each page
 constexpr double SmallestZoom = 0.1;
 constexpr double LargestZoom = 5;
-constexpr double ZoomStep = 1.2;
+constexpr double WheelStep = 1.2;
 constexpr int ImageMemory = 128 * 1024; // kilobytes
 constexpr int ScrollStep = 48;
 const QColor Ground(0x8A, 0x8F, 0x96);
@@ -213,7 +213,7 @@ void PageView::keyPressEvent(QKeyEvent *event) {
 
 void PageView::wheelEvent(QWheelEvent *event) {
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
-        setZoom(m_zoom * std::pow(ZoomStep, event->angleDelta().y() / 120.0));
+        setZoom(m_zoom * std::pow(WheelStep, event->angleDelta().y() / 120.0));
         event->accept();
     } else {
         QAbstractScrollArea::wheelEvent(event);
