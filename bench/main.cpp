@@ -26,6 +26,7 @@ int measure(const QString &database, const QString &sample) {
     Bench::addTableRows(database);
     Bench::addDesignRows(database);
     Bench::addValueRows(database);
+    Bench::addToolRows(database);
     Bench::addReportRows(database);
     Bench::addProcessRows(database, sample);
     Bench::TableReporter table;

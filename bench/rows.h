@@ -10,6 +10,7 @@ void addSearchRows(const QString &database);
 void addTableRows(const QString &database);
 void addDesignRows(const QString &database);
 void addValueRows(const QString &database);
+void addToolRows(const QString &database);
 void addReportRows(const QString &database);
 /// `sample` is the small database that the program comes with.
 void addProcessRows(const QString &database, const QString &sample);

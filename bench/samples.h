@@ -53,13 +53,20 @@ private:
     std::vector<double> m_cpu;
 };
 
-/// One run of `action` for each iteration of the benchmark.
+/// One run of `action` for each iteration of the benchmark, after one of `prepare`, which does not count.
+template <class Action, class Prepare>
+void measure(benchmark::State &state, const Goal &goal, Action &&action, Prepare &&prepare) {
+    Samples samples;
+    for ([[maybe_unused]] auto _ : state) {
+        prepare();
+        state.SetIterationTime(samples.take(action));
+    }
+    samples.report(state, goal);
+}
+
 template <class Action>
 void measure(benchmark::State &state, const Goal &goal, Action &&action) {
-    Samples samples;
-    for ([[maybe_unused]] auto _ : state)
-        state.SetIterationTime(samples.take(action));
-    samples.report(state, goal);
+    measure(state, goal, action, [] {});
 }
 
 void reportMegabytes(benchmark::State &state, const Goal &goal, double megabytes);

@@ -5,8 +5,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include <QTest>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
 
+#include "bench/keys.h"
 #include "bench/other_program.h"
 #include "bench/program.h"
 #include "bench/rows.h"
@@ -88,7 +92,7 @@ void furtherKey(benchmark::State &state, const QString &database, const QStringL
     samples.report(state, {1000.0 / 60});
 }
 
-/// In the real window, with its painting: digit for digit typed at the end of the box, each another number.
+/// In the real window, with its painting.
 void keyInWindow(benchmark::State &state, const QString &database, const QString &boxName, bool diagram) {
     const Program program(database);
     paint();
@@ -98,26 +102,11 @@ void keyInWindow(benchmark::State &state, const QString &database, const QString
     window.txtTemperature(0)->setText("200,1");
     window.txtLeast(0)->setText("10,1");
     paint();
-    auto *box = window.findChild<QLineEdit *>(boxName);
-    box->setFocus();
-    Samples samples;
-    const QString begin = box->text();
-    int number = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        // what stands before the digit is another number each time, so that no answer is known before
-        if (number++ % 9 == 0) box->setText(begin + QString::number(number % 10));
-        paint();
-        state.SetIterationTime(samples.take([&] {
-            QTest::keyClick(box, static_cast<char>('1' + number % 9));
-            paint();
-        }));
-        box->setText(box->text().chopped(1));
-    }
+    measureKeys(state, {1000.0 / 60}, *window.findChild<QLineEdit *>(boxName));
     if (window.lblSummary->text().startsWith("0 ") || !window.cmdSave->isEnabled())
-        return state.SkipWithError("the window found nothing");
+        state.SkipWithError("the window found nothing");
     window.Unload();
     paint();
-    samples.report(state, {1000.0 / 60});
 }
 
 } // namespace

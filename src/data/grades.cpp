@@ -43,6 +43,9 @@ QVector<int> idsOf(Database &database, const QString &text) {
     return ids;
 }
 
+/// Longer conditions are refused as too complex.
+constexpr qsizetype MostInOneStatement = 30;
+
 } // namespace
 
 QVector<Grades::Grade> Grades::find(Database &database, const Criteria &criteria) {
@@ -59,9 +62,12 @@ QVector<Grades::Grade> Grades::named(Database &database, const QString &text) {
     const QString wanted = text.section(QLatin1Char('@'), 0, 0).trimmed();
     const QString standard = text.section(QLatin1Char('@'), 1).trimmed();
     const bool byIdentity = wanted.startsWith(QLatin1Char('#'));
+    if (wanted.isEmpty()) return {};
     const QVector<int> ids = byIdentity ? identity(wanted.mid(1)) : idsOf(database, wanted);
-    if (ids.isEmpty()) return {};
-    QVector<Grade> grades = gradesOf(*database.OpenRecordset(Queries::sqlSelectedMaterials(ids)));
+    QVector<Grade> grades;
+    for (qsizetype begin = 0; begin < ids.size(); begin += MostInOneStatement)
+        grades << gradesOf(
+            *database.OpenRecordset(Queries::sqlSelectedMaterials(ids.mid(begin, MostInOneStatement))));
     grades.removeIf(
         [&](const Grade &grade) { return !standard.isEmpty() && !isSame(grade.standard, standard); });
     return grades;
