@@ -195,7 +195,7 @@ QString ValueSearch::summary(const ValueQuery &query, const ValueResult &result)
         const Absences &absences = result.absences[i];
         if (absences.total() == 0) continue;
         text += "; no value" +
-                (query.conditions.size() > 1 ? " of " + condition.property.name() : QString()) + " at " +
+                (query.conditions.size() > 1 ? " of " + condition.property.label : QString()) + " at " +
                 condition.temperature + " °C in " + TypedTexts::grouped(absences.total()) + ": " +
                 counted(absences, thicknessText(condition));
     }

@@ -291,7 +291,7 @@ TEST(ValueSearch, TellsTheRestInOneLine) {
     query.conditions << query.conditions.first();
     query.texts.name = "Grade 1"; // and 10
     EXPECT_EQ(search.summary(query, search.find(query)),
-              "1 of 10 grades; no value of Rp02 at 300 °C in 1: 1 grade has no such table");
+              "1 of 10 grades; no value of Rp0,2 at 300 °C in 1: 1 grade has no such table");
 }
 
 TEST(RoundedValue, IsTheNumberOfTheText) {
