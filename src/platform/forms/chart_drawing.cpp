@@ -56,7 +56,7 @@ QFont fittedFont(QFont font, const QString &text, int length) {
     return font;
 }
 
-QString onOneLine(QString text) {
+QString withoutBreaks(QString text) {
     return text.replace(QLatin1String("\r\n"), QLatin1String(" "))
         .replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
@@ -133,7 +133,7 @@ int legendEntryWidth(const ChartContent &content) {
     const QFontMetrics metrics(chartFont(11));
     int width = 0;
     for (const ChartSeries &series : content.series) {
-        const int text = metrics.horizontalAdvance(onOneLine(series.label));
+        const int text = metrics.horizontalAdvance(withoutBreaks(series.label));
         width = std::max(width, LegendIconWidth + LegendTextGap + text + LegendColumnGap);
     }
     return width;
@@ -205,7 +205,7 @@ void ChartDrawing::addCurves() {
         // A curve keeps the order of its points; a graph would sort them by X.
         auto *curve = new QCPCurve(m_plot.xAxis, m_plot.yAxis);
         curve->setData(x, y);
-        curve->setName(onOneLine(m_content.series[i].label));
+        curve->setName(withoutBreaks(m_content.series[i].label));
         QPen pen(style.colour, 1.6, style.dashes.isEmpty() ? Qt::SolidLine : Qt::CustomDashLine, Qt::FlatCap);
         if (!style.dashes.isEmpty()) pen.setDashPattern(style.dashes);
         curve->setPen(pen);
@@ -232,7 +232,7 @@ void ChartDrawing::addMark() {
     put(line->start, 1);
     put(line->end, 0);
     put(label->position, 0);
-    label->setText(onOneLine(m_content.mark->label));
+    label->setText(withoutBreaks(m_content.mark->label));
     label->setFont(chartFont(11));
     label->setColor(Ink);
     label->setBrush(QBrush(Qt::white));
@@ -243,7 +243,7 @@ void ChartDrawing::addMark() {
 
 void ChartDrawing::layOutAxis(QCPAxis *axis, QCPAxis *opposite, const QString &title, int length,
                               int tickDistance) {
-    const QString label = onOneLine(title);
+    const QString label = withoutBreaks(title);
     axis->setLabel(label);
     axis->setLabelFont(fittedFont(chartFont(12), label, length * 3 / 4));
     axis->setLabelColor(Ink);
@@ -295,7 +295,7 @@ void ChartDrawing::layOutLegend() {
 }
 
 void ChartDrawing::layOutTitle() {
-    const QString title = onOneLine(m_content.title);
+    const QString title = withoutBreaks(m_content.title);
     if (title.isEmpty()) return;
     m_plot.plotLayout()->insertRow(0);
     auto *element =
