@@ -19,14 +19,14 @@
 
 namespace {
 
-struct Format {
+struct CardFormat {
     QString (*text)(const MaterialCard &card);
     const char *filter;
     const char *extension;
 };
 
-const Format Formats[] = {{calculixCard, "CalculiX / Abaqus (*.inp)|*.inp", ".inp"},
-                          {mapdlCard, "Ansys MAPDL (*.mac)|*.mac", ".mac"}};
+const CardFormat Formats[] = {{calculixCard, "CalculiX / Abaqus (*.inp)|*.inp", ".inp"},
+                              {mapdlCard, "Ansys MAPDL (*.mac)|*.mac", ".mac"}};
 
 constexpr int CancelSelected = 32755;
 
@@ -179,7 +179,7 @@ void frmCard::copyCard() const {
 }
 
 void frmCard::saveCard() {
-    const Format &format = Formats[std::max(0, cboFormat->currentIndex())];
+    const CardFormat &format = Formats[std::max(0, cboFormat->currentIndex())];
     CommonDialog dialog;
     dialog.DialogTitle = "Save Material Card...";
     dialog.InitDir = "c:\\";

@@ -8,12 +8,12 @@
 
 #include "exchange/value_tables.h"
 #include "platform/forms/placement.h"
+#include "reports/save_taken.h"
 #include "shell/mdiVelmar.h"
 #include "workbench/ComparisonChartPage.h"
 #include "workbench/ComparisonPage.h"
 #include "workbench/CompositionPage.h"
 #include "workbench/number_box.h"
-#include "workbench/save_taken.h"
 #include "workbench/SelectionPages.h"
 
 namespace {

@@ -7,12 +7,12 @@
 #include "platform/forms/busy_pointer.h"
 #include "platform/forms/default_instance.h"
 #include "platform/runtime/runtime_error.h"
+#include "reports/save_taken.h"
 #include "search/frmSearch.h"
 #include "shell/mdiVelmar.h"
 #include "workbench/condition_inputs.h"
 #include "workbench/FoundGrid.h"
 #include "workbench/PropertyPlot.h"
-#include "workbench/save_taken.h"
 #include "workbench/TableReading.h"
 
 namespace {

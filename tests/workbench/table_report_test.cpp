@@ -3,10 +3,10 @@
 
 #include <QProcess>
 
+#include "reports/table_parts.h"
+#include "reports/TableReport.h"
 #include "tests/workbench/workbench_fixture.h"
 #include "workbench/frmCompare.h"
-#include "workbench/table_parts.h"
-#include "workbench/TableReport.h"
 
 namespace {
 

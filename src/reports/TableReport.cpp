@@ -1,9 +1,9 @@
-#include "workbench/TableReport.h"
+#include "reports/TableReport.h"
 
 #include "platform/runtime/app.h"
 #include "platform/runtime/regional_settings.h"
 #include "reports/report_layout.h"
-#include "workbench/table_parts.h"
+#include "reports/table_parts.h"
 
 using namespace Printing;
 using namespace ReportLayout;
@@ -13,7 +13,7 @@ namespace {
 constexpr int HeadHeight = 870;
 constexpr int FactHeight = 285;
 constexpr int FactNameWidth = 2100;
-constexpr int CaptionHeight = 600;
+constexpr int PartCaptionHeight = 600;
 constexpr int PartDistance = 240;
 
 QString fieldName(int place) {
@@ -38,7 +38,7 @@ public:
             const int width = m_part.widths[place];
             Label &caption =
                 addLabel(captions, QStringLiteral("lblCol%1").arg(place),
-                         captionOf(table.columns[m_part.columns[place]]), left, 0, width, CaptionHeight);
+                         captionOf(table.columns[m_part.columns[place]]), left, 0, width, PartCaptionHeight);
             asCaption(caption);
             caption.VerticalAlignment = 1;
             Field &cell = addField(detail, "txt" + fieldName(place), left, 0, width, RowHeight);

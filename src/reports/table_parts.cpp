@@ -1,4 +1,4 @@
-#include "workbench/table_parts.h"
+#include "reports/table_parts.h"
 
 #include <algorithm>
 
