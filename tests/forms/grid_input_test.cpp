@@ -55,6 +55,22 @@ protected:
         return QToolTip::text();
     }
 
+    /// Opens the menu by its key and chooses in it by a letter. Gives the entries with their keys.
+    QStringList chosenInMenu(Qt::Key letter) {
+        QStringList entries;
+        QTimer::singleShot(0, view, [&entries, letter] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            for (const QAction *entry : menu->actions())
+                entries << entry->text().remove('&') + ": " + entry->shortcut().toString();
+            QTest::keyClick(menu, letter);
+            menu->close();
+        });
+        QContextMenuEvent byKey(QContextMenuEvent::Keyboard, cell(1, 0), view->mapToGlobal(cell(1, 0)));
+        QApplication::sendEvent(view, &byKey);
+        return entries;
+    }
+
     QWidget window;
     DataControl source;
     TDBGrid grid;
@@ -204,20 +220,32 @@ TEST_F(GridInput, TheMenuCopiesWithHeadings) {
     EXPECT_EQ(QApplication::clipboard()->text(), expected);
 
     QApplication::clipboard()->clear();
-    QStringList entries;
-    QTimer::singleShot(0, view, [&entries] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        for (const QAction *entry : menu->actions())
-            entries << entry->text().remove('&') + ": " + entry->shortcut().toString();
-        QTest::keyClick(menu, Qt::Key_H);
-        menu->close();
-    });
-    QContextMenuEvent byKey(QContextMenuEvent::Keyboard, cell(1, 0), view->mapToGlobal(cell(1, 0)));
-    QApplication::sendEvent(view, &byKey);
-    EXPECT_EQ(entries,
+    EXPECT_EQ(chosenInMenu(Qt::Key_H),
               QStringList({"Copy: Ctrl+C", "Copy with Headings: Ctrl+Shift+C", "Select All: Ctrl+A"}));
     EXPECT_EQ(QApplication::clipboard()->text(), expected);
+}
+
+TEST_F(GridInput, TheMenuSavesForWhoeverDoesIt) {
+    const auto pressKeys = [this] {
+        window.activateWindow(); // without a window manager a menu leaves no window active
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(view, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    };
+    int first = 0;
+    int second = 0;
+    grid.setSaver([&] {
+        ++first;
+        grid.setSaver([&second] { ++second; });
+    });
+    EXPECT_EQ(chosenInMenu(Qt::Key_S).last(), "Save Table As...: Ctrl+Shift+S");
+    EXPECT_EQ(chosenInMenu(Qt::Key_S).size(), 4);
+    pressKeys();
+    EXPECT_EQ(first, 1);
+    EXPECT_EQ(second, 2);
+    grid.setSaver({});
+    pressKeys();
+    EXPECT_EQ(chosenInMenu(Qt::Key_S).size(), 3);
+    EXPECT_EQ(second, 2);
 }
 
 TEST_F(GridInput, ACellDragCarriesTheGridsNameFromTheRowUnderTheMouse) {

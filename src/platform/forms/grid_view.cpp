@@ -52,7 +52,21 @@ GridView::GridView(GridModel &model, QWidget *parent)
             &QAction::triggered, this, [this] { copySelection(CopyHeadings::Yes); });
     connect(addCommand(QStringLiteral("SelectAll"), tr("Select &All"), QKeySequence::SelectAll),
             &QAction::triggered, this, &GridView::selectAll);
+    m_saveCommand = addCommand(QStringLiteral("SaveTable"), tr("&Save Table As..."),
+                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    removeAction(m_saveCommand);
+    connect(m_saveCommand, &QAction::triggered, this, [this] {
+        if (const auto save = m_save) save(); // a copy: saving may set another one
+    });
     setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void GridView::setSaver(std::function<void()> save) {
+    m_save = std::move(save);
+    if (m_save)
+        addAction(m_saveCommand);
+    else
+        removeAction(m_saveCommand);
 }
 
 bool GridView::severalCellsSelected() const {

@@ -1,4 +1,4 @@
-// The rows of a grid: keys, selection, copying, cell drag, and rows as tall as their text.
+// The rows of a grid: keys, selection, the menu of the cells, cell drag, and rows as tall as their text.
 #pragma once
 
 #include <functional>
@@ -32,6 +32,9 @@ public:
     /// In a grid whose captions are rows among the others: gives the row with the captions of a row.
     using CaptionRowFinder = std::function<int(int row)>;
     void setCaptionRows(CaptionRowFinder finder) { m_captionRowOf = std::move(finder); }
+
+    /// As TDBGrid::setSaver.
+    void setSaver(std::function<void()> save);
 
     enum class CopyHeadings { No, Yes };
     /// The selected cells as lines of tab-separated texts; a text with a tab or a line end is quoted.
@@ -76,6 +79,8 @@ private:
     GridModel &m_model;
     QWidget *m_dragSource = nullptr;
     CaptionRowFinder m_captionRowOf;
+    QAction *m_saveCommand = nullptr;
+    std::function<void()> m_save;
     QPersistentModelIndex m_pressed;
     QPoint m_pressedAt;
     std::vector<bool> m_fitted;

@@ -188,6 +188,10 @@ void TDBGrid::setCaptionRows(std::function<int(int row)> finder) {
     m_view->setCaptionRows(std::move(finder));
 }
 
+void TDBGrid::setSaver(std::function<void()> save) {
+    m_view->setSaver(std::move(save));
+}
+
 void TDBGrid::setCellDrag(bool on) {
     m_view->setDragSource(on ? this : nullptr);
 }

@@ -91,6 +91,10 @@ public:
     /// are copied with the cells where headings are asked for.
     void setCaptionRows(std::function<int(int row)> finder);
 
+    /// Puts "Save Table As..." (Ctrl+Shift+S) into the menu of the cells, which runs `save`. An empty one
+    /// takes it out again; there is none at first.
+    void setSaver(std::function<void()> save);
+
     /// 0 none, 2 shown while the mouse rests. What has no room in its cell or heading is told by a tip in any
     /// case.
     void setCellTips(int mode) { m_cellTips = mode; }
