@@ -82,7 +82,7 @@ QString Records::written(const Sheet &sheet, Format format, const QString &lineE
             parts << (csv ? csvCell(cell) : tsvCell(cell));
         return parts.join(QLatin1Char(csv ? ',' : '\t')) + lineEnd;
     };
-    QString text = line(sheet.headings);
+    QString text = sheet.headings.isEmpty() ? QString() : line(sheet.headings);
     for (const QStringList &row : sheet.rows)
         text += line(row);
     return text;

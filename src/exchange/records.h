@@ -9,8 +9,9 @@ namespace Records {
 enum class Format { Table, Csv, Tsv };
 
 struct Sheet {
+    /// CSV and TSV can do without any.
     QStringList headings;
-    /// As many cells a row as there are headings.
+    /// As many cells a row as there are headings, if there are any.
     QList<QStringList> rows;
 };
 

@@ -54,7 +54,7 @@ XlsxSheet worksheet(const TakenTable &table) {
         units << heading(column.unit);
         hasUnits = hasUnits || !column.unit.isEmpty();
     }
-    sheet.rows << headings;
+    if (!table.captionsAmongRows) sheet.rows << headings;
     if (hasUnits) sheet.rows << units;
     sheet.headingRows = static_cast<int>(sheet.rows.size());
     for (const QStringList &texts : table.rows) {
@@ -134,10 +134,10 @@ QString TakenTables::bareUnit(const QString &unit) {
 }
 
 Records::Sheet TakenTables::records(const TakenTable &table) {
-    Records::Sheet sheet;
+    Records::Sheet sheet{{}, table.rows};
+    if (table.captionsAmongRows) return sheet;
     for (const TakenColumn &column : table.columns)
         sheet.headings << oneLine(column);
-    sheet.rows = table.rows;
     return sheet;
 }
 

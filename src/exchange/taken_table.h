@@ -30,6 +30,8 @@ struct TakenTable {
     QString notes = {};
     /// How many columns say what a row is: where not all have room, each part of the table begins with them.
     int keyColumns = 1;
+    /// Captions are rows among the others, and the columns have no heading.
+    bool captionsAmongRows = false;
 };
 
 /// What a table does not tell itself: "Grade", "Temperature". Several texts stand beside each other.
@@ -61,7 +63,7 @@ QVector<TakenFact> databaseFacts(const Database &database);
 
 /// Without the brackets that some units stand in.
 QString bareUnit(const QString &unit);
-/// Headings with their units in square brackets, and the rows.
+/// Headings with their units in square brackets, if the table has any, and the rows.
 Records::Sheet records(const TakenTable &table);
 
 /// A line of headings with their units in square brackets, then the rows; lines end with CR LF, as RFC 4180

@@ -1,5 +1,7 @@
 #include "exchange/value_tables.h"
 
+#include <algorithm>
+
 #include "platform/runtime/conversions.h"
 
 namespace {
@@ -83,6 +85,27 @@ TakenTable ValueTables::sheet(const ValueSheet &sheet) {
             texts << cell.text;
         table.rows << texts;
     }
+    return table;
+}
+
+TakenTable ValueTables::designValues(const DesignValues &values) {
+    const XArrayDB &cells = *values.xDesignDB;
+    TakenTable table{QStringLiteral("Design values"), {}, {}};
+    table.captionsAmongRows = true;
+    qsizetype used = 0;
+    for (int row = cells.LowerBound(1); row <= cells.UpperBound(1); ++row) {
+        const bool captions = (row - cells.LowerBound(1)) % DesignValues::RowsPerTable == 0;
+        QStringList texts;
+        for (int column = 0; column <= cells.UpperBound(2); ++column) {
+            const QString text = cellOf(cells, row, column);
+            texts << (captions ? text.simplified() : text);
+            if (!text.isEmpty()) used = std::max(used, texts.size());
+        }
+        table.rows << texts;
+    }
+    for (QStringList &row : table.rows)
+        row.resize(used);
+    table.columns.resize(used);
     return table;
 }
 

@@ -1,6 +1,7 @@
-// Comparisons and sheets of values as tables that are taken along.
+// Design values, comparisons and sheets of values as tables that are taken along.
 #pragma once
 
+#include "design/DesignValues.h"
 #include "exchange/taken_table.h"
 #include "values/comparison.h"
 #include "values/comparison_chart.h"
@@ -22,6 +23,10 @@ TakenTable composition(const QVector<Grades::Grade> &grades, const QVector<Compo
 TakenTable curves(const ComparisonChart &chart, const Property &property);
 /// A * in the second column where a table has a row of the temperature.
 TakenTable sheet(const ValueSheet &sheet);
+
+/// As the page of design values has it: three rows a table, captions, values and an empty one. Columns behind
+/// the last text are left out.
+TakenTable designValues(const DesignValues &values);
 
 /// Thickness in mm, if one was asked for; `temperature` is empty without one.
 QVector<TakenFact> atFacts(const QString &temperature, std::optional<double> thickness);

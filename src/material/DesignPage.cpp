@@ -15,11 +15,6 @@ namespace {
 
 constexpr int ColumnWidth = 1150;
 
-/// A temperature begun, or none at all: nothing to compute from.
-bool isNoTemperature(const QString &text) {
-    return text.isEmpty() || text == QLatin1String("-");
-}
-
 } // namespace
 
 DesignPage::DesignPage(Form &window, MaterialControls &controls, DesignValues &values)
@@ -36,9 +31,15 @@ void DesignPage::connectBox() {
     connect(m_box, &TemperatureBox::becameSource, this,
             [this] { mdiVelmar::instance().frmDesignSource = &m_window; });
     connect(m_box, &TemperatureBox::enterPressed, this, [this] {
-        if (!isNoTemperature(m_controls.txtDesignTemp->text())) RecalcDesignValues();
+        if (hasTemperature()) RecalcDesignValues();
     });
     connect(m_controls.txtDesignTemp, &QLineEdit::textChanged, this, &DesignPage::textChanged);
+}
+
+/// One that was only begun is none yet.
+bool DesignPage::hasTemperature() const {
+    const QString text = m_controls.txtDesignTemp->text();
+    return !text.isEmpty() && text != QLatin1String("-");
 }
 
 void DesignPage::BuildDesignTable(Material &material, const std::function<void(const QString &)> &load) {
@@ -61,7 +62,7 @@ void DesignPage::addGridColumns(int count) {
 
 /// Also runs when another window writes the text here.
 void DesignPage::textChanged() {
-    if (!isNoTemperature(m_controls.txtDesignTemp->text())) RecalcDesignValues();
+    if (hasTemperature()) RecalcDesignValues();
     const Form *source = mdiVelmar::instance().frmDesignSource;
     if (source != nullptr && source->Caption() == m_window.Caption()) spreadTemperature();
 }

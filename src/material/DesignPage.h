@@ -20,6 +20,9 @@ public:
     /// value.
     void BuildDesignTable(Material &material, const std::function<void(const QString &key)> &load);
 
+    /// There is a temperature in the box, or else what shows belongs to none that could be told.
+    bool hasTemperature() const;
+
     /// The table was built, which is done once in the life of the window.
     bool bDesignBuilt = false;
 

@@ -13,6 +13,8 @@ public:
 
     /// As GradeTables::load.
     LoadedTable load(Material &material, const QString &key);
+    /// The one that was loaded last; null before the first, and after a failure.
+    const std::shared_ptr<const LoadedTable> &last() const { return m_last; }
     /// As GradeTables::graphColumns.
     std::shared_ptr<Recordset> graphColumns(const Material &material, const QString &key, int x, int y);
 
@@ -20,4 +22,5 @@ public:
 
 private:
     std::optional<GradeTables> m_tables;
+    std::shared_ptr<const LoadedTable> m_last;
 };

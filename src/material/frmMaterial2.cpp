@@ -49,7 +49,8 @@ frmMaterial2::frmMaterial2()
     , m_unboundTables(*this, m_tables, m_unboundGrid, m_notes, m_noData, m_chart)
     , m_boundTables(*this, m_tables, m_notes, m_noData, m_chart)
     , m_addInfo(m_tables, m_notes)
-    , m_design(*this, *this, m_tables.values) {
+    , m_design(*this, *this, m_tables.values)
+    , m_saving(*this, m_tables, m_design) {
     setIcon(QIcon(":/velmar/app/velmar-ped.svg"));
     HelpContext::set(*this, "Material_Window.htm");
     setWidth(WindowWidth);
@@ -71,6 +72,8 @@ void frmMaterial2::connectControls() {
     });
     for (const auto &[index, button] : cmdPrintSave)
         connect(button, &QToolButton::clicked, this, [this, i = index] { printSave(i); });
+    // Behind the page of design values, which may have changed the text itself by then.
+    connect(txtDesignTemp, &QLineEdit::textChanged, this, [this] { offerSaving(); });
     const QStringList keys{"Rp02", "Rp10", "Rm"};
     for (int i = 0; i < keys.size(); ++i)
         connect(optMechProp(i), &QRadioButton::clicked, this, [this, key = keys[i]] { ShowTable(key); });
@@ -83,8 +86,7 @@ void frmMaterial2::printSave(int index) {
         return;
     }
     const bool designValues = index > Enlarge;
-    const QString temperature = txtDesignTemp->text();
-    if (designValues && (temperature.isEmpty() || temperature == QLatin1String("-"))) return;
+    if (designValues && !m_design.hasTemperature()) return;
     iReportType = designValues ? ReportKind::DesignValues : ReportKind::Graph;
     switch (index) {
     case 0:
@@ -183,7 +185,12 @@ void frmMaterial2::ShowTable(const QString &key) {
         showBoundTable(material, key);
     }
     setPageSymbol(strCurrentTable);
+    offerSaving();
     keepFocus();
+}
+
+void frmMaterial2::offerSaving() {
+    if (m_material) m_saving.Offer(*m_material, strCurrentTable);
 }
 
 void frmMaterial2::CheckTablesForRecords() {
@@ -203,6 +210,7 @@ void frmMaterial2::load(const QString &key) {
 }
 
 void frmMaterial2::HideAll() {
+    m_saving.Withdraw();
     m_notes.Reset();
     for (QWidget *part : QList<QWidget *>{ImgPic(1), ImgPic(2), framAxisCols, framChart, tdbTable, framMain,
                                           framStand, lblFullForm, lblMain, tdbBoundTable, framOptions,

@@ -13,6 +13,7 @@
 #include "material/NotesPanel.h"
 #include "material/PropertyChart.h"
 #include "material/ReferencePage.h"
+#include "material/TableSaving.h"
 #include "material/UnboundGrid.h"
 #include "material/UnboundTables.h"
 #include "material/WindowTables.h"
@@ -80,6 +81,7 @@ private:
     void focusMechOption();
     void keepFocus();
     void setPageSymbol(const QString &key);
+    void offerSaving();
 
     std::shared_ptr<Material> m_material;
     WindowTables m_tables;
@@ -94,4 +96,5 @@ private:
     BoundTables m_boundTables;
     AdditionalInfo m_addInfo;
     DesignPage m_design;
+    TableSaving m_saving;
 };
