@@ -157,6 +157,7 @@ void PropertyPlot::clear(const QString &notice) {
 
 void PropertyPlot::draw(const Axes &axes) {
     const int grade = currentGrade();
+    plot->setDots({}); // else it would ask for the name of a dot that is no longer among the points
     m_drawn = axes;
     m_points = m_search->points(axes[0], axes[1]);
     std::vector<QPointF> dots;
