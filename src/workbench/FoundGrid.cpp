@@ -27,6 +27,13 @@ int widthOf(Kind kind) {
     }
 }
 
+GridCellMark markOf(const ValueSearch &search, const FoundGrades &found, int place,
+                    const QSet<qint16> &selected) {
+    const int grade = found.result.grades[static_cast<std::size_t>(place)];
+    if (!selected.contains(search.grades()[grade].id)) return {};
+    return {true, {}, "This material is selected."};
+}
+
 } // namespace
 
 FoundGrid::FoundGrid(TDBGrid &grid)
@@ -122,14 +129,9 @@ void FoundGrid::showRows() {
         return last->second.value(column);
     };
     if (!m_selected.isEmpty())
-        cells->mark = [this, places = m_places](int row, int) {
-            return mark((*places)[static_cast<std::size_t>(row)]);
+        cells->mark = [search = m_search, found = m_found, places = m_places, selected = m_selected](int row,
+                                                                                                     int) {
+            return markOf(*search, *found, (*places)[static_cast<std::size_t>(row)], selected);
         };
     m_grid.setCells(cells);
-}
-
-GridCellMark FoundGrid::mark(int place) const {
-    const int grade = m_found->result.grades[static_cast<std::size_t>(place)];
-    if (!m_selected.contains(m_search->grades()[grade].id)) return {};
-    return {true, {}, "This material is selected."};
 }

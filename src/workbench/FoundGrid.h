@@ -10,7 +10,6 @@
 #include "workbench/found_grades.h"
 
 class TDBGrid;
-struct GridCellMark;
 
 class FoundGrid : public QObject {
     Q_OBJECT
@@ -34,7 +33,6 @@ private:
     void showHeadings();
     QString caption(int column) const;
     void showRows();
-    GridCellMark mark(int place) const;
 
     TDBGrid &m_grid;
     std::shared_ptr<const ValueSearch> m_search;

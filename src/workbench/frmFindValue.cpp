@@ -234,16 +234,18 @@ void frmFindValue::select(int grade) {
     Form_Activate();
 }
 
-TakenTable frmFindValue::table() const {
+/// Behind the diagram the grid waits, and is of an earlier question.
+TakenTable frmFindValue::table() {
+    m_grid->show(m_search, m_found);
     return FoundTable::taken(*m_search, *m_found, m_grid->places());
 }
 
-void frmFindValue::copyAll() const {
+void frmFindValue::copyAll() {
     const BusyPointer busy;
     SaveTaken::copy(table());
 }
 
-void frmFindValue::saveAll() const {
+void frmFindValue::saveAll() {
     SaveTaken::saveAsking(table(), FoundTable::facts(*m_search, *m_found), "Find_By_Value.htm");
 }
 

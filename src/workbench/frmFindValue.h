@@ -48,9 +48,9 @@ private:
     bool showsPlot() const;
 
     void select(int grade);
-    TakenTable table() const;
-    void copyAll() const;
-    void saveAll() const;
+    TakenTable table();
+    void copyAll();
+    void saveAll();
 
     std::shared_ptr<ValueSearch> m_search;
     QVector<Property> m_properties;

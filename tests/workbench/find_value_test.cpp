@@ -1,6 +1,8 @@
 // Find by Value in its real window: what is found against a calculation of its own from the sample's texts,
 // and what keys, headings and a stopped reading do.
+#include <QClipboard>
 #include <QFile>
+#include <QGuiApplication>
 #include <QTimer>
 
 #include "platform/forms/msg_box.h"
@@ -237,6 +239,11 @@ TEST_F(FindValue, TheDiagramDrawsAllThatHaveBothValues) {
     EXPECT_EQ(plot.DotCount(), dots);
     const auto out = std::count_if(emphasised.begin(), emphasised.end(), hasBoth);
     EXPECT_TRUE(plot.accessibleDescription().endsWith(QString("emphasised: %1.").arg(out)));
+    retype(find.txtLeast(0), "200");
+    click(find.cmdCopy);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().count('\n'), std::ssize(found({"Rp02", 300, 40, 200})) + 1)
+        << "with headings, though the list is behind the diagram";
+    retype(find.txtLeast(0), "150");
     EXPECT_FALSE(find.cmdSelect->isEnabled());
     plot.setFocus();
     press(&plot, Qt::Key_End);
@@ -248,6 +255,10 @@ TEST_F(FindValue, TheDiagramDrawsAllThatHaveBothValues) {
     press(&plot, Qt::Key_Return);
     ASSERT_EQ(main().colMaterials.Count(), 1);
     EXPECT_TRUE(find.plot->lblDot->text().startsWith(main().colMaterials.Item(1)->Name() + " "));
+    press(&plot, Qt::Key_End);
+    find.plot->cboAxis(0)->setCurrentIndex(find.plot->cboAxis(0)->findText("Rp1,0"));
+    EXPECT_LT(plot.DotCount(), dots);
+    EXPECT_EQ(plot.current() < 0, find.plot->lblDot->text().isEmpty());
     retype(find.plot->txtAxisTemperature(1), "2oo");
     EXPECT_EQ(plot.DotCount(), 0);
     EXPECT_EQ(find.plot->lblAxis(1)->text(), "'2oo' is no temperature.");
