@@ -4,7 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
+#include <QDir>
 #include <QDrag>
 #include <QDropEvent>
 #include <QHeaderView>
@@ -29,9 +29,13 @@ namespace {
 
 constexpr int MostModalWindows = 3;
 constexpr int WatchEvery = 20; // milliseconds
+constexpr int BrokenOff = 4;
 
 QString nameOf(const QWidget &widget) {
     const QString name = widget.objectName();
+    const QWidget &window = *widget.window();
+    if (&window != &widget && !name.isEmpty() && WorkbenchUser::knows(window))
+        return window.objectName() + "/" + name;
     if (!name.isEmpty()) return name;
     const QWidget *parent = widget.parentWidget();
     const QString within =
@@ -58,9 +62,11 @@ void leaves(const QMenu &menu, QList<QAction *> &found) {
 
 RandomUser::RandomUser(TestRun &testRun, unsigned seed, const QString &folder)
     : m_testRun(testRun)
-    , m_random(seed)
+    , m_chance(seed)
     , m_watch(seed)
-    , m_folder(folder) {
+    , m_folder(folder + "/saved")
+    , m_workbench(m_chance, [this](const QString &action) { note(action); }) {
+    QDir().mkpath(m_folder);
     testRun.answerBox = [this](const ModalSeam::Request &request) { return answer(request); };
     testRun.chooseFile = [this](const ModalSeam::Request &) { return file(); };
     testRun.useWindow = [this](Form &window) { use(window); };
@@ -72,7 +78,20 @@ void RandomUser::work(int actions) {
         act();
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        check();
     }
+}
+
+void RandomUser::check() {
+    if (const QString fault = WorkbenchCheck::fileFault(m_folder); !fault.isEmpty()) breakOff(fault);
+    FormBase *active = Forms::active();
+    if (!isRunning() || active == nullptr || !active->Visible()) return;
+    if (const QString fault = m_check.fault(*active->asWidget()); !fault.isEmpty()) breakOff(fault);
+}
+
+void RandomUser::breakOff(const QString &fault) {
+    m_testRun.note("broken: " + fault);
+    std::_Exit(BrokenOff);
 }
 
 bool RandomUser::isRunning() const {
@@ -82,7 +101,7 @@ bool RandomUser::isRunning() const {
 QWidget *RandomUser::scope() const {
     if (QWidget *popup = QApplication::activePopupWidget()) return popup;
     if (QWidget *modal = QApplication::activeModalWidget()) return modal;
-    if (m_readsHelp) return helpWindow();
+    if (m_beside) return m_beside;
     return LoadedInstance<mdiVelmar>();
 }
 
@@ -92,22 +111,34 @@ QWidget *RandomUser::helpWindow() {
     return nullptr;
 }
 
+QWidget *RandomUser::chooseBeside() {
+    if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr)
+        return nullptr;
+    if (helpWindow() != nullptr && below(3) == 0) return helpWindow();
+    auto *main = LoadedInstance<mdiVelmar>();
+    FormBase *active = Forms::active();
+    if (main == nullptr || active == nullptr) return nullptr;
+    // Hardly anything is done by somebody who changes from window to window.
+    const bool isBeside = WorkbenchUser::knows(*active->asWidget());
+    if (isBeside && active->Visible() && active->WindowState() != vbMinimized && below(8) > 0)
+        return active->asWidget();
+    if (QWidget *window = below(3) == 0 ? m_workbench.bringForward() : nullptr) return window;
+    if (isBeside) main->SetFocus();
+    return nullptr;
+}
+
 void RandomUser::note(const QString &action) {
     m_testRun.note("do: " + action);
 }
 
 void RandomUser::act() {
-    static const QList<std::pair<int, void (RandomUser::*)()>> actions = {
-        {25, &RandomUser::click},           {15, &RandomUser::pressKey},
-        {3, &RandomUser::pressShortcut},    {8, &RandomUser::type},
-        {12, &RandomUser::typeTemperature}, {1, &RandomUser::paste},
-        {10, &RandomUser::useGrid},         {2, &RandomUser::dragGrade},
-        {13, &RandomUser::chooseFromMenu},  {3, &RandomUser::useWindowFrame},
-        {2, &RandomUser::turnWheel},        {6, &RandomUser::selectAndShow}};
-    m_readsHelp = helpWindow() != nullptr && below(3) == 0;
-    if (m_readsHelp && scope() == helpWindow() && below(8) == 0) {
+    m_beside = chooseBeside();
+    const bool reaches = m_beside && scope() == m_beside;
+    if (reaches && WorkbenchUser::knows(*m_beside))
+        return below(10) < 8 ? m_workbench.act(*m_beside) : actAnywhere();
+    if (reaches && below(8) == 0) {
         note("close the help");
-        helpWindow()->close();
+        m_beside->close();
         return;
     }
     auto *window = LoadedInstance<mdiVelmar>();
@@ -116,6 +147,18 @@ void RandomUser::act() {
         window->setWindowState(vbNormal);
         return;
     }
+    if (window != nullptr && scope() == window && below(12) == 0) return m_workbench.open();
+    actAnywhere();
+}
+
+void RandomUser::actAnywhere() {
+    static const QList<std::pair<int, void (RandomUser::*)()>> actions = {
+        {25, &RandomUser::click},           {15, &RandomUser::pressKey},
+        {3, &RandomUser::pressShortcut},    {8, &RandomUser::type},
+        {12, &RandomUser::typeTemperature}, {1, &RandomUser::paste},
+        {10, &RandomUser::useGrid},         {2, &RandomUser::dragGrade},
+        {13, &RandomUser::chooseFromMenu},  {3, &RandomUser::useWindowFrame},
+        {2, &RandomUser::turnWheel},        {6, &RandomUser::selectAndShow}};
     int ticket = below(100);
     for (const auto &[share, action] : actions) {
         ticket -= share;
@@ -390,6 +433,7 @@ void RandomUser::emptyBoxes(QWidget &window) {
 }
 
 int RandomUser::answer(const ModalSeam::Request &request) {
+    if (m_workbench.isTyping()) breakOff("a box while typing: " + request.text);
     const auto either = [this](int a, int b) { return below(2) == 0 ? a : b; };
     switch (request.style & 0xf) {
     case vbOKCancel:
@@ -406,12 +450,10 @@ int RandomUser::answer(const ModalSeam::Request &request) {
 }
 
 QString RandomUser::file() {
-    const QStringList files = {QString(),
-                               m_folder + "/saved.pdf",
-                               m_folder + "/saved.rtf",
-                               m_folder + "/saved.txt",
-                               m_folder + "/saved",
-                               m_folder + "/no folder/saved.pdf",
+    if (m_workbench.isTyping()) breakOff("a dialog while typing");
+    static const QStringList endings = {".pdf", ".rtf", ".txt", ".xlsx", ".csv", ".tsv", ".inp", ".mac", ""};
+    const QString name = "/saved" + oneOf(endings);
+    const QStringList files = {QString(), m_folder + name, m_folder + name, m_folder + "/no folder" + name,
                                m_folder};
     return oneOf(files);
 }
@@ -434,10 +476,10 @@ void RandomUser::keepWatch() {
         if (QWidget *popup = QApplication::activePopupWidget()) {
             static const QList<Qt::Key> keys = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Escape,
                                                 Qt::Key_Right};
-            QTest::keyClick(popup, oneOf(keys, m_watch));
+            QTest::keyClick(popup, m_watch.oneOf(keys));
         } else if (QWidget *modal = QApplication::activeModalWidget();
                    modal != nullptr && qobject_cast<Form *>(modal) == nullptr) {
-            QTest::keyClick(modal, below(3, m_watch) == 0 ? Qt::Key_Return : Qt::Key_Escape);
+            QTest::keyClick(modal, m_watch.below(3) == 0 ? Qt::Key_Return : Qt::Key_Escape);
         }
     });
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <random>
 
 #include <QObject>
 #include <QPointer>
@@ -10,11 +9,14 @@
 #include <QStringList>
 
 #include "tests/support/test_run.h"
+#include "tests/users/workbench_check.h"
+#include "tests/users/workbench_user.h"
 
 class QWidget;
 
 /// Keys, typed and pasted texts, clicks, menu choices, temperatures, windows moved about, and answers to
-/// boxes, all by a seed. Every action is noted in the testRun before it is done, as "do: ...".
+/// boxes, all by a seed. Every action is noted in the testRun before it is done, as "do: ...". What is wrong
+/// then in a window of the tools or in a saved file is noted as "broken: ...".
 class RandomUser : public QObject {
 public:
     /// Files are saved in `folder`.
@@ -24,26 +26,23 @@ public:
     void work(int actions);
 
 private:
-    using Random = std::mt19937;
-
-    static int below(int limit, Random &random) {
-        return static_cast<int>(random() % static_cast<unsigned>(limit));
-    }
-    int below(int limit) { return below(limit, m_random); }
-    template <typename Item>
-    static const Item &oneOf(const QList<Item> &items, Random &random) {
-        return items[below(static_cast<int>(items.size()), random)];
-    }
+    int below(int limit) { return m_chance.below(limit); }
     template <typename Item>
     const Item &oneOf(const QList<Item> &items) {
-        return oneOf(items, m_random);
+        return m_chance.oneOf(items);
     }
 
     bool isRunning() const;
-    /// What a person could reach now: an open menu, a modal window, the help, or the program's main window.
+    /// What a person could reach now: an open menu, a modal window, a window beside the main one, or this.
     QWidget *scope() const;
+    /// The help or a window of the tools, mostly null.
+    QWidget *chooseBeside();
     static QWidget *helpWindow();
     void act();
+    void actAnywhere();
+    /// Ends the run where something is wrong.
+    void check();
+    [[noreturn]] void breakOff(const QString &fault);
     void note(const QString &action);
 
     void click();
@@ -72,9 +71,11 @@ private:
     void keepWatch();
 
     TestRun &m_testRun;
-    Random m_random;
-    Random m_watch; // of its own: how often the watch looks up depends on the clock
+    Chance m_chance;
+    Chance m_watch; // of its own: how often the watch looks up depends on the clock
     QString m_folder;
-    bool m_readsHelp = false;
+    WorkbenchUser m_workbench;
+    WorkbenchCheck m_check;
+    QPointer<QWidget> m_beside;
     int m_depth = 0; // modal windows above one another
 };

@@ -40,16 +40,24 @@ bool isStatementError(int error) {
            error == 3085 || error == 3131 || error == 3141 || error == 3142 || error == 3464;
 }
 
-/// A statement is made at each change of a box, so that the fault is in the last thing that was done.
+bool isSpoilt(const QString &action) {
+    if (action.contains(" in frm")) return false; // the tools' boxes go into no statement
+    // What was copied may hold anything.
+    if (action.startsWith("key Shift+Ins ")) return true;
+    // A box takes Alt+' as the sign alone.
+    const bool isKey = action.startsWith("key ");
+    if (!isKey && !action.startsWith("type ") && !action.startsWith("paste ")) return false;
+    const QString text = isKey ? action.section(' ', 1, 1).right(1) : action.section('"', 1, -2);
+    return text.contains('\'') || text.contains('[') || text.contains('"');
+}
+
+/// The search makes a statement at each change of a box, so that the fault is in the last thing that was
+/// done; the PMA index makes one when its button is pressed.
 bool hasSpoiltText(const QStringList &actions) {
-    for (const QString &action : actions.last(std::min<qsizetype>(actions.size(), 2))) {
-        if (!action.startsWith("type ") && !action.startsWith("paste ") && !action.startsWith("key "))
-            continue;
-        // A box takes Alt+' as the sign alone.
-        const bool isKey = action.startsWith("key ");
-        const QString text = isKey ? action.section(' ', 1, 1).right(1) : action.section('"', 1, -2);
-        if (text.contains('\'') || text.contains('[') || text.contains('"')) return true;
-    }
+    const auto last = actions.last(std::min<qsizetype>(actions.size(), ActionsTold));
+    for (qsizetype i = 0; i < last.size(); ++i)
+        if ((last.size() - i <= 2 || last[i].endsWith(" in txtSearchString")) && isSpoilt(last[i]))
+            return true;
     return false;
 }
 
@@ -118,6 +126,12 @@ private:
         for (const QString &action : done.filter("elp"))
             inHelp += action.section(' ', 0, 0);
         count("in the help", inHelp);
+        static const QRegularExpression inTool("^(\\w+).* (frm(Compare|FindValue|ValueSheet|Card))/");
+        QStringList inTools;
+        for (const QString &action : done)
+            if (const auto match = inTool.match(action); match.hasMatch())
+                inTools += match.captured(2) + ": " + match.captured(1);
+        count("in the tools", inTools);
         count("modal windows", ending.noted("window: "));
         count("file dialogs", ending.noted("file dialog: "));
         QStringList titles;
@@ -129,13 +143,14 @@ private:
         if (error != 0) ++m_errors[error];
         const bool allowed =
             error != 0 && ending.status == 1 && isStatementError(error) && hasSpoiltText(done);
-        const bool keptSettings = TextFile::readLines(m_folders.userFile("Settings.vlp")).size() == 27;
+        const QString settings = m_folders.userFile("Settings.vlp");
+        const bool keptSettings = QFile::exists(settings) && TextFile::readLines(settings).size() == 27;
         if (!allowed && (ending.status != 0 || error != 0 || !keptSettings)) ++m_faults;
         if (ending.status == 0 && keptSettings) return;
         std::printf("%s seed %u, status %d%s; the last actions:\n", allowed ? "allowed:" : "FAULT:", seed,
                     ending.status, keptSettings ? "" : ", settings lost");
-        for (const QString &warning : ending.noted("Qt warns: "))
-            std::printf("    Qt warns: %s\n", qPrintable(warning));
+        for (const QString &line : ending.log.filter(QRegularExpression("^(Qt warns|broken): ")))
+            std::printf("    %s\n", qPrintable(line));
         for (const QString &action : done.mid(std::max<qsizetype>(0, done.size() - ActionsTold)))
             std::printf("    %s\n", qPrintable(action));
         const qsizetype last = ending.log.lastIndexOf("do: " + (done.isEmpty() ? QString() : done.last()));
