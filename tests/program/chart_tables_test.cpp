@@ -3,7 +3,6 @@
 
 #include "data/source_array.h"
 #include "design/chart_tables.h"
-#include "design/design_headings.h"
 #include "tests/support/given_rows.h"
 #include "tests/support/pinned_settings.h"
 
@@ -48,28 +47,6 @@ TEST(ChartTablesTest, EachTableHasItsSeries) {
             text += legend + QLatin1Char('|');
         text += QLatin1Char(' ') + table.yAxisTitle + QLatin1Char(' ') + QString::number(table.ShowLegend);
         EXPECT_EQ(text.toStdString(), item.expected);
-    }
-}
-
-TEST(ChartTablesTest, TheDesignTableHasItsHeadings) {
-    const struct {
-        const char *key;
-        QVector<qint16> bands;
-        const char *expected;
-    } cases[] = {
-        {"Rp02", {}, "Rp0,2 \r\n\r\n[MPa]: [MPa]"},
-        {"Rp10", {0, 16}, "Rp1,0 \r\n\r\n[MPa]: (  ) - 16mm"},
-        {"Rm", {0, 16, 40}, "Rm \r\n\r\n[MPa]: (  ) - 16mm; (16) - 40mm"},
-        {"SpecElecRes", {}, "Ohm x mm² \r\n\r\n/ m: [MPa]"},
-        {"ModElast", {}, "ModElast: [kN/mm]"},
-        {"ThermCond", {}, "ThermCond: [W/m*K]"},
-        {"ThermExp", {}, "ThermExp: ß20, t [E-6/K]; ßdiff, t [E-6/K]"},
-        {"SpecThermCap", {}, "SpecThermCap: Cp20, t [J/kgK]; Cp diff, t [J/kgK]"},
-        {"CreepProp", {}, "Creep Properties: A; B"},
-    };
-    for (const auto &item : cases) {
-        const DesignHeadings headings = designHeadings(item.key, item.bands, {"Temp", "A", "B"});
-        EXPECT_EQ((headings.label + ": " + headings.columns.join("; ")).toStdString(), item.expected);
     }
 }
 

@@ -30,5 +30,6 @@ TEST_F(Reports, OfAGradeHaveTheseContents) {
     tickAll();
     actRepMain report;
     report.Run();
+    EXPECT_EQ(report.document().title, "Velmar-PED_P265GH_1.0425");
     Contents::expect(contentsOf(report.document()), "report of a grade");
 }

@@ -66,13 +66,6 @@ TEST_F(DesignReport, LaysRowsOutByTheirKind) {
     }
 }
 
-TEST_F(DesignReport, SixTablesArePrinted) {
-    run(SampleGrades::X5CrNi, "100");
-    const QString printed = gridText(report.document());
-    EXPECT_TRUE(printed.contains("ThermCond"));
-    EXPECT_FALSE(printed.contains("SpecThermCap"));
-}
-
 TEST_F(DesignReport, ColumnsBeyondThePageStandInASecondBlock) {
     run(SampleGrades::TubeMo3, "500");
     ASSERT_TRUE(report.Sections("gfExtended").Visible);
@@ -92,9 +85,7 @@ TEST_F(DesignReport, ColumnsBeyondThePageStandInASecondBlock) {
     EXPECT_EQ(cell(creep, 9).Border.LeftStyle, 0);
     EXPECT_FALSE(cell(creep + 1, 0).Visible);
     EXPECT_FALSE(cell(creep + 2, 8).Visible);
-    for (const Page &page : report.document().pages)
-        for (const Element &element : page.elements)
-            EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+    expectOnPaper(report.document());
 }
 
 TEST_F(DesignReport, WhateverATablesWidthNoValueLeavesThePage) {
@@ -116,9 +107,7 @@ TEST_F(DesignReport, WhateverATablesWidthNoValueLeavesThePage) {
         for (int column = 1; column <= lastColumn; ++column)
             for (const char *kind : {"band", "value"})
                 EXPECT_EQ(printed.count(kind + QString::number(column)), 1) << kind << column;
-        for (const Page &page : wide.document().pages)
-            for (const Element &element : page.elements)
-                EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+        expectOnPaper(wide.document());
     }
 }
 
@@ -135,9 +124,7 @@ TEST_F(DesignReport, ACreepColumnWiderThanThePageStaysOnIt) {
         const QString printed = gridText(made.document());
         for (const char *value : {"241", "232", "223", "196", "182", "169"})
             EXPECT_EQ(printed.count(value), 1) << value << ' ' << wide;
-        for (const Page &page : made.document().pages)
-            for (const Element &element : page.elements)
-                EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+        expectOnPaper(made.document());
     }
 }
 

@@ -76,6 +76,13 @@ inline QStringList textsOf(const Printing::Report &report, const QString &sectio
     return result;
 }
 
+/// Nothing stands beyond the right margin.
+inline void expectOnPaper(const Printing::Document &document) {
+    for (const Printing::Page &page : document.pages)
+        for (const Printing::Element &element : page.elements)
+            EXPECT_LE(element.box.left() + element.box.width(), 853 + 10200) << qPrintable(element.text);
+}
+
 // The newer compiler takes the control for a part of the name that is given with it.
 #if __has_cpp_attribute(gnu::no_dangling)
 #define OUTLIVES_ITS_ARGUMENTS [[gnu::no_dangling]]

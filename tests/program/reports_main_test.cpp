@@ -1,5 +1,4 @@
 // What the main report is made of: its places, its header, its pictures.
-#include "platform/runtime/app.h"
 #include "reports/actRepMain.h"
 #include "tests/program/reports_fixture.h"
 #include "tests/support/gui.h"
@@ -37,13 +36,6 @@ TEST_F(MainReport, FillsItsPlacesWithoutAGap) {
          {"1 Mechanical Properties", "2 Minimum values for Rm [MPa] at elevated temperature",
           "1 Physical Properties", "2 Thermal conductivity"},
          {"ghMechProp", "ghElevated1", "ghPhysProp1"}},
-        {{"ChemComp", "MechProp", "Rp02", "Rm", "ImpEnergy", "ModElast", "SpecElecRes"},
-         {"1 Chemical Composition", "1 Mechanical Properties", "2 Mechanical properties at room temperature",
-          "2 Minimum values for Rp0,2 [MPa] at elevated temperature",
-          "2 Minimum values for Rm [MPa] at elevated temperature", "1 Impact Energy", "2 Impact energy",
-          "1 Physical Properties", "2 Modulus of elasticity", "2 Specific electrical resistance"},
-         {"ghChemComp", "ghMechProp", "ghElevated1", "ghElevated2", "ghImpEnergy", "ghPhysProp1",
-          "ghPhysProp2"}},
         {{"Rp02", "Rp10", "Rm", "ModElast", "ThermExp", "ThermCond", "SpecThermCap", "SpecElecRes"},
          {"1 Mechanical Properties", "2 Minimum values for Rp0,2 [MPa] at elevated temperature",
           "2 Minimum values for Rp1,0 [MPa] at elevated temperature",
@@ -79,28 +71,6 @@ TEST_F(MainReport, AdditionalInformationIsPrintedWhenTickedAndThere) {
     material->setAddInfo({});
     printOnly({"AddInfo"});
     EXPECT_FALSE(shows("ghAddInfo"));
-}
-
-TEST_F(MainReport, TellsGradeStandardAndDocument) {
-    open(SampleGrades::P265GH);
-    printOnly({});
-    const std::pair<const char *, const char *> expected[] = {
-        {"txtMatName", "P265GH"},
-        {"txtMatNumber", "1.0425"},
-        {"txtMatDesc", "Non-alloy quality steel"},
-        {"txtMatGroup", "1.1"},
-        {"txtRevDate", "2017-09-30"},
-        {"txtStandName", "EN 10028-2"},
-        {"txtSRevDate", "2017-09-30"},
-        {"txtStandDesc",
-         "Flat products made of steels for pressure purposes - Non-alloy and alloy steels with "
-         "specified elevated temperature properties"}};
-    for (const auto &[field, text] : expected)
-        EXPECT_EQ(headerText(field), QLatin1String(text)) << field;
-    EXPECT_EQ(report->Caption, "Name : P265GH Number : 1.0425 Standard : EN 10028-2");
-    EXPECT_EQ(report->DocumentName, App::current().title + "_P265GH_1.0425");
-    EXPECT_EQ(controlOf(*report, "PageFooter", "lblDocName").Text, report->DocumentName);
-    EXPECT_EQ(controlOf(*report, "PageFooter", "lblCopyright").Text, App::current().legalCopyright);
 }
 
 TEST_F(MainReport, TheSecondProductFormIsLeftOut) {

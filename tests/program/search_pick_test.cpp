@@ -150,18 +150,6 @@ TEST_F(SearchPickTest, AStandardShowsItsDescriptionDateAndForms) {
     });
 }
 
-TEST_F(SearchPickTest, WithToolTipsOffThereAreNone) {
-    TestProgram::Given given;
-    given.settings = {"", "", "", "", "", "", "ToolTips_OFF"};
-    start(given);
-    pickName([](frmSelect &list) {
-        type(list.txtSearch, "P");
-        for (const auto &[index, button] : list.cmdFind)
-            EXPECT_EQ(button->toolTip() + list.cmdSelNav(index)->toolTip(), "");
-        EXPECT_EQ(list.txtSearch->toolTip(), "");
-    });
-}
-
 TEST_F(SearchPickTest, ErrorsGoUpWithTheRoutinesSource) {
     main();
     const struct {

@@ -1,15 +1,12 @@
 // Menu, tool bar and status line of the main window, and the arrangement of material windows.
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include <QTest>
 
 #include "data/Material.h"
 #include "material/frmMaterial2.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/forms.h"
-#include "platform/forms/msg_box.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/tdb_grid.h"
 #include "platform/forms/toolbar.h"
@@ -116,6 +113,9 @@ TEST_F(Commands, WindowsCascadeAndTile) {
     EXPECT_FALSE(pressed("Cascade"));
     EXPECT_TRUE(pressed("Ref"));
     EXPECT_EQ(main().strArrangement, "Horizontal");
+    main().DoTileHorizontal(); // with the first one in front already
+    EXPECT_EQ(main().activeChild(), &window(0));
+    EXPECT_EQ(main().mCurrent->ID(), 2);
 }
 
 TEST_F(Commands, TheLastWindowClosedLeavesSelectAndExit) {
@@ -177,26 +177,6 @@ TEST_F(Commands, BackColoursGoRoundInTheirCycle) {
     EXPECT_EQ(main().BackColor(), vbWhite);
     EXPECT_EQ(step(), vbApplicationWorkspace);
     EXPECT_EQ(step(), vbWhite);
-}
-
-TEST_F(Commands, ColoursOffAndOnAgainReachEveryWindow) {
-    show({2});
-    TDBGrid &grid = *window(0).tdbTable;
-    main().menu.mnuSettingsElem(2).trigger();
-    EXPECT_FALSE(grid.AlternatingRowStyle());
-    EXPECT_EQ(window(0).txtNotes->palette().color(QPalette::Base), QColor(Qt::white));
-    main().menu.mnuSettingsElem(2).trigger();
-    EXPECT_TRUE(grid.AlternatingRowStyle());
-    EXPECT_EQ(window(0).txtNotes->palette().color(QPalette::Base), toQColor(vbInfoBackground));
-    EXPECT_EQ(main().BackColor(), main().cBlue);
-}
-
-TEST_F(Commands, TheFirstWindowIsCurrentAfterTilingThoughItWasInFrontBefore) {
-    show({2, 3, 4});
-    window(0).SetFocus();
-    main().DoTileHorizontal();
-    EXPECT_EQ(main().activeChild(), &window(0));
-    EXPECT_EQ(main().mCurrent->ID(), 2);
 }
 
 /// It keeps its place, and hands its state on to the window that takes the front.
@@ -292,17 +272,6 @@ TEST_F(Commands, DoubleClicksHideTheStatusLineAndStepTheBackColour) {
     EXPECT_TRUE(main().stbStatus->Visible());
 }
 
-TEST_F(Commands, WithToolTipsOffTheButtonsKeepTheirText) {
-    show({2, 3});
-    const ToolbarButton &print = main().Toolbar1->Buttons("Print");
-    EXPECT_EQ(print.ToolTipText(), "Print (Preview) " + main().mCurrent->Name() + " Report...");
-    main().bToolTips = false;
-    const QString before = print.ToolTipText();
-    window(0).SetFocus();
-    EXPECT_EQ(main().mCurrent->ID(), 2);
-    EXPECT_EQ(print.ToolTipText(), before);
-}
-
 TEST_F(Commands, EveryBoxOfAMaterialWindowFollowsTheColours) {
     const QStringList boxes = {"txtDesignTemp",  "txtNotes",       "framChart",      "txtNoData",
                                "txtMainData(0)", "txtMainData(1)", "txtMainData(2)", "txtMainData(3)",
@@ -317,25 +286,17 @@ TEST_F(Commands, EveryBoxOfAMaterialWindowFollowsTheColours) {
         for (const TDBGrid *grid : {window(0).tdbBoundTable, window(0).tdbTable, window(0).tdbDesign})
             EXPECT_EQ(grid->AlternatingRowStyle(), alternating) << grid->objectName().toStdString();
     };
+    show({2});
+    expectColours(toQColor(vbInfoBackground), true);
     main().menu.mnuSettingsElem(2).trigger();
-    show({2}); // a window that opens with the colours off
+    expectColours(Qt::white, false);
+    main().menu.mnuFileElem(0).trigger();
+    deleteUnloaded();
+    main().menu.mnuFileElem(0).trigger(); // a window that opens with the colours off
     expectColours(Qt::white, false);
     main().menu.mnuSettingsElem(2).trigger();
     expectColours(toQColor(vbInfoBackground), true);
-}
-
-TEST_F(Commands, HelpAndGeneralInformationAskForTheSameFile) {
-    const auto asksForHelp = [&](const std::function<void()> &command) {
-        modal().answerMsgBox(vbOK);
-        command();
-        EXPECT_EQ(modal().lastAsked().text,
-                  "Cannot find the help file '" + program.folder() + "/Velmar_PED_HELP.chm'.");
-    };
-    asksForHelp([&] { main().menu.mnuFileElem(5).trigger(); });
-    asksForHelp([&] { main().Toolbar1->Buttons("GenInfo").widget()->click(); });
-    for (int i : {0, 1, 2})
-        asksForHelp([&] { main().menu.mnuHelpElem(i).trigger(); });
-    modal().clear();
+    EXPECT_EQ(main().BackColor(), main().cBlue);
 }
 
 TEST_F(Commands, AClosedDialogIsNoWindowThatShowsTables) {

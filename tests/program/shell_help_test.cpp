@@ -9,7 +9,6 @@
 #include <QHelpLink>
 #include <QHelpSearchEngine>
 #include <QHelpSearchQueryWidget>
-#include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabWidget>
@@ -26,7 +25,6 @@
 #include "platform/forms/msg_box.h"
 #include "platform/forms/status_bar.h"
 #include "platform/forms/toolbar.h"
-#include "platform/runtime/app.h"
 #include "reports/frmSave.h"
 #include "search/frmSearch.h"
 #include "shell/HTMLHelp.h"
@@ -206,29 +204,23 @@ TEST_F(HelpFile, AMissingFileIsToldWithItsNameAndNothingElseHappens) {
     modal().answerMsgBox(vbOK);
     main().menu.mnuHelpElem(0).trigger();
     EXPECT_TRUE(modal().lastAsked().text.contains(program.folder() + "/Velmar_PED_HELP.chm"));
+    modal().answerMsgBox(vbOK);
+    main().menu.mnuFileElem(5).trigger(); // a topic of it
+    EXPECT_EQ(modal().asked().size(), 2);
     EXPECT_EQ(viewer(), nullptr);
     EXPECT_EQ(HTMLHelp::HelpFilePath(2), "");
 }
 
-TEST_F(HelpFile, TheAboutWindowTellsVersionAndLastUpdate) {
+TEST_F(HelpFile, TheAboutWindowGivesTheAddressOfTheHelp) {
     HTMLHelp::ShowHelpTopic(1, "How_To_Contact_Us.htm");
-    const QString makerAndAddress = "Velmar-PED\nYour contact is the provider of this copy of Velmar-PED.\n";
-    EXPECT_TRUE(viewer()->findChild<QTextBrowser *>("HelpText")->toPlainText().contains(makerAndAddress));
+    const QString help = viewer()->findChild<QTextBrowser *>("HelpText")->toPlainText();
     const QString standing = main().stbStatus->PanelText(1);
     modal().driveForm([&](Form &form) {
         EXPECT_EQ(main().stbStatus->PanelText(1), "About Velmar-PED");
         auto &about = *form.as<frmAbout>();
-        const App &app = App::current();
         EXPECT_EQ(about.Caption(), "About Velmar-PED");
-        EXPECT_EQ(about.lblTitle->text(), "Velmar-PED");
-        EXPECT_EQ(about.lblVersion->text(),
-                  QString("Version %1.%2.%3").arg(app.major).arg(app.minor).arg(app.revision));
-        EXPECT_EQ(about.lblCopyright->text(), QChar(0xA9) + (' ' + app.legalCopyright));
-        EXPECT_EQ(about.lblLastUpdated->text(), "Last Updated - 2021-11-08");
-        EXPECT_TRUE(about.txtContact->isReadOnly());
-        const QString contact = about.txtContact->toPlainText();
-        EXPECT_TRUE(contact.startsWith(makerAndAddress)) << qPrintable(contact);
-        EXPECT_TRUE(contact.contains("send a copy"));
+        const QString makerAndAddress = about.txtContact->toPlainText().section('\n', 0, 1);
+        EXPECT_TRUE(help.contains(makerAndAddress + '\n')) << qPrintable(makerAndAddress);
         QTest::mouseClick(about.cmdOK, Qt::LeftButton);
         EXPECT_TRUE(about.isUnloaded());
     });

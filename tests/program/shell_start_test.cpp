@@ -163,24 +163,6 @@ TEST_F(Start, TheTimerAndEveryClickLeadToTheSearchToo) {
     }
 }
 
-TEST_F(Start, FilesBesideTheProgramAreTheFirstContentOfTheUsersFolder) {
-    copyDatabase(program("Velmar_PED.mdb"));
-    TextFile::writeLines(program("Settings.vlp"), {"Tile_Horizontal"});
-    start();
-    EXPECT_EQ(mdiVelmar::instance().iArrangement, 1);
-    EXPECT_TRUE(QFile::exists(user("Settings.vlp")));
-}
-
-TEST_F(Start, WithoutAppDataTheFilesLieBesideTheProgram) {
-    copyDatabase(program("Velmar_PED.mdb"));
-    qunsetenv("APPDATA");
-    start();
-    EXPECT_EQ(modFileHandler::GetUserFolder(), m_program.path() + '/');
-    leave();
-    EXPECT_EQ(settingsOf(program("Settings.vlp")).size(), 27);
-    EXPECT_TRUE(QFile::exists(program("PathSet.vlp")));
-}
-
 TEST_F(Start, AFolderThatCannotBeMadeIsToldAndTheProgramsOwnServes) {
     copyDatabase(program("Velmar_PED.mdb"));
     qputenv("APPDATA", program("Velmar_PED.mdb").toUtf8()); // a file
@@ -395,33 +377,9 @@ TEST_F(Start, SettingsComeBackAtTheNextStart) {
 
 TEST_F(Start, ABackColourThatIsNoNumberIsReportedAndMended) {
     copyDatabase(program("Velmar_PED.mdb"));
-    QStringList lines = {"Cascade",
-                         "Tool_SHOW",
-                         "Tool_TOP",
-                         "Status_SHOW",
-                         "blue",
-                         "Colours_ON",
-                         "ToolTips_OFF",
-                         "1234",
-                         "0",
-                         "0",
-                         "0",
-                         "0",
-                         "0",
-                         "True",
-                         "False",
-                         "True",
-                         "True",
-                         "True",
-                         "True",
-                         "EN 10028-2",
-                         "",
-                         "",
-                         "",
-                         "",
-                         "",
-                         "",
-                         "1"};
+    QStringList lines = QString("Cascade,Tool_SHOW,Tool_TOP,Status_SHOW,blue,Colours_ON,ToolTips_OFF,"
+                                "1234,0,0,0,0,0,True,False,True,True,True,True,EN 10028-2,,,,,,,1")
+                            .split(',');
     writeUser("Settings.vlp", lines);
     start();
     const QList<RuntimeError> faults = takeFaults();

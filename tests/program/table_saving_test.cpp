@@ -9,10 +9,10 @@
 #include "data/table_vocabulary.h"
 #include "material/frmMaterial2.h"
 #include "tests/exchange/xlsx_reader.h"
+#include "tests/support/csv_table.h"
 #include "tests/support/gui.h"
 #include "tests/support/program_fixture.h"
 #include "tests/support/sample_pages.h"
-#include "tests/values/plain_sample.h"
 
 namespace {
 
@@ -46,11 +46,11 @@ protected:
     }
     QString path(const QString &name) { return program().folder() + '/' + name; }
 
-    /// A line a row, the cells parted by strokes.
-    static std::string told(const QList<QStringList> &rows) {
+    /// A line a row.
+    static std::string told(const QList<QStringList> &rows, const QString &between = " | ") {
         QStringList lines;
         for (const QStringList &row : rows)
-            lines << row.join(" | ");
+            lines << row.join(between);
         return lines.join('\n').toStdString();
     }
     static QList<QStringList> csvRows(const QString &path) {
@@ -107,11 +107,8 @@ TEST_F(SavedTables, WritesATableOfBandsAsTheSampleHasIt) {
     pressKeys(*window.tdbBoundTable);
     QFile file(path("expansion.tsv"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-    const QList<QStringList> rows = sample.page(P265GH, "ThermExp").rows;
-    ASSERT_EQ(lines.size(), rows.size() + 1);
-    for (qsizetype i = 0; i < rows.size(); ++i)
-        EXPECT_EQ(lines[i + 1], rows[i].join('\t'));
+    EXPECT_EQ(QString::fromUtf8(file.readAll()).section('\n', 1, -2).toStdString(),
+              told(sample.page(P265GH, "ThermExp").rows, "\t"));
 }
 
 TEST_F(SavedTables, WritesACompositionWithNumbersTextsAndFacts) {
@@ -146,35 +143,19 @@ TEST_F(SavedTables, WritesTheDesignValuesOfTheTypedTemperature) {
     type(window.txtDesignTemp, "412,5");
     modal().chooseFile(path("values.xlsx"));
     chooseInMenu(grid);
-    modal().chooseFile(path("values.csv"));
-    pressKeys(grid);
 
     const XlsxReader book(path("values.xlsx"));
-    const QList<QStringList> csv = csvRows(path("values.csv"));
-    ASSERT_EQ(csv.size(), grid.RowCount());
     ASSERT_EQ(book.sheets[0].rows.size(), grid.RowCount() - 1) << "the last row is empty";
     int numbers = 0;
     for (int row = 0; row < grid.RowCount(); ++row)
         for (int column = 0; column < grid.ColumnCount(); ++column) {
             const QString text = grid.CellText(row, column);
-            const QString expected = row % 3 == 0 ? text.simplified() : text;
-            EXPECT_EQ(csv[row].value(column), expected);
             const ReadCell cell = book.sheets[0].rows.value(row).value(column);
-            expectCell(cell, expected);
+            expectCell(cell, row % 3 == 0 ? text.simplified() : text);
             numbers += cell.isNumber;
         }
     EXPECT_GT(numbers, 5);
-    EXPECT_EQ(csv[1][1], "+") << "the table of Rp0,2 ends below";
     EXPECT_EQ(book.sheets[1].texts(2), QStringList({"Temperature [°C]", "412,5"}));
-
-    PlainSample sample;
-    const auto plain = sample.at("ModElast", P265GH, 4125, std::nullopt);
-    ASSERT_EQ(plain.values.size(), 1U);
-    const auto row =
-        std::find_if(csv.begin(), csv.end(), [](const QStringList &each) { return each[0] == "ModElast"; });
-    ASSERT_NE(row, csv.end());
-    EXPECT_EQ(qRound64(QString((row + 1)->at(1)).replace(',', '.').toDouble() * 1000),
-              plain.values[0].number);
 
     window.txtDesignTemp->clear();
     EXPECT_FALSE(offers(grid)) << "the values that stay belong to no temperature in sight";
