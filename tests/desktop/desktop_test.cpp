@@ -112,8 +112,11 @@ TEST_F(DesktopTest, ATypeFallsBackOnWhatItDerivesFrom) {
     EXPECT_EQ(applicationFor("a.pdf"), "") << "an opener of bytes is no opener of documents";
 }
 
-TEST_F(DesktopTest, AProgramGetsTheFilesNameWhole) {
-    write("tell", "#!/bin/sh\nprintf '%s|' \"$@\" >\"$0.new\"\nmv \"$0.new\" \"$0.told\"\n");
+TEST_F(DesktopTest, AProgramGetsTheFilesNameWholeAndNoVariableOfThisProgramAlone) {
+    qputenv("ONLY_FOR_THIS_PROGRAM", "MODULES FONTS");
+    qputenv("MODULES", "ours");
+    qputenv("FONTS", "ours");
+    write("tell", "#!/bin/sh\nprintf '%s|' \"$@\" $MODULES $FONTS >\"$0.new\"\nmv \"$0.new\" \"$0.told\"\n");
     QFile::setPermissions(path("tell"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     const QString file = path(QStringLiteral("a b#1 50%20 größer.pdf"));
     for (const auto &[codes, expected] :
@@ -129,6 +132,8 @@ TEST_F(DesktopTest, AProgramGetsTheFilesNameWhole) {
         ASSERT_TRUE(told.open(QIODevice::ReadOnly));
         EXPECT_EQ(told.readAll().toStdString(), expected.toStdString());
     }
+    for (const char *name : {"ONLY_FOR_THIS_PROGRAM", "MODULES", "FONTS"})
+        qunsetenv(name);
 }
 
 TEST_F(DesktopTest, OpeningAnswersWithTheClassicCodes) {

@@ -7,6 +7,21 @@
 
 #include <gio/gio.h>
 
+namespace {
+
+using Context = std::unique_ptr<GAppLaunchContext, decltype(&g_object_unref)>;
+
+/// A start script may set variables for this program alone, and names them: others would be led to the
+/// wrong libraries.
+Context contextOfOthers() {
+    Context context(g_app_launch_context_new(), g_object_unref);
+    for (const QByteArray &name : qgetenv("ONLY_FOR_THIS_PROGRAM").split(' '))
+        if (!name.isEmpty()) g_app_launch_context_unsetenv(context.get(), name.constData());
+    return context;
+}
+
+} // namespace
+
 DesktopEntry::DesktopEntry(GAppInfo *application)
     : m_application(application, g_object_unref) {}
 
@@ -42,5 +57,5 @@ QString DesktopEntry::name() const {
 bool DesktopEntry::open(const QString &file) const {
     QByteArray address = QUrl::fromLocalFile(file).toEncoded();
     GList addresses = {address.data(), nullptr, nullptr};
-    return g_app_info_launch_uris(m_application.get(), &addresses, nullptr, nullptr) != FALSE;
+    return g_app_info_launch_uris(m_application.get(), &addresses, contextOfOthers().get(), nullptr) != FALSE;
 }
