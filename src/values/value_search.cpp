@@ -194,9 +194,8 @@ QString ValueSearch::summary(const ValueQuery &query, const ValueResult &result)
         const ValueCondition &condition = query.conditions[i];
         const Absences &absences = result.absences[i];
         if (absences.total() == 0) continue;
-        text += "; no value" +
-                (query.conditions.size() > 1 ? " of " + condition.property.label : QString()) + " at " +
-                condition.temperature + " °C in " + TypedTexts::grouped(absences.total()) + ": " +
+        text += "; no value" + (query.conditions.size() > 1 ? " of " + condition.property.label : QString()) +
+                " at " + condition.temperature + " °C in " + TypedTexts::grouped(absences.total()) + ": " +
                 counted(absences, thicknessText(condition));
     }
     return text;
