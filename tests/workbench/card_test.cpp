@@ -8,6 +8,7 @@
 #include "platform/dao/database.h"
 #include "shell/main_menu.h"
 #include "tests/support/csv_table.h"
+#include "tests/support/raising_through_qt.h"
 #include "tests/workbench/workbench_fixture.h"
 #include "workbench/frmCard.h"
 
@@ -129,7 +130,7 @@ TEST_F(Card, IsSavedWholeOrNotAtAll) {
     click(card.cmdSave);
     QDir(program().folder()).mkdir("taken.inp");
     modal().chooseFile(program().folder() + "/taken.inp");
-    click(card.cmdSave);
+    raisingThroughQt([&] { click(card.cmdSave); });
     const QList<RuntimeError> faults = takeFaults();
     ASSERT_EQ(faults.size(), 1);
     EXPECT_EQ(faults.first().number(), 75);
