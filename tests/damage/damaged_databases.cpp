@@ -17,7 +17,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include "platform/dao/access_source.h"
+#include "platform/dao/file_source.h"
 #include "platform/dao/database.h"
 #include "platform/dao/db_engine.h"
 #include "platform/dao/recordset.h"
@@ -130,7 +130,7 @@ public:
         if (!sample.open(QIODevice::ReadOnly)) qFatal("no sample");
         m_good = sample.readAll();
         const auto database = DBEngine::instance().OpenDatabase(sample.fileName(), true, true, Connect);
-        AccessSource source(sample.fileName());
+        FileSource source(sample.fileName());
         m_owners = std::make_unique<PageOwners>(m_good, source.tableNames());
         for (const QString &name : source.tableNames())
             m_tables.append(goodTable(*database, name, source.fields(name)));

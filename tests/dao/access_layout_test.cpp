@@ -33,7 +33,7 @@ qsizetype memoHead(const QByteArray &file) {
 } // namespace
 
 TEST(AccessLayout, DeletedRowsAreGoneAndMovedOnesAreReadWhereTheyAre) {
-    AccessSource original(Main, helperPath());
+    FileSource original(Main, helperPath());
     Rows expected = allRows(original, "Units");
     ASSERT_EQ(expected.size(), 7);
 
@@ -50,14 +50,14 @@ TEST(AccessLayout, DeletedRowsAreGoneAndMovedOnesAreReadWhereTheyAre) {
     mdbPages::setRowCount(file, mdbPages::definitionOf(file, page), expected.size());
 
     const QTemporaryDir folder;
-    AccessSource source(writeFile(folder, "moved.mdb", file), helperPath());
+    FileSource source(writeFile(folder, "moved.mdb", file), helperPath());
     EXPECT_EQ(rowTexts(allRows(source, "Units")), rowTexts(expected));
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(rowTexts(matchingRows(source, "Units", {{"unitID", 6}})), rowTexts({expected[1]}));
 
     mdbPages::put(file, mdbPages::rowStart(file, page, 2),
                   static_cast<quint32>(page / mdbPages::Size << 8 | 2));
-    AccessSource circle(writeFile(folder, "circle.mdb", file), helperPath());
+    FileSource circle(writeFile(folder, "circle.mdb", file), helperPath());
     EXPECT_EQ(errorOf([&] { allRows(circle, "Units"); }), 3343);
 }
 
@@ -84,7 +84,7 @@ TEST(AccessLayout, RowsThatAreLostOrWouldBeMisreadAreAnError) {
         QByteArray bad = good;
         bad.replace(at, bytes.size(), bytes);
         const QString path = writeFile(folder, "bad.mdb", bad);
-        EXPECT_EQ(errorOf([&] { allRows(*std::make_unique<AccessSource>(path, helperPath()), "Units"); }),
+        EXPECT_EQ(errorOf([&] { allRows(*std::make_unique<FileSource>(path, helperPath()), "Units"); }),
                   3343)
             << damage;
     }
@@ -96,7 +96,7 @@ TEST(AccessLayout, MemosOfAnyLengthAreWhole) {
     const qsizetype head = memoHead(file);
     ASSERT_GT(head, 0);
     const auto memoWith = [&](const QByteArray &bytes) {
-        AccessSource source(writeFile(folder, "memo.mdb", bytes), helperPath());
+        FileSource source(writeFile(folder, "memo.mdb", bytes), helperPath());
         return allRows(source, "TableNotes")[0][2].toString();
     };
     const auto point = [&](QByteArray &bytes, qsizetype size, quint32 flags, quint32 place) {
@@ -132,7 +132,7 @@ TEST(AccessLayout, EmptyTextIsNotNull) {
     QByteArray file = fileBytes(Main);
     mdbPages::put(file, memoHead(file), quint32(0x80000000));
     const QTemporaryDir folder;
-    AccessSource source(writeFile(folder, "empty.mdb", file), helperPath());
+    FileSource source(writeFile(folder, "empty.mdb", file), helperPath());
     EXPECT_EQ(cellText(allRows(source, "TableNotes")[0][2]), "QString:");
 }
 
@@ -146,8 +146,8 @@ TEST(AccessLayout, CipheredFileIsRead) {
         file[0x3e + i] = static_cast<char>(file[0x3e + i] ^ static_cast<char>(Key >> 8 * i));
 
     const QTemporaryDir folder;
-    AccessSource source(writeFile(folder, "ciphered.mdb", file), helperPath());
-    AccessSource original(Main, helperPath());
+    FileSource source(writeFile(folder, "ciphered.mdb", file), helperPath());
+    FileSource original(Main, helperPath());
     for (const QString &table : original.tableNames())
         EXPECT_EQ(rowTexts(allRows(source, table)), rowTexts(allRows(original, table)))
             << table.toStdString();
@@ -161,7 +161,7 @@ TEST(AccessLayout, FilesOfLaterVersionsAreRead) {
     file.replace(4, 15, "Standard ACE DB");
     for (const char version : {'\2', '\3', '\5'}) {
         file[0x14] = version;
-        AccessSource source(writeFile(folder, "later.accdb", file), helperPath());
+        FileSource source(writeFile(folder, "later.accdb", file), helperPath());
         EXPECT_EQ(source.tableNames().size(), 27);
         EXPECT_EQ(allRows(source, "Rp02").size(), 706);
     }
@@ -189,7 +189,7 @@ TEST(AccessLayout, EveryTypeIsReadInEveryVersion) {
     const QTemporaryDir folder;
     for (const Version version : {Version::Access97, Version::Access2000, Version::Access2007}) {
         SCOPED_TRACE(int(version));
-        AccessSource source(writeFile(folder, "types.mdb", JetFile(version).make("Types", columns, rows)),
+        FileSource source(writeFile(folder, "types.mdb", JetFile(version).make("Types", columns, rows)),
                             helperPath());
         ASSERT_EQ(source.tableNames(), QStringList("Types"));
         const FieldDefinitions fields = source.fields("Types");
@@ -238,7 +238,7 @@ TEST(AccessLayout, DecimalIsTheDoubleNearestToIt) {
     const QTemporaryDir folder;
     for (const JetFile::Version version : {JetFile::Version::Access2000, JetFile::Version::Access2007}) {
         const QByteArray file = JetFile(version).make("Decimals", columns, {stored});
-        AccessSource source(writeFile(folder, "decimals.mdb", file), helperPath());
+        FileSource source(writeFile(folder, "decimals.mdb", file), helperPath());
         const Rows read = allRows(source, "Decimals");
         ASSERT_EQ(read.size(), 1);
         EXPECT_FALSE(read[0].last().isValid());
@@ -250,7 +250,7 @@ TEST(AccessLayout, DecimalIsTheDoubleNearestToIt) {
     }
     const QByteArray absurd =
         JetFile(JetFile::Version::Access2000).make("Decimals", {{"d", Type::Decimal, 5, 6}}, {{"0.1"}});
-    EXPECT_EQ(errorOf([&] { AccessSource(writeFile(folder, "absurd.mdb", absurd), helperPath()); }), 3343);
+    EXPECT_EQ(errorOf([&] { FileSource(writeFile(folder, "absurd.mdb", absurd), helperPath()); }), 3343);
 }
 
 TEST(AccessLayout, NameOfAQueryOrALinkIsToldWhereATableOfItIsMissing) {
@@ -259,7 +259,7 @@ TEST(AccessLayout, NameOfAQueryOrALinkIsToldWhereATableOfItIsMissing) {
     for (const JetFile::Version version : {JetFile::Version::Access97, JetFile::Version::Access2000}) {
         const QByteArray bytes = JetFile(version).make("T", {{"id", JetFile::Type::Long}}, {{1}}, others);
         Database database =
-            databaseOver(std::make_unique<AccessSource>(writeFile(folder, "query.mdb", bytes), helperPath()));
+            databaseOver(std::make_unique<FileSource>(writeFile(folder, "query.mdb", bytes), helperPath()));
         const auto endOf = [&](const QString &sql) {
             const std::string text = errorText([&] { database.OpenRecordset(sql); });
             EXPECT_EQ(text.rfind("3078: The database engine cannot find the input table or query '", 0), 0u);
@@ -304,7 +304,7 @@ TEST(AccessLayout, ColumnOfATypeThatIsNotReadHarmsOnlyThoseWhoAskForIt) {
     for (const auto &file : files) {
         const QByteArray bytes = JetFile(file.version).make("Mixed", file.columns, {file.row});
         Database database =
-            databaseOver(std::make_unique<AccessSource>(writeFile(folder, "mixed.mdb", bytes), helperPath()));
+            databaseOver(std::make_unique<FileSource>(writeFile(folder, "mixed.mdb", bytes), helperPath()));
         const auto all = database.OpenRecordset("select * from Mixed where id = 1");
         EXPECT_EQ(shownRows(*all, {"id", "name"}), std::vector<std::string>{"1|a"});
         for (qsizetype i = 2; i < file.columns.size(); ++i) {

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int CutOff = 3049;
-constexpr int LongestWait = AccessSource::Patience + 1000;
+constexpr int LongestWait = FileSource::Patience + 1000;
 
 /// The error of reading the whole file, table by table and by a key. No step of it may take too long.
 template <typename Source>
@@ -43,8 +43,8 @@ int errorOfReading(const QString &path, std::unique_ptr<Source> (*open)(const QS
 }
 
 int errorOfAccess(const QString &path) {
-    return errorOfReading<AccessSource>(
-        path, [](const QString &file) { return std::make_unique<AccessSource>(file, helperPath()); });
+    return errorOfReading<FileSource>(
+        path, [](const QString &file) { return std::make_unique<FileSource>(file, helperPath()); });
 }
 
 int errorOfSqlite(const QString &path) {

@@ -9,7 +9,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/dao/access_source.h"
+#include "platform/dao/file_source.h"
 #include "tests/support/error_of.h"
 
 using Rows = QVector<QVector<QVariant>>;
@@ -19,7 +19,7 @@ inline QString samplePath(const QString &name) {
 }
 
 inline QString helperPath() {
-    return QStringLiteral(BINARY_FOLDER "/mdb_reader");
+    return QStringLiteral(BINARY_FOLDER "/table_reader");
 }
 
 /// The process of the one helper that runs, -1 without one. One that has ended and was not waited for is

@@ -2,7 +2,7 @@
 
 #include <QDateTime>
 
-#include "platform/dao/access_source.h"
+#include "platform/dao/file_source.h"
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/runtime_error.h"
 
@@ -95,7 +95,7 @@ Database databaseOver(std::unique_ptr<TableSource> source, qint64 wholeTableLimi
 
 Database sampleDatabase(const QString &file, qint64 wholeTableLimit) {
     return databaseOver(
-        std::make_unique<AccessSource>(QString(SOURCE_FOLDER "/sample/") + file, BINARY_FOLDER "/mdb_reader"),
+        std::make_unique<FileSource>(QString(SOURCE_FOLDER "/sample/") + file, BINARY_FOLDER "/table_reader"),
         wholeTableLimit);
 }
 

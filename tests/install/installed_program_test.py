@@ -67,7 +67,7 @@ class InstalledProgram(unittest.TestCase):
         program = self.start()
         database = str(self.prefix / "share/velmar-ped/Velmar_PED.mdb")
         self.assertTrue(awaited(lambda: database in open_files(program)), "the database is open")
-        self.assertTrue(awaited(lambda: str(self.prefix / "libexec/velmar-ped/mdb_reader") in child_programs(program)))
+        self.assertTrue(awaited(lambda: str(self.prefix / "libexec/velmar-ped/table_reader") in child_programs(program)))
         self.assertTrue((self.prefix / "share/velmar-ped/Velmar_PED_HELP.chm").exists(), "the help without the program")
         self.assertTrue((self.home / ".config/Harmotek/Velmar_PED/PathSet.vlp").exists())
         self.assertIsNone(program.poll())

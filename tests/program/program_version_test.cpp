@@ -8,7 +8,7 @@
 
 #include "data/modFileHandler.h"
 #include "data/program_version.h"
-#include "platform/dao/access_source.h"
+#include "platform/dao/file_source.h"
 #include "platform/runtime/app.h"
 
 namespace {
@@ -45,7 +45,7 @@ TEST_F(ProgramFiles, ABuildHasThemBesideTheBinary) {
 TEST_F(ProgramFiles, AnInstallationHasThemInItsFoldersAndIsNotWrittenInto) {
     QDir().mkpath(path("usr/share/velmar-ped"));
     QDir().mkpath(path("usr/libexec/velmar-ped"));
-    QFile helper(path("usr/libexec/velmar-ped/mdb_reader"));
+    QFile helper(path("usr/libexec/velmar-ped/table_reader"));
     ASSERT_TRUE(helper.open(QIODevice::WriteOnly));
     helper.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     QFile firstPath(path("usr/share/velmar-ped/PathSet.vlp"));
@@ -55,7 +55,7 @@ TEST_F(ProgramFiles, AnInstallationHasThemInItsFoldersAndIsNotWrittenInto) {
 
     ProgramVersion::apply(path("usr/bin"));
     EXPECT_EQ(App::current().path, path("usr/share/velmar-ped"));
-    EXPECT_EQ(AccessSource::helperProgram(), helper.fileName());
+    EXPECT_EQ(FileSource::helperProgram(), helper.fileName());
 
     // whoever runs the tests may well be able to write into the folder
     modFileHandler::SetupFileEnvironment();

@@ -302,7 +302,7 @@ TEST_F(Start, ADatabaseHeldByAnotherRunIsLogged) {
 
 TEST_F(Start, ADatabaseThatDoesNotAnswerIsWaitedForOrLogged) {
     copyDatabase(program("Velmar_PED.mdb"));
-    QFile helper(program("mdb_reader"));
+    QFile helper(program("table_reader"));
     ASSERT_TRUE(helper.open(QIODevice::WriteOnly));
     helper.write("#!/bin/sh\nexec sleep 60\n");
     helper.setPermissions(QFile::ReadOwner | QFile::ExeOwner);

@@ -115,10 +115,10 @@ TEST(IncludeRules, ALibraryIsKnownToOnePartOfThePlatform) {
 TEST(IncludeRules, OnlyTheHelperReachesTheLibraryThatDamagedFilesCanBringDown) {
     const QString library = QStringLiteral("#include [<\"](mdbtools|mdbsql|glib)");
     EXPECT_EQ(matching(linesBelow("platform"), library).toStdString(), "");
-    EXPECT_NE(matching(linesBelow("mdb_reader"), library), "");
+    EXPECT_NE(matching(linesBelow("table_reader"), library), "");
     // Of the program it shares the protocol, and nothing that would bring Qt along.
-    EXPECT_EQ(matching(linesBelow("mdb_reader"),
-                       "#include (\"platform/(?!dao/(mdb_protocol|file_identity)\\.h)|<Q)")
+    EXPECT_EQ(matching(linesBelow("table_reader"),
+                       "#include (\"platform/(?!dao/(table_protocol|file_identity)\\.h)|<Q)")
                   .toStdString(),
               "");
 }

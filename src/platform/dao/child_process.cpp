@@ -22,7 +22,8 @@
 namespace {
 
 constexpr qsizetype BufferSize = 256 * 1024;
-constexpr int FirstInheritedFile = 3;
+// No file that is to become one of the child's lies among their numbers before.
+constexpr int AboveTheChilds = 16;
 // A child that waits for a medium uses next to none of the time that passes, one that spins all it can get.
 constexpr int BusyShare = 20;
 
@@ -37,12 +38,13 @@ std::vector<char *> childEnvironment() {
 
 class SpawnSettings {
 public:
-    explicit SpawnSettings(int socket) {
+    SpawnSettings(int socket, int file, int asFile) {
         posix_spawn_file_actions_init(&actions);
         posix_spawn_file_actions_adddup2(&actions, socket, STDIN_FILENO);
         posix_spawn_file_actions_adddup2(&actions, socket, STDOUT_FILENO);
         posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-        posix_spawn_file_actions_addclosefrom_np(&actions, FirstInheritedFile);
+        posix_spawn_file_actions_adddup2(&actions, file, asFile);
+        posix_spawn_file_actions_addclosefrom_np(&actions, asFile + 1);
 
         posix_spawnattr_init(&attributes);
         sigset_t none;
@@ -66,10 +68,8 @@ public:
 
 } // namespace
 
-ChildProcess::ChildProcess(QString program, QStringList arguments, int patienceInMilliseconds,
-                           OnSilence onSilence)
+ChildProcess::ChildProcess(QString program, int patienceInMilliseconds, OnSilence onSilence)
     : m_program(std::move(program))
-    , m_arguments(std::move(arguments))
     , m_patience(patienceInMilliseconds)
     , m_onSilence(std::move(onSilence))
     , m_buffer(BufferSize, Qt::Uninitialized) {}
@@ -78,23 +78,20 @@ ChildProcess::~ChildProcess() {
     stop();
 }
 
-int ChildProcess::start() {
+int ChildProcess::start(int file, int asFile) {
     stop();
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return errno;
 
-    std::vector<QByteArray> words = {QFile::encodeName(m_program)};
-    for (const QString &argument : m_arguments)
-        words.push_back(QFile::encodeName(argument));
-    std::vector<char *> arguments;
-    for (QByteArray &word : words)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-
-    const SpawnSettings settings(ends[1]);
-    const int failure = posix_spawn(&m_id, words.front().constData(), &settings.actions, &settings.attributes,
-                                    arguments.data(), childEnvironment().data());
-    close(ends[1]);
+    QByteArray program = QFile::encodeName(m_program);
+    char *const arguments[] = {program.data(), nullptr};
+    const int childsEnd = fcntl(ends[1], F_DUPFD_CLOEXEC, AboveTheChilds);
+    const int childsFile = fcntl(file, F_DUPFD_CLOEXEC, AboveTheChilds);
+    const SpawnSettings settings(childsEnd, childsFile, asFile);
+    const int failure = posix_spawn(&m_id, program.constData(), &settings.actions, &settings.attributes,
+                                    arguments, childEnvironment().data());
+    for (const int inherited : {ends[1], childsEnd, childsFile})
+        if (inherited >= 0) close(inherited);
     if (failure != 0) {
         close(ends[0]);
         m_id = -1;

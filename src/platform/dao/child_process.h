@@ -6,7 +6,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 #include <sys/types.h>
 
@@ -19,14 +18,14 @@ public:
     /// good deal of processor time meanwhile, and so does not wait for anything itself.
     using OnSilence = std::function<bool(bool isBusy)>;
 
-    ChildProcess(QString program, QStringList arguments, int patienceInMilliseconds, OnSilence onSilence);
+    ChildProcess(QString program, int patienceInMilliseconds, OnSilence onSilence);
     ~ChildProcess();
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
 
     /// 0, or the system's error number where the program cannot be run. A child that still runs is ended
-    /// first.
-    int start();
+    /// first. The child has `file` open as `asFile`, from 3 on, and nothing else but its standard files.
+    int start(int file, int asFile);
     /// False also for a child that has gone by itself.
     bool isRunning();
     /// At once, whatever it is doing.
@@ -48,7 +47,6 @@ private:
     bool receiveSome();
 
     QString m_program;
-    QStringList m_arguments;
     int m_patience;
     OnSilence m_onSilence;
     pid_t m_id = -1;

@@ -1,7 +1,7 @@
-#include "mdb_reader/data_page.h"
+#include "table_reader/data_page.h"
 
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/damaged.h"
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
 
 namespace {
 constexpr std::uint16_t HiddenFlag = 0x8000;

@@ -1,4 +1,7 @@
-// The words that pass between the main program and the program that reads Access files.
+// The words that pass between the main program and the program that reads files of tables.
+//
+// The helper finds the file open as FileDescriptor; requests come on its standard input, answers go to its
+// standard output.
 //
 // Both directions carry frames: the length of what follows (32 bits), one byte of kind, the content. Numbers
 // are in the machine's own byte order: both ends run on one machine. A text is its number of UTF-16 units (32
@@ -7,17 +10,21 @@
 
 #include <cstdint>
 
-namespace MdbProtocol {
+namespace TableProtocol {
+
+constexpr int FileDescriptor = 3;
 
 enum class Request : std::uint8_t {
+    /// The first one, and sent once: the password, a text. The answer is a Catalog.
+    Open = 1,
     /// Table's position in the catalog (16 bits), number of conditions (16 bits), and for each one the
     /// column's position (16 bits), a ValueKind and the value: 32 bits or a text. No condition asks for all
     /// rows.
-    Rows = 1,
+    Rows,
 };
 
 enum class Reply : std::uint8_t {
-    /// Sent once, unasked, as soon as the file is open. The file's FileIdentity; number of tables (16 bits),
+    /// The answer to Open. The file's FileIdentity; number of tables (16 bits),
     /// and for each one its name, its rows (32 bits), the number of its columns (16 bits, one at least), and
     /// for each of these its name, a CellType and its size in characters (16 bits). Then the number of the
     /// other things that could be taken for tables (16 bits), and for each one its name and an OtherKind.
@@ -29,9 +36,11 @@ enum class Reply : std::uint8_t {
     Busy,
     /// The last row has been sent.
     End,
-    /// What is wrong with the file, as UTF-8. It ends the answer.
+    /// A FailureKind, and as UTF-8 what is wrong with the file. It ends the answer.
     Failure,
 };
+
+enum class FailureKind : std::uint8_t { Damaged = 1, WrongPassword };
 
 enum class OtherKind : std::uint8_t { Query = 1, Link };
 
@@ -57,4 +66,4 @@ enum class CellType : std::uint8_t {
 /// No frame is longer; one row fits in a frame.
 constexpr std::uint32_t LongestFrame = 128u << 20;
 
-} // namespace MdbProtocol
+} // namespace TableProtocol

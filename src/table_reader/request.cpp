@@ -1,11 +1,11 @@
-#include "mdb_reader/request.h"
+#include "table_reader/request.h"
 
 #include <cstring>
 
 #include <unistd.h>
 
-using MdbProtocol::CellType;
-using MdbProtocol::ValueKind;
+using TableProtocol::CellType;
+using TableProtocol::ValueKind;
 
 namespace {
 
@@ -20,6 +20,14 @@ bool readExactly(int input, void *to, std::size_t size) {
         size -= static_cast<std::size_t>(got);
     }
     return true;
+}
+
+std::optional<std::vector<char>> readFrame(int input) {
+    std::uint32_t length = 0;
+    if (!readExactly(input, &length, sizeof length) || length > LongestRequest) return {};
+    std::vector<char> content(length);
+    if (!readExactly(input, content.data(), content.size())) return {};
+    return content;
 }
 
 /// Takes values from the front of a request.
@@ -64,15 +72,21 @@ bool fits(const Condition &condition, const Column &column) {
 
 } // namespace
 
-std::optional<Request> readRequest(int input, const AccessFile &file) {
-    std::uint32_t length = 0;
-    if (!readExactly(input, &length, sizeof length) || length > LongestRequest) return {};
-    std::vector<char> content(length);
-    if (!readExactly(input, content.data(), content.size())) return {};
+std::optional<std::u16string> readOpenRequest(int input) {
+    const std::optional<std::vector<char>> content = readFrame(input);
+    if (!content) return {};
+    Fields fields(*content);
+    if (fields.number<TableProtocol::Request>() != TableProtocol::Request::Open) return {};
+    std::u16string password = fields.text();
+    return fields.complete() ? std::optional(std::move(password)) : std::nullopt;
+}
 
-    Fields fields(content);
+std::optional<Request> readRequest(int input, const AccessFile &file) {
+    const std::optional<std::vector<char>> content = readFrame(input);
+    if (!content) return {};
+    Fields fields(*content);
     Request request;
-    if (fields.number<MdbProtocol::Request>() != MdbProtocol::Request::Rows) return {};
+    if (fields.number<TableProtocol::Request>() != TableProtocol::Request::Rows) return {};
     request.table = fields.number<std::uint16_t>();
     if (request.table >= file.tables().size()) return {};
     const Table &table = file.tables()[request.table];

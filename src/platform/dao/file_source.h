@@ -1,30 +1,32 @@
 // The tables of an Access file.
 #pragma once
 
+#include <QFile>
+
 #include "platform/dao/bound_condition.h"
 #include "platform/dao/child_process.h"
 #include "platform/dao/file_identity.h"
 #include "platform/dao/frame_reader.h"
-#include "platform/dao/mdb_protocol.h"
+#include "platform/dao/table_protocol.h"
 #include "platform/dao/table_source.h"
 
 /// The file is read by a helper program in a process of its own: a damaged one can crash the library that
 /// knows the format, or make it spin. A helper that has gone between two requests is started again; one that
 /// goes, spins or talks nonsense while it answers is a damaged file, 3343. One that waits for the file itself
 /// is waited for as long as somebody wants it; then comes 3043. A sink must not call back into its source.
-class AccessSource : public TableSource {
+class FileSource : public TableSource {
 public:
     static constexpr int Patience = 5000; // milliseconds of silence
 
     /// Asked each time the file has been silent for the patience; true waits on.
     using WaitsOn = std::function<bool(const QString &path)>;
 
-    /// Opens the file and reads its catalog. Raises 3343 and 3043; 53 where the helper program is missing, 70
-    /// where it may not be run, 75 where it cannot be.
-    explicit AccessSource(QString path, const QString &helper = helperProgram(), WaitsOn waitsOn = {},
-                          int patience = Patience);
+    /// Opens the file and reads its catalog. Raises 3343, 3031 and 3043; 53 where the helper program is
+    /// missing, 70 where it may not be run, 75 where it cannot be.
+    explicit FileSource(QString path, const QString &helper = helperProgram(), WaitsOn waitsOn = {},
+                        int patience = Patience, QString password = {});
 
-    /// `mdb_reader` among the program's helpers, or beside the program.
+    /// `table_reader` among the program's helpers, or beside the program.
     static QString helperProgram();
 
     QStringList tableNames() override;
@@ -45,7 +47,7 @@ private:
     };
     struct Other {
         QString name;
-        MdbProtocol::OtherKind kind = MdbProtocol::OtherKind::Query;
+        TableProtocol::OtherKind kind = TableProtocol::OtherKind::Query;
 
         bool operator==(const Other &other) const = default;
     };
@@ -57,7 +59,7 @@ private:
         bool operator==(const Catalog &other) const = default;
     };
     struct Frame {
-        MdbProtocol::Reply kind = MdbProtocol::Reply::Failure;
+        TableProtocol::Reply kind = TableProtocol::Reply::Failure;
         QByteArray content;
     };
 
@@ -68,11 +70,14 @@ private:
     static Catalog readCatalog(FrameReader &frame);
     Frame receiveFrame();
     bool onSilence(bool isBusy) const;
+    [[noreturn]] void raiseFailure(FrameReader &frame) const;
     [[noreturn]] void raiseDamaged() const;
     [[noreturn]] void raiseSilent() const;
 
     QString m_path;
+    QString m_password;
     WaitsOn m_waitsOn;
+    QFile m_file;
     ChildProcess m_helper;
     Catalog m_catalog;
     bool m_isReading = false;

@@ -1,4 +1,4 @@
-#include "mdb_reader/pages.h"
+#include "table_reader/pages.h"
 
 #include <algorithm>
 #include <cstring>
@@ -6,7 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "mdb_reader/damaged.h"
+#include "table_reader/damaged.h"
 
 namespace {
 constexpr std::uint32_t LongestRun = 64;

@@ -3,11 +3,11 @@
 
 #include <string>
 
-#include "mdb_reader/access_file.h"
-#include "mdb_reader/cell_text.h"
-#include "mdb_reader/long_values.h"
-#include "mdb_reader/reply.h"
-#include "mdb_reader/row.h"
+#include "table_reader/access_file.h"
+#include "table_reader/cell_text.h"
+#include "table_reader/long_values.h"
+#include "table_reader/reply.h"
+#include "table_reader/row.h"
 
 class RowWriter {
 public:

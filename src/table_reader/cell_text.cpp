@@ -1,11 +1,11 @@
-#include "mdb_reader/cell_text.h"
+#include "table_reader/cell_text.h"
 
 #include <algorithm>
 #include <memory>
 #include <vector>
 
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/damaged.h"
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
 
 namespace {
 

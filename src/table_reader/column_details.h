@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <map>
 
-#include "mdb_reader/pages.h"
+#include "table_reader/pages.h"
 
 struct ColumnDetails {
     /// Of a Decimal: all its digits, and those behind the decimal sign.

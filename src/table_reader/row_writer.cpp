@@ -1,13 +1,13 @@
-#include "mdb_reader/row_writer.h"
+#include "table_reader/row_writer.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstring>
 
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/damaged.h"
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
 
-using MdbProtocol::CellType;
+using TableProtocol::CellType;
 
 namespace {
 

@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "mdb_reader/pages.h"
 #include "platform/dao/file_identity.h"
-#include "platform/dao/mdb_protocol.h"
+#include "platform/dao/table_protocol.h"
+#include "table_reader/pages.h"
 
 struct Column {
     std::string name; // UTF-8
-    MdbProtocol::CellType type = MdbProtocol::CellType::Memo;
+    TableProtocol::CellType type = TableProtocol::CellType::Memo;
     /// Characters of a Text.
     unsigned size = 0;
     /// As libmdb numbers the types.
@@ -41,14 +41,15 @@ struct Table {
 /// What the catalog lists by name like a table, and what has no rows in the file.
 struct OtherObject {
     std::string name; // UTF-8
-    MdbProtocol::OtherKind kind = MdbProtocol::OtherKind::Query;
+    TableProtocol::OtherKind kind = TableProtocol::OtherKind::Query;
 };
 
 class AccessFile {
 public:
     /// Reads the catalog, by hand: libmdb passes over what it cannot read, and a table would be missing.
     /// Raises Damaged for what is no Access file, too.
-    explicit AccessFile(const char *path);
+    /// `file` is a descriptor that stays the caller's.
+    explicit AccessFile(int file);
     ~AccessFile();
     AccessFile(const AccessFile &) = delete;
     AccessFile &operator=(const AccessFile &) = delete;
@@ -72,7 +73,7 @@ private:
     void addObject(const std::string &name, int type, std::uint32_t id);
 
     MdbHandle *m_handle = nullptr;
-    int m_file = -1;
+    int m_file;
     FileIdentity m_identity;
     bool m_jet3 = false;
     std::vector<Table> m_tables;

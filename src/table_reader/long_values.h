@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "mdb_reader/access_file.h"
-#include "mdb_reader/row.h"
+#include "table_reader/access_file.h"
+#include "table_reader/row.h"
 
 class LongValues {
 public:

@@ -1,4 +1,4 @@
-#include "platform/dao/access_source.h"
+#include "platform/dao/file_source.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -9,13 +9,13 @@
 #include <QScopedValueRollback>
 
 #include "platform/dao/date_serial.h"
-#include "platform/dao/mdb_protocol.h"
+#include "platform/dao/table_protocol.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/runtime_error.h"
 
-using MdbProtocol::CellType;
-using MdbProtocol::Reply;
-using MdbProtocol::ValueKind;
+using TableProtocol::CellType;
+using TableProtocol::Reply;
+using TableProtocol::ValueKind;
 
 namespace {
 
@@ -102,40 +102,56 @@ void append(QByteArray &request, Number value) {
     request.append(reinterpret_cast<const char *>(&value), sizeof value);
 }
 
+void append(QByteArray &request, const QString &text) {
+    append(request, static_cast<quint32>(text.size()));
+    request.append(reinterpret_cast<const char *>(text.constData()), text.size() * qsizetype(sizeof(QChar)));
+}
+
+QByteArray framed(const QByteArray &request) {
+    QByteArray frame;
+    append(frame, static_cast<quint32>(request.size()));
+    return frame + request;
+}
+
+QByteArray openRequest(const QString &password) {
+    QByteArray request;
+    append(request, TableProtocol::Request::Open);
+    append(request, password);
+    return framed(request);
+}
+
 QByteArray rowsRequest(qsizetype table, const QVector<BoundCondition> &conditions) {
     QByteArray request;
-    append(request, MdbProtocol::Request::Rows);
+    append(request, TableProtocol::Request::Rows);
     append(request, static_cast<quint16>(table));
     append(request, static_cast<quint16>(conditions.size()));
     for (const BoundCondition &condition : conditions) {
         append(request, static_cast<quint16>(condition.column));
         append(request, condition.isText ? ValueKind::Text : ValueKind::Integer);
         if (condition.isText) {
-            append(request, static_cast<quint32>(condition.text.size()));
-            request.append(reinterpret_cast<const char *>(condition.text.constData()),
-                           condition.text.size() * qsizetype(sizeof(QChar)));
+            append(request, condition.text);
         } else {
             append(request, condition.integer);
         }
     }
-    QByteArray framed;
-    append(framed, static_cast<quint32>(request.size()));
-    return framed + request;
+    return framed(request);
 }
 
 } // namespace
 
-AccessSource::AccessSource(QString path, const QString &helper, WaitsOn waitsOn, int patience)
+FileSource::FileSource(QString path, const QString &helper, WaitsOn waitsOn, int patience, QString password)
     : m_path(std::move(path))
+    , m_password(std::move(password))
     , m_waitsOn(std::move(waitsOn))
-    , m_helper(helper, {QFileInfo(m_path).absoluteFilePath()}, patience,
-               [this](bool isBusy) { return onSilence(isBusy); }) {
+    , m_file(m_path)
+    , m_helper(helper, patience, [this](bool isBusy) { return onSilence(isBusy); }) {
+    if (!m_file.open(QIODevice::ReadOnly)) raiseDamaged();
     m_catalog = openHelper();
 }
 
-QString AccessSource::helperProgram() {
+QString FileSource::helperProgram() {
     const App &app = App::current();
-    const QString name = QStringLiteral("/mdb_reader");
+    const QString name = QStringLiteral("/table_reader");
     const QString expected = (app.helperPath.isEmpty() ? app.path : app.helperPath) + name;
     const QString besideProgram = QCoreApplication::applicationDirPath() + name;
     for (const QString &candidate : {expected, besideProgram})
@@ -144,35 +160,35 @@ QString AccessSource::helperProgram() {
     return QFileInfo::exists(besideProgram) && !QFileInfo::exists(expected) ? besideProgram : expected;
 }
 
-QStringList AccessSource::tableNames() {
+QStringList FileSource::tableNames() {
     QStringList names;
     for (const Table &table : m_catalog.tables)
         names << table.name;
     return names;
 }
 
-QString AccessSource::whatElse(const QString &name) {
+QString FileSource::whatElse(const QString &name) {
     const auto found = std::find_if(m_catalog.others.begin(), m_catalog.others.end(),
                                     [&](const Other &other) { return isSameName(other.name, name); });
     if (found == m_catalog.others.end()) return {};
-    return found->kind == MdbProtocol::OtherKind::Query ? QStringLiteral("a stored query")
-                                                        : QStringLiteral("a link to another file");
+    return found->kind == TableProtocol::OtherKind::Query ? QStringLiteral("a stored query")
+                                                          : QStringLiteral("a link to another file");
 }
 
-FieldDefinitions AccessSource::fields(const QString &table) {
+FieldDefinitions FileSource::fields(const QString &table) {
     return m_catalog.tables[indexOf(table)].fields;
 }
 
-qint64 AccessSource::rowCount(const QString &table) {
+qint64 FileSource::rowCount(const QString &table) {
     return m_catalog.tables[indexOf(table)].rows;
 }
 
-void AccessSource::readAll(const QString &table, const RowSink &sink) {
+void FileSource::readAll(const QString &table, const RowSink &sink) {
     read(indexOf(table), {}, sink);
 }
 
-void AccessSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                                const RowSink &sink) {
+void FileSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
+                              const RowSink &sink) {
     const qsizetype index = indexOf(table);
     const std::optional<QVector<BoundCondition>> bound =
         bindConditions(m_catalog.tables[index].fields, conditions);
@@ -182,14 +198,14 @@ void AccessSource::readMatching(const QString &table, const QVector<ColumnCondit
     });
 }
 
-qsizetype AccessSource::indexOf(const QString &table) const {
+qsizetype FileSource::indexOf(const QString &table) const {
     const auto found = std::find_if(m_catalog.tables.begin(), m_catalog.tables.end(),
                                     [&](const Table &each) { return each.name == table; });
     if (found == m_catalog.tables.end()) throw RuntimeError(3078);
     return found - m_catalog.tables.begin();
 }
 
-void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
+void FileSource::read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
     // Whoever is asked whether to wait on may come back here; the two answers would be mixed up.
     if (m_isReading) raiseSilent();
     const QScopedValueRollback<bool> reading(m_isReading, true);
@@ -204,7 +220,7 @@ void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditio
             else if (answer.kind == Reply::End)
                 return;
             else if (answer.kind != Reply::Busy)
-                raiseDamaged();
+                raiseFailure(frame);
         }
     } catch (const MalformedFrame &) {
         m_helper.stop();
@@ -216,12 +232,14 @@ void AccessSource::read(qsizetype table, const QVector<BoundCondition> &conditio
     }
 }
 
-AccessSource::Catalog AccessSource::openHelper() {
-    if (const int failure = m_helper.start()) throw notRun(m_helper.program(), failure);
+FileSource::Catalog FileSource::openHelper() {
+    if (const int failure = m_helper.start(m_file.handle(), TableProtocol::FileDescriptor))
+        throw notRun(m_helper.program(), failure);
     try {
+        if (!m_helper.send(openRequest(m_password))) raiseDamaged();
         const Frame answer = receiveFrame();
-        if (answer.kind != Reply::Catalog) raiseDamaged();
         FrameReader frame(answer.content);
+        if (answer.kind != Reply::Catalog) raiseFailure(frame);
         return readCatalog(frame);
     } catch (const MalformedFrame &) {
         m_helper.stop();
@@ -232,7 +250,7 @@ AccessSource::Catalog AccessSource::openHelper() {
     }
 }
 
-AccessSource::Catalog AccessSource::readCatalog(FrameReader &frame) {
+FileSource::Catalog FileSource::readCatalog(FrameReader &frame) {
     Catalog catalog;
     catalog.file = frame.number<FileIdentity>();
     catalog.tables.resize(frame.number<quint16>());
@@ -251,16 +269,16 @@ AccessSource::Catalog AccessSource::readCatalog(FrameReader &frame) {
     catalog.others.resize(frame.number<quint16>());
     for (Other &other : catalog.others) {
         other.name = frame.name();
-        other.kind = frame.number<MdbProtocol::OtherKind>();
+        other.kind = frame.number<TableProtocol::OtherKind>();
     }
     return catalog;
 }
 
-AccessSource::Frame AccessSource::receiveFrame() {
+FileSource::Frame FileSource::receiveFrame() {
     quint32 length = 0;
     Frame frame;
     if (!m_helper.receive(&length, sizeof length)) raiseDamaged();
-    if (length == 0 || length > MdbProtocol::LongestFrame) throw MalformedFrame();
+    if (length == 0 || length > TableProtocol::LongestFrame) throw MalformedFrame();
     if (!m_helper.receive(&frame.kind, sizeof frame.kind)) raiseDamaged();
     --length;
     while (frame.content.size() < qsizetype(length)) {
@@ -273,16 +291,22 @@ AccessSource::Frame AccessSource::receiveFrame() {
     return frame;
 }
 
-bool AccessSource::onSilence(bool isBusy) const {
+bool FileSource::onSilence(bool isBusy) const {
     if (isBusy) return false; // a damaged file has made it spin
     if (!m_waitsOn || !m_waitsOn(m_path)) raiseSilent();
     return true;
 }
 
-void AccessSource::raiseSilent() const {
+void FileSource::raiseSilent() const {
     throw RuntimeError(3043, "Disk or network error: the file '" + m_path + "' does not answer.");
 }
 
-void AccessSource::raiseDamaged() const {
+void FileSource::raiseFailure(FrameReader &frame) const {
+    if (frame.number<TableProtocol::FailureKind>() == TableProtocol::FailureKind::WrongPassword)
+        throw RuntimeError(3031);
+    raiseDamaged();
+}
+
+void FileSource::raiseDamaged() const {
     throw RuntimeError(3343, "Unrecognized database format '" + m_path + "'.");
 }

@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "mdb_reader/access_file.h"
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/damaged.h"
+#include "table_reader/access_file.h"
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
 
 /// The bytes of one cell.
 struct CellBytes {

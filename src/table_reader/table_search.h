@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "mdb_reader/access_file.h"
-#include "mdb_reader/cell_text.h"
-#include "mdb_reader/reply.h"
-#include "mdb_reader/row.h"
-#include "mdb_reader/row_writer.h"
-#include "mdb_reader/table_scan.h"
+#include "table_reader/access_file.h"
+#include "table_reader/cell_text.h"
+#include "table_reader/reply.h"
+#include "table_reader/row.h"
+#include "table_reader/row_writer.h"
+#include "table_reader/table_scan.h"
 
 /// A column, by its position, and what it must hold.
 struct Condition {

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "mdb_reader/access_file.h"
+#include "table_reader/access_file.h"
 
 /// What the definition says of its columns as a whole.
 struct ColumnCounts {

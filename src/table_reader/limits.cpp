@@ -1,4 +1,4 @@
-#include "mdb_reader/limits.h"
+#include "table_reader/limits.h"
 
 #include <sys/resource.h>
 

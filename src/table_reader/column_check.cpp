@@ -1,8 +1,8 @@
-#include "mdb_reader/column_check.h"
+#include "table_reader/column_check.h"
 
 #include <set>
 
-#include "mdb_reader/damaged.h"
+#include "table_reader/damaged.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ constexpr unsigned MostDigits = 28;
 
 /// The bytes that a value takes in a row; a Boolean is a bit elsewhere.
 unsigned sizeOf(const Column &column) {
-    if (column.type == MdbProtocol::CellType::Unsupported) return AnySize;
+    if (column.type == TableProtocol::CellType::Unsupported) return AnySize;
     switch (column.storedType) {
     case MDB_BOOL:
         return 0;

@@ -1,10 +1,10 @@
-#include "mdb_reader/long_values.h"
+#include "table_reader/long_values.h"
 
 #include <algorithm>
 
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/damaged.h"
-#include "mdb_reader/data_page.h"
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
+#include "table_reader/data_page.h"
 
 namespace {
 constexpr std::size_t HeadSize = 12;

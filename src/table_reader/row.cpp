@@ -1,4 +1,4 @@
-#include "mdb_reader/row.h"
+#include "table_reader/row.h"
 
 std::size_t Row::offset(std::size_t index) const {
     if (!m_jet3) return bytes::u16(m_data + m_offsets - 2 * index);

@@ -3,9 +3,9 @@
 
 #include <vector>
 
-#include "mdb_reader/access_file.h"
-#include "mdb_reader/data_page.h"
-#include "mdb_reader/row.h"
+#include "table_reader/access_file.h"
+#include "table_reader/data_page.h"
+#include "table_reader/row.h"
 
 class TableScan {
 public:

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/dao/mdb_protocol.h"
+#include "platform/dao/table_protocol.h"
 
 /// Collects values in a frame and sends it when it is worth it. Ends the process where nobody reads any more.
 class Reply {
@@ -27,7 +27,7 @@ public:
     void setBit(std::size_t place, std::size_t bit);
 
     /// Sends what was collected as one frame of this kind.
-    void send(MdbProtocol::Reply kind);
+    void send(TableProtocol::Reply kind);
     /// A row is complete: sends the rows where they fill a frame. Raises Damaged for a row beyond any frame.
     void endRow();
     /// The last row, if any, is complete.
@@ -35,7 +35,7 @@ public:
     /// To be called now and then on a long search, so that the other end sees that it goes on.
     void stillBusy();
     /// Drops what was collected.
-    void fail(std::string_view reason);
+    void fail(TableProtocol::FailureKind kind, std::string_view reason);
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -1,7 +1,7 @@
-#include "mdb_reader/table_scan.h"
+#include "table_reader/table_scan.h"
 
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/damaged.h"
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
 
 namespace {
 

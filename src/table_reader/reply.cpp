@@ -1,12 +1,12 @@
-#include "mdb_reader/reply.h"
+#include "table_reader/reply.h"
 
 #include <algorithm>
 #include <cstdlib>
 
 #include <unistd.h>
 
-#include "mdb_reader/damaged.h"
-#include "mdb_reader/limits.h"
+#include "table_reader/damaged.h"
+#include "table_reader/limits.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ void Reply::setBit(std::size_t place, std::size_t bit) {
     m_content[place + bit / 8] = static_cast<std::uint8_t>(m_content[place + bit / 8] | 1u << bit % 8);
 }
 
-void Reply::send(MdbProtocol::Reply kind) {
+void Reply::send(TableProtocol::Reply kind) {
     std::uint8_t head[5];
     const auto length = static_cast<std::uint32_t>(m_content.size() + 1);
     std::copy_n(reinterpret_cast<const std::uint8_t *>(&length), 4, head);
@@ -59,21 +59,23 @@ void Reply::send(MdbProtocol::Reply kind) {
 }
 
 void Reply::endRow() {
-    if (m_content.size() >= MdbProtocol::LongestFrame) throw Damaged("row of absurd size");
-    if (m_content.size() >= GoodFrame) send(MdbProtocol::Reply::Rows);
+    if (m_content.size() >= TableProtocol::LongestFrame) throw Damaged("row of absurd size");
+    if (m_content.size() >= GoodFrame) send(TableProtocol::Reply::Rows);
 }
 
 void Reply::endRows() {
-    if (!m_content.empty()) send(MdbProtocol::Reply::Rows);
-    send(MdbProtocol::Reply::End);
+    if (!m_content.empty()) send(TableProtocol::Reply::Rows);
+    send(TableProtocol::Reply::End);
 }
 
 void Reply::stillBusy() {
     if (Clock::now() - m_sent < SignOfLife) return;
-    send(m_content.empty() ? MdbProtocol::Reply::Busy : MdbProtocol::Reply::Rows);
+    send(m_content.empty() ? TableProtocol::Reply::Busy : TableProtocol::Reply::Rows);
 }
 
-void Reply::fail(std::string_view reason) {
-    m_content.assign(reason.begin(), reason.end());
-    send(MdbProtocol::Reply::Failure);
+void Reply::fail(TableProtocol::FailureKind kind, std::string_view reason) {
+    m_content.clear();
+    number(kind);
+    m_content.insert(m_content.end(), reason.begin(), reason.end());
+    send(TableProtocol::Reply::Failure);
 }

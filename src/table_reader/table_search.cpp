@@ -1,9 +1,9 @@
-#include "mdb_reader/table_search.h"
+#include "table_reader/table_search.h"
 
 #include <algorithm>
 
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/damaged.h"
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
 
 namespace {
 
@@ -44,9 +44,9 @@ bool mayBeEqual(const std::u16string &a, const std::u16string &b) {
 std::int32_t integerOf(const Column &column, const CellBytes &cell) {
     if (cell.size < column.storedSize) throw Damaged("number cut off");
     switch (column.type) {
-    case MdbProtocol::CellType::Byte:
+    case TableProtocol::CellType::Byte:
         return cell.data[0];
-    case MdbProtocol::CellType::Integer:
+    case TableProtocol::CellType::Integer:
         return static_cast<std::int16_t>(bytes::u16(cell.data));
     default:
         return static_cast<std::int32_t>(bytes::u32(cell.data));

@@ -1,4 +1,4 @@
-#include "mdb_reader/access_file.h"
+#include "table_reader/access_file.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -8,15 +8,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "mdb_reader/bytes.h"
-#include "mdb_reader/cell_text.h"
-#include "mdb_reader/column_check.h"
-#include "mdb_reader/column_details.h"
-#include "mdb_reader/damaged.h"
-#include "mdb_reader/row.h"
-#include "mdb_reader/table_scan.h"
+#include "table_reader/bytes.h"
+#include "table_reader/cell_text.h"
+#include "table_reader/column_check.h"
+#include "table_reader/column_details.h"
+#include "table_reader/damaged.h"
+#include "table_reader/row.h"
+#include "table_reader/table_scan.h"
 
-using MdbProtocol::CellType;
+using TableProtocol::CellType;
 
 namespace {
 
@@ -111,10 +111,10 @@ void addPages(std::vector<std::uint32_t> &owned, const std::uint8_t *bits, std::
 
 } // namespace
 
-AccessFile::AccessFile(const char *path)
-    : m_file(open(path, O_RDONLY | O_CLOEXEC))
+AccessFile::AccessFile(int file)
+    : m_file(file)
     , m_identity(FileIdentity::of(m_file)) {
-    m_handle = m_file >= 0 ? mdb_open(path, MDB_NOFLAGS) : nullptr;
+    m_handle = mdb_open(("/proc/self/fd/" + std::to_string(file)).c_str(), MDB_NOFLAGS);
     if (!m_handle) throw Damaged("not an Access file");
     m_jet3 = IS_JET3(m_handle);
     readCatalog();
@@ -122,7 +122,6 @@ AccessFile::AccessFile(const char *path)
 
 AccessFile::~AccessFile() {
     if (m_handle) mdb_close(m_handle);
-    if (m_file >= 0) close(m_file);
 }
 
 void AccessFile::checkUnchanged() const {
@@ -181,7 +180,7 @@ void AccessFile::readCatalog() {
 
 void AccessFile::addObject(const std::string &name, int type, std::uint32_t id) {
     if (type != MDB_TABLE) {
-        using MdbProtocol::OtherKind;
+        using TableProtocol::OtherKind;
         m_others.push_back({name, type == MDB_QUERY ? OtherKind::Query : OtherKind::Link});
         return;
     }

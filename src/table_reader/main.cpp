@@ -1,17 +1,19 @@
-// mdb_reader FILE: hands over the tables of an Access file. Requests come on the standard input, answers go
-// to the standard output, both in the form of platform/dao/mdb_protocol.h. It ends with its input.
+// The helper program: hands over the tables of an Access file, which it finds open. What it is asked and what
+// it answers is in platform/dao/table_protocol.h. It ends with its input.
 #include <cstdlib>
 #include <memory>
 #include <new>
 
 #include <unistd.h>
 
-#include "mdb_reader/access_file.h"
-#include "mdb_reader/damaged.h"
-#include "mdb_reader/limits.h"
-#include "mdb_reader/reply.h"
-#include "mdb_reader/request.h"
-#include "mdb_reader/table_search.h"
+#include "table_reader/access_file.h"
+#include "table_reader/damaged.h"
+#include "table_reader/limits.h"
+#include "table_reader/reply.h"
+#include "table_reader/request.h"
+#include "table_reader/table_search.h"
+
+using TableProtocol::FailureKind;
 
 namespace {
 
@@ -41,7 +43,7 @@ void sendCatalog(const AccessFile &file, Reply &reply) {
         reply.name(other.name);
         reply.number(other.kind);
     }
-    reply.send(MdbProtocol::Reply::Catalog);
+    reply.send(TableProtocol::Reply::Catalog);
 }
 
 void answerRequests(const AccessFile &file, Reply &reply) {
@@ -55,26 +57,27 @@ void answerRequests(const AccessFile &file, Reply &reply) {
             file.checkUnchanged();
             reply.endRows();
         } catch (const Damaged &damage) {
-            reply.fail(damage.what());
+            reply.fail(FailureKind::Damaged, damage.what());
         }
     }
 }
 
 } // namespace
 
-int main(int argc, char **argv) {
-    if (argc != 2) return EXIT_FAILURE;
+int main() {
     limits::set();
     Reply reply(takeStandardOutput());
+    const std::optional<std::u16string> password = readOpenRequest(STDIN_FILENO);
+    if (!password) return EXIT_FAILURE;
     try {
-        const AccessFile file(argv[1]);
+        const AccessFile file(TableProtocol::FileDescriptor);
         sendCatalog(file, reply);
         answerRequests(file, reply);
     } catch (const Damaged &damage) {
-        reply.fail(damage.what());
+        reply.fail(FailureKind::Damaged, damage.what());
         return EXIT_FAILURE;
     } catch (const std::bad_alloc &) {
-        reply.fail("out of memory");
+        reply.fail(FailureKind::Damaged, "out of memory");
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;
