@@ -37,7 +37,7 @@ QVector<int> identity(const QString &text) {
 /// would end a text there; and without a list of all grades, which takes longest of all.
 QVector<int> idsOf(Database &database, const QString &text) {
     QVector<int> ids;
-    database.ReadRows("materials", {"matID", "name", "numbr"}, [&](const QVector<QVariant> &cells) {
+    database.ReadRows("materials", {"matID", "name", "numbr"}, [&](const RowCells &cells) {
         if (isSame(cellText(cells[1]), text) || isSame(cellText(cells[2]), text)) ids << CInt(cells[0]);
     });
     return ids;

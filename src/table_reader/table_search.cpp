@@ -1,11 +1,14 @@
 #include "table_reader/table_search.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "table_reader/bytes.h"
 #include "table_reader/damaged.h"
 
 namespace {
+
+constexpr std::size_t PagesBetweenLooks = 64;
 
 class KeyHash {
 public:
@@ -86,7 +89,7 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
             groups.ofPage.push_back(searchPage(page, conditions, reply));
         else if (mayHold(groups.ofPage[i]))
             searchPage(page, conditions, reply);
-        reply.stillBusy();
+        if (i % PagesBetweenLooks == 0) reply.stillBusy();
     }
     // A page that another use has taken, or that the map has lost, leaves no other trace than this.
     if (readsAll && m_rows != m_table.rows) throw Damaged("rows that cannot be found");
@@ -126,22 +129,22 @@ void TableSearch::add(Groups &groups, int group) {
 TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
     if (conditions.empty()) return {true, AnyGroup};
     if (conditions.size() == 1 && !conditions.front().isText) return matchInteger(row, conditions.front());
-    m_cells.clear();
-    m_key.clear();
-    for (const Condition &condition : conditions) {
-        const Column &column = m_table.columns[condition.column];
+    // Rows of one key mostly follow one another.
+    bool isLast = m_lastKey.size() == conditions.size();
+    m_cells.resize(conditions.size());
+    for (std::size_t i = 0; i < conditions.size(); ++i) {
+        const Column &column = m_table.columns[conditions[i].column];
         const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
         if (!cell.data) return {false, NoGroup};
-        m_cells.push_back(cell);
-        m_key.push_back(static_cast<std::uint8_t>(cell.size));
-        m_key.push_back(static_cast<std::uint8_t>(cell.size >> 8));
-        m_key.insert(m_key.end(), cell.data, cell.data + cell.size);
+        isLast = isLast && cell.size == m_lastKey[i].size() &&
+                 std::memcmp(cell.data, m_lastKey[i].data(), cell.size) == 0;
+        m_cells[i] = cell;
     }
-    // Rows of one key mostly follow one another.
-    if (m_key != m_lastKey) {
-        m_lastMatch = compare(m_cells, conditions);
-        m_lastKey.swap(m_key);
-    }
+    if (isLast) return m_lastMatch;
+    m_lastMatch = compare(m_cells, conditions);
+    m_lastKey.resize(conditions.size());
+    for (std::size_t i = 0; i < conditions.size(); ++i)
+        m_lastKey[i].assign(m_cells[i].data, m_cells[i].data + m_cells[i].size);
     return m_lastMatch;
 }
 

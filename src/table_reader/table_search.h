@@ -65,8 +65,7 @@ private:
     std::vector<PageGroups> m_groups;
     std::uint64_t m_rows = 0; // seen in this search
     std::vector<CellBytes> m_cells;
-    std::vector<std::uint8_t> m_key; // the stored bytes of the cells that are compared
-    std::vector<std::uint8_t> m_lastKey;
+    std::vector<std::vector<std::uint8_t>> m_lastKey; // the stored bytes of the cells compared last
     std::optional<std::int32_t> m_lastInteger;
     Match m_lastMatch;
     std::u16string m_text;

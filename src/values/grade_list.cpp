@@ -101,7 +101,7 @@ void GradeList::readGrades(Database &database) {
     SharedTexts shared;
     database.ReadRows(
         Materials, {"matID", "name", "numbr", "standard", "description", "groups", "revision_date"},
-        [&](const QVector<QVariant> &row) {
+        [&](const RowCells &row) {
             if (IsNull(row[0])) return;
             m_grades << Grades::Grade{CInt(row[0]),   cellText(row[1]), cellText(row[2]),   shared(row[3]),
                                       shared(row[4]), shared(row[5]),   row[6].toDateTime()};
@@ -173,7 +173,7 @@ const TextColumn &GradeList::texts(const QString &field) const {
         for (int i = 0; i < count(); ++i)
             texts[i] = m_grades[i].*kept.value(field);
     } else {
-        m_database.ReadRows(Materials, {"matID", field}, [&](const QVector<QVariant> &row) {
+        m_database.ReadRows(Materials, {"matID", field}, [&](const RowCells &row) {
             if (const int place = IsNull(row[0]) ? -1 : indexOf(CLng(row[0])); place >= 0)
                 texts[place] = cellText(row[1]);
         });

@@ -84,7 +84,7 @@ private:
     void rows(const QString &name, const QStringList &columns, Each each) {
         const qint64 count = m_progress ? m_database.RowCount(name) : 0;
         qint64 read = 0;
-        m_database.ReadRows(name, QStringList{"matID"} + columns, [&](const QVector<QVariant> &cells) {
+        m_database.ReadRows(name, QStringList{"matID"} + columns, [&](const RowCells &cells) {
             if (m_progress && read++ % RowsBetweenTellings == 0 && !m_progress(read, std::max(read, count)))
                 throw CalledOff();
             const int grade = IsNull(cells[0]) ? -1 : m_grades.indexOf(CLng(cells[0]));
@@ -116,7 +116,7 @@ private:
         const qsizetype first = elevated ? 4 : 2;
         const QStringList before =
             elevated ? QStringList{"temp", "thickness", "ordering"} : QStringList{"temp"};
-        rows(m_key, before + fields, [&](int grade, const QVector<QVariant> &cells) {
+        rows(m_key, before + fields, [&](int grade, const RowCells &cells) {
             TemperatureRow row;
             row.temperature = texts.id(cells[1]);
             if (elevated) {
@@ -125,7 +125,8 @@ private:
             }
             for (qsizetype i = first; i < cells.size(); ++i)
                 row.cells[i - first] = texts.id(cells[i]);
-            areNumbers = areNumbers || (!IsNull(cells.last()) && cells.last().typeId() != QMetaType::QString);
+            areNumbers = areNumbers || (!IsNull(cells[cells.size() - 1]) &&
+                                        cells[cells.size() - 1].typeId() != QMetaType::QString);
             read.add(grade, row);
         });
         set(read, [&](int, std::span<TemperatureRow> ofGrade) {
@@ -137,10 +138,9 @@ private:
     void readCreep() {
         RowsOfGrades<CreepCell> read(m_grades.count());
         CellTexts &texts = m_table->texts();
-        rows(Queries::cellTable(m_key), {"rowNo", "ordering", "val"},
-             [&](int grade, const QVector<QVariant> &cells) {
-                 read.add(grade, {orderOf(cells[1]), orderOf(cells[2]), texts.id(cells[3])});
-             });
+        rows(Queries::cellTable(m_key), {"rowNo", "ordering", "val"}, [&](int grade, const RowCells &cells) {
+            read.add(grade, {orderOf(cells[1]), orderOf(cells[2]), texts.id(cells[3])});
+        });
         set(read, [&](int grade, std::span<CreepCell> cells) {
             return GradeRows::creep(cells, creepColumns(m_grades.standardID(grade)), texts);
         });

@@ -84,8 +84,7 @@ TEST(AccessLayout, RowsThatAreLostOrWouldBeMisreadAreAnError) {
         QByteArray bad = good;
         bad.replace(at, bytes.size(), bytes);
         const QString path = writeFile(folder, "bad.mdb", bad);
-        EXPECT_EQ(errorOf([&] { allRows(*std::make_unique<FileSource>(path, helperPath()), "Units"); }),
-                  3343)
+        EXPECT_EQ(errorOf([&] { allRows(*std::make_unique<FileSource>(path, helperPath()), "Units"); }), 3343)
             << damage;
     }
 }
@@ -190,7 +189,7 @@ TEST(AccessLayout, EveryTypeIsReadInEveryVersion) {
     for (const Version version : {Version::Access97, Version::Access2000, Version::Access2007}) {
         SCOPED_TRACE(int(version));
         FileSource source(writeFile(folder, "types.mdb", JetFile(version).make("Types", columns, rows)),
-                            helperPath());
+                          helperPath());
         ASSERT_EQ(source.tableNames(), QStringList("Types"));
         const FieldDefinitions fields = source.fields("Types");
         ASSERT_EQ(fields.size(), columns.size());

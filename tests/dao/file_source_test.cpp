@@ -200,7 +200,8 @@ TEST(FileSource, HelperThatCannotBeRunIsTold) {
 TEST(FileSource, SinkThatRaisesLeavesTheSourceUsable) {
     FileSource source(samplePath("Velmar_PED.mdb"), helperPath());
     EXPECT_EQ(errorOf([&] {
-                  source.readAll("Chemical", [](const QVector<QVariant> &) { throw RuntimeError(6); });
+                  TableColumns rows(source.fields("Chemical"));
+                  source.readAll("Chemical", rows, [] { throw RuntimeError(6); });
               }),
               6);
     EXPECT_EQ(allRows(source, "Units").size(), 7);
@@ -208,9 +209,8 @@ TEST(FileSource, SinkThatRaisesLeavesTheSourceUsable) {
 
 TEST(FileSource, HelperHasNobodyToComplainTo) {
     const QTemporaryDir folder;
-    const QString helper =
-        writeScript(folder, "[ \"$(readlink /proc/$$/fd/2)\" = /dev/null ] || exit 1\nexec " +
-                                helperPath().toUtf8());
+    const QString helper = writeScript(
+        folder, "[ \"$(readlink /proc/$$/fd/2)\" = /dev/null ] || exit 1\nexec " + helperPath().toUtf8());
     EXPECT_EQ(FileSource(samplePath("Velmar_PED.mdb"), helper).tableNames().size(), 27)
         << "what libmdb says of a damaged file would stand in the user's terminal";
 }

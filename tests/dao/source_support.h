@@ -36,17 +36,27 @@ inline pid_t helperProcess() {
     return -1;
 }
 
-inline Rows allRows(TableSource &source, const QString &table) {
+inline Rows rowsOf(const TableColumns &columns) {
     Rows rows;
-    source.readAll(table, [&](const QVector<QVariant> &row) { rows.append(row); });
+    for (int row = 0; row < columns.rowCount(); ++row) {
+        rows.append(QVector<QVariant>());
+        for (int column = 0; column < columns.fields().size(); ++column)
+            rows.last().append(columns.cell(row, column));
+    }
     return rows;
+}
+
+inline Rows allRows(TableSource &source, const QString &table) {
+    TableColumns columns(source.fields(table));
+    source.readAll(table, columns);
+    return rowsOf(columns);
 }
 
 inline Rows matchingRows(TableSource &source, const QString &table,
                          const QVector<ColumnCondition> &conditions) {
-    Rows rows;
-    source.readMatching(table, conditions, [&](const QVector<QVariant> &row) { rows.append(row); });
-    return rows;
+    TableColumns columns(source.fields(table));
+    source.readMatching(table, conditions, columns);
+    return rowsOf(columns);
 }
 
 inline QByteArray fileBytes(const QString &path) {

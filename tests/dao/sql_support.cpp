@@ -59,20 +59,20 @@ void ListSource::add(const QString &table, const QString &columns, const QString
     m_tables.insert(table, added);
 }
 
-void ListSource::send(const QVector<QVariant> &row, const RowSink &sink, int &sent) const {
+void ListSource::send(const QVector<QVariant> &row, TableColumns &rows, int &sent) const {
     if (sent++ == m_damagedAfter) throw RuntimeError(3343);
-    sink(row);
+    rows.appendRow(row);
 }
 
-void ListSource::readAll(const QString &table, const RowSink &sink) {
+void ListSource::readAll(const QString &table, TableColumns &rows, const RowsArrived &) {
     *m_reads += table;
     int sent = 0;
     for (const QVector<QVariant> &row : m_tables[table].rows)
-        send(row, sink, sent);
+        send(row, rows, sent);
 }
 
 void ListSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                              const RowSink &sink) {
+                              TableColumns &rows) {
     QString read = table;
     for (const ColumnCondition &condition : conditions)
         read += " " + condition.column + "=" + condition.value.toString();
@@ -85,7 +85,7 @@ void ListSource::readMatching(const QString &table, const QVector<ColumnConditio
                 if (m_tables[table].fields[i].name == condition.column)
                     meets &= row[i].isValid() &&
                              row[i].toString().compare(condition.value.toString(), Qt::CaseInsensitive) == 0;
-        if (meets) send(row, sink, sent);
+        if (meets) send(row, rows, sent);
     }
 }
 

@@ -22,9 +22,9 @@ public:
     QStringList tableNames() override { return m_tables.keys(); }
     FieldDefinitions fields(const QString &table) override { return m_tables[table].fields; }
     qint64 rowCount(const QString &table) override { return m_tables[table].rows.size(); }
-    void readAll(const QString &table, const RowSink &sink) override;
+    void readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived) override;
     void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                      const RowSink &sink) override;
+                      TableColumns &rows) override;
 
     /// "Rp02" for a whole table, "Rp02 matID=3" for a key.
     const std::shared_ptr<QStringList> &reads() const { return m_reads; }
@@ -37,7 +37,7 @@ private:
         QVector<QVector<QVariant>> rows;
     };
 
-    void send(const QVector<QVariant> &row, const RowSink &sink, int &sent) const;
+    void send(const QVector<QVariant> &row, TableColumns &rows, int &sent) const;
 
     QMap<QString, Table> m_tables;
     std::shared_ptr<QStringList> m_reads = std::make_shared<QStringList>();

@@ -59,12 +59,14 @@ void writeOver(const QString &path) {
     file.write(sample.readAll());
 }
 
-/// Processes that were started with the folder in one of their words.
+/// Processes that have a file of the folder open.
 QStringList processesOver(const QString &folder) {
     QStringList found;
-    for (const QString &id : QDir("/proc").entryList(QDir::Dirs)) {
-        QFile words("/proc/" + id + "/cmdline");
-        if (words.open(QIODevice::ReadOnly) && words.readAll().contains(folder.toUtf8())) found += id;
+    for (const QString &id : QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs)) {
+        const QFileInfoList files = QDir("/proc/" + id + "/fd").entryInfoList(QDir::Files | QDir::System);
+        if (std::any_of(files.begin(), files.end(),
+                        [&](const QFileInfo &file) { return file.symLinkTarget().startsWith(folder); }))
+            found += id;
     }
     return found;
 }
@@ -124,7 +126,7 @@ TEST_F(HardTimes, ARunThatIsKilledLeavesNothingBehind) {
             QTest::qWait(60'000);
         });
         ASSERT_TRUE(run.waitUntilNoted("up"));
-        EXPECT_EQ(processesOver(m_folders.program).size(), 1); // the reader
+        EXPECT_EQ(processesOver(m_folders.program).size(), 2); // the run and its reader
         kill(run.id(), SIGKILL);
         EXPECT_EQ(run.wait().status, -SIGKILL);
     }

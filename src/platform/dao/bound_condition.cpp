@@ -56,9 +56,10 @@ std::optional<QVector<BoundCondition>> bindConditions(const FieldDefinitions &fi
     return possible ? std::optional(bound) : std::nullopt;
 }
 
-bool meetsTexts(const QVector<QVariant> &row, const QVector<BoundCondition> &conditions) {
+bool meetsTexts(const TableColumns &rows, int row, const QVector<BoundCondition> &conditions) {
     return std::all_of(conditions.begin(), conditions.end(), [&](const BoundCondition &condition) {
-        return !condition.isText ||
-               row[condition.column].toString().compare(condition.text, Qt::CaseInsensitive) == 0;
+        return !condition.isText || rows.cell(row, int(condition.column))
+                                            .toString()
+                                            .compare(condition.text, Qt::CaseInsensitive) == 0;
     });
 }

@@ -18,4 +18,4 @@ std::optional<QVector<BoundCondition>> bindConditions(const FieldDefinitions &fi
                                                       const QVector<ColumnCondition> &conditions);
 
 /// Whether the row holds the texts of the conditions.
-bool meetsTexts(const QVector<QVariant> &row, const QVector<BoundCondition> &conditions);
+bool meetsTexts(const TableColumns &rows, int row, const QVector<BoundCondition> &conditions);

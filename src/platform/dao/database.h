@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-#include "platform/dao/table_source.h"
+#include "platform/dao/row_cells.h"
 
 class Recordset;
 class TableStore;

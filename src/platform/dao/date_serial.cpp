@@ -10,8 +10,12 @@ constexpr double LastDay = 2958465;  // 9999-12-31
 constexpr qint64 MillisecondsOfDay = 86400000;
 } // namespace
 
+bool isDateSerial(double serial) {
+    return serial > FirstDay - 1 && serial < LastDay + 1;
+}
+
 std::optional<QDateTime> fromDateSerial(double serial) {
-    if (!(serial > FirstDay - 1 && serial < LastDay + 1)) return {};
+    if (!isDateSerial(serial)) return {};
     double day = 0;
     const double partOfDay = std::abs(std::modf(serial, &day));
     qint64 milliseconds = std::llround(partOfDay * MillisecondsOfDay);

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <optional>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+#include "platform/dao/date_number.h"
 #include "platform/dao/date_serial.h"
 #include "platform/dao/table_protocol.h"
 #include "platform/runtime/app.h"
@@ -49,44 +51,58 @@ FieldType fieldType(CellType type) {
     throw MalformedFrame();
 }
 
-QVariant readCell(FrameReader &frame, FieldType type) {
+/// As the moment's number in the store, where it is one to the millisecond.
+double dateNumberOfSerial(double serial) {
+    const std::optional<QDateTime> moment = fromDateSerial(serial);
+    if (!moment) throw MalformedFrame();
+    return dateNumber(*moment);
+}
+
+void readCell(FrameReader &frame, FieldType type, TableColumns &rows, int column) {
     switch (type) {
     case FieldType::Boolean:
-        return frame.number<quint8>() != 0;
+        return rows.appendInteger(column, frame.number<quint8>() != 0 ? -1 : 0);
     case FieldType::Byte:
-        return int(frame.number<quint8>());
+        return rows.appendInteger(column, frame.number<quint8>());
     case FieldType::Integer:
-        return int(frame.number<qint16>());
+        return rows.appendInteger(column, frame.number<qint16>());
     case FieldType::Long:
-        return int(frame.number<qint32>());
+        return rows.appendInteger(column, frame.number<qint32>());
     case FieldType::Currency:
-        return double(frame.number<qint64>()) / 10000;
+        return rows.appendNumber(column, double(frame.number<qint64>()) / 10000);
     case FieldType::Single:
-        return frame.number<float>();
+        return rows.appendNumber(column, double(frame.number<float>()));
     case FieldType::Double:
-        return frame.number<double>();
+        return rows.appendNumber(column, frame.number<double>());
     case FieldType::Date: {
-        const std::optional<QDateTime> moment = fromDateSerial(frame.number<double>());
-        if (!moment) throw MalformedFrame();
-        return *moment;
+        const auto serial = frame.number<double>();
+        const bool isDay = serial == std::floor(serial) && isDateSerial(serial);
+        return rows.appendNumber(column, isDay ? serial : dateNumberOfSerial(serial));
     }
     case FieldType::Text:
-    case FieldType::Memo:
-        return frame.text();
+    case FieldType::Memo: {
+        const qsizetype units = frame.number<quint32>();
+        return rows.appendText(column, frame.take(units * qsizetype(sizeof(char16_t))), units);
+    }
     case FieldType::Unsupported:
         break;
     }
     throw MalformedFrame();
 }
 
-/// Rows until the end of the frame.
-void readRows(FrameReader &frame, const FieldDefinitions &fields, const RowSink &sink) {
-    QVector<QVariant> row(fields.size());
+/// Rows until the end of the frame, of which those stay that meet the conditions on texts.
+void readRows(FrameReader &frame, TableColumns &rows, const QVector<BoundCondition> &conditions) {
+    const FieldDefinitions &fields = rows.fields();
     while (!frame.atEnd()) {
         const char *nulls = frame.take((fields.size() + 7) / 8);
-        for (qsizetype i = 0; i < fields.size(); ++i)
-            row[i] = (nulls[i / 8] >> i % 8 & 1) != 0 ? QVariant() : readCell(frame, fields[i].type);
-        sink(row);
+        for (int i = 0; i < fields.size(); ++i) {
+            if ((nulls[i / 8] >> i % 8 & 1) != 0)
+                rows.appendNull(i);
+            else
+                readCell(frame, fields[i].type, rows, i);
+        }
+        rows.endRow();
+        if (!meetsTexts(rows, rows.rowCount() - 1, conditions)) rows.truncate(rows.rowCount() - 1);
     }
 }
 
@@ -183,19 +199,15 @@ qint64 FileSource::rowCount(const QString &table) {
     return m_catalog.tables[indexOf(table)].rows;
 }
 
-void FileSource::readAll(const QString &table, const RowSink &sink) {
-    read(indexOf(table), {}, sink);
+void FileSource::readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived) {
+    read(indexOf(table), {}, rows, arrived);
 }
 
 void FileSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                              const RowSink &sink) {
+                              TableColumns &rows) {
     const qsizetype index = indexOf(table);
-    const std::optional<QVector<BoundCondition>> bound =
-        bindConditions(m_catalog.tables[index].fields, conditions);
-    if (!bound) return;
-    read(index, *bound, [&](const QVector<QVariant> &row) {
-        if (meetsTexts(row, *bound)) sink(row);
-    });
+    if (const auto bound = bindConditions(m_catalog.tables[index].fields, conditions))
+        read(index, *bound, rows);
 }
 
 qsizetype FileSource::indexOf(const QString &table) const {
@@ -205,7 +217,8 @@ qsizetype FileSource::indexOf(const QString &table) const {
     return found - m_catalog.tables.begin();
 }
 
-void FileSource::read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
+void FileSource::read(qsizetype table, const QVector<BoundCondition> &conditions, TableColumns &rows,
+                      const RowsArrived &arrived) {
     // Whoever is asked whether to wait on may come back here; the two answers would be mixed up.
     if (m_isReading) raiseSilent();
     const QScopedValueRollback<bool> reading(m_isReading, true);
@@ -215,12 +228,14 @@ void FileSource::read(qsizetype table, const QVector<BoundCondition> &conditions
         while (true) {
             const Frame answer = receiveFrame();
             FrameReader frame(answer.content);
-            if (answer.kind == Reply::Rows)
-                readRows(frame, m_catalog.tables[table].fields, sink);
-            else if (answer.kind == Reply::End)
+            if (answer.kind == Reply::Rows) {
+                readRows(frame, rows, conditions);
+                if (arrived) arrived();
+            } else if (answer.kind == Reply::End) {
                 return;
-            else if (answer.kind != Reply::Busy)
+            } else if (answer.kind != Reply::Busy) {
                 raiseFailure(frame);
+            }
         }
     } catch (const MalformedFrame &) {
         m_helper.stop();

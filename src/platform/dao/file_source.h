@@ -33,9 +33,9 @@ public:
     QString whatElse(const QString &name) override;
     FieldDefinitions fields(const QString &table) override;
     qint64 rowCount(const QString &table) override;
-    void readAll(const QString &table, const RowSink &sink) override;
+    void readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived) override;
     void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                      const RowSink &sink) override;
+                      TableColumns &rows) override;
 
 private:
     struct Table {
@@ -66,7 +66,8 @@ private:
     /// Starts the helper and takes the catalog from it.
     Catalog openHelper();
     qsizetype indexOf(const QString &table) const;
-    void read(qsizetype table, const QVector<BoundCondition> &conditions, const RowSink &sink);
+    void read(qsizetype table, const QVector<BoundCondition> &conditions, TableColumns &rows,
+              const RowsArrived &arrived = {});
     static Catalog readCatalog(FrameReader &frame);
     Frame receiveFrame();
     bool onSilence(bool isBusy) const;

@@ -59,7 +59,7 @@ private:
     std::shared_ptr<RecordsetRows> tableRows() {
         const JetSelect &select = m_statement.select;
         const RowFilter filter = m_translator.filter(select.where ? &*select.where : nullptr);
-        const SqlText order = m_translator.order(select, m_columns);
+        const RowOrder order = m_translator.order(select, m_columns);
         load();
         JetTable seen{m_table.name, m_table.table, fields(), {}};
         for (const JetColumn &column : m_columns)

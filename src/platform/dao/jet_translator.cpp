@@ -77,21 +77,27 @@ RowFilter JetTranslator::filter(const JetExpression *where) {
     return filter;
 }
 
-SqlText JetTranslator::order(const JetSelect &select, const std::vector<JetColumn> &columns) {
+RowOrder JetTranslator::order(const JetSelect &select, const std::vector<JetColumn> &columns) {
     std::vector<SqlText> terms;
+    RowOrder order{{}, std::vector<ColumnOrder>()};
     for (const JetOrderItem &item : select.orderBy) {
-        SqlText term = m_sql.key(sortExpression(item, columns));
+        const JetExpression &expression = sortExpression(item, columns);
+        SqlText term = m_sql.key(expression);
         if (item.descending) term += " desc";
         terms.push_back(std::move(term));
+        const auto column = m_sql.find(expression);
+        if (!column) order.columns.reset();
+        if (order.columns) order.columns->push_back({column->columnInMemory, item.descending});
     }
-    return joined(terms);
+    order.sql = joined(terms);
+    return order;
 }
 
 SqlText JetTranslator::query(const JetSelect &select, const std::vector<JetColumn> &columns) {
     SqlText sql = select.distinct ? "select distinct " : "select ";
     sql += joined(values(columns)) + m_sql.body(select);
-    SqlText order =
-        JetExpressionSql::isAggregate(select) ? groupedOrder(select, columns) : this->order(select, columns);
+    SqlText order = JetExpressionSql::isAggregate(select) ? groupedOrder(select, columns)
+                                                          : this->order(select, columns).sql;
     if (select.distinct) order = distinctOrder(select, columns);
     if (!isSummary(select)) order = joined({order, "t0.rowid"});
     return order.text.isEmpty() ? sql : sql + " order by " + order;
@@ -132,7 +138,7 @@ SqlText JetTranslator::groupedOrder(const JetSelect &select, const std::vector<J
     for (const JetOrderItem &item : select.orderBy)
         m_sql.checkGrouped(sortExpression(item, columns), keys);
     std::vector<SqlText> terms = keys;
-    if (!select.orderBy.empty()) terms.insert(terms.begin(), order(select, columns));
+    if (!select.orderBy.empty()) terms.insert(terms.begin(), order(select, columns).sql);
     return joined(terms);
 }
 
@@ -143,6 +149,6 @@ SqlText JetTranslator::distinctOrder(const JetSelect &select, const std::vector<
     for (const JetOrderItem &item : select.orderBy)
         if (!contains(terms, m_sql.key(sortExpression(item, columns))))
             throw JetErrors::orderConflictsWithDistinct(item.expression.source);
-    if (!select.orderBy.empty()) terms.insert(terms.begin(), order(select, columns));
+    if (!select.orderBy.empty()) terms.insert(terms.begin(), order(select, columns).sql);
     return joined(terms);
 }

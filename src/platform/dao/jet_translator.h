@@ -26,7 +26,7 @@ public:
     /// Null for no condition. Takes the LIKEs apart that a table can answer for all its rows at once.
     RowFilter filter(const JetExpression *where);
     /// The terms behind ORDER BY; a number is the position of one of `columns`.
-    SqlText order(const JetSelect &select, const std::vector<JetColumn> &columns);
+    RowOrder order(const JetSelect &select, const std::vector<JetColumn> &columns);
 
     /// A whole SELECT. Raises 3122 for a column that is neither grouped nor in an aggregate, 3093 for an
     /// order that distinct rows do not have.

@@ -5,6 +5,7 @@
 #include "platform/dao/date_number.h"
 #include "platform/dao/jet_errors.h"
 #include "platform/dao/memory_functions.h"
+#include "platform/dao/table_columns.h"
 
 namespace {
 
@@ -48,8 +49,15 @@ void MemoryStatement::bind(int position, const QVariant &value) {
                               SQLITE_TRANSIENT, SQLITE_UTF8));
 }
 
-void MemoryStatement::bindCell(int position, const QVariant &cell, FieldType type) {
-    bind(position, storedValue(cell, type));
+void MemoryStatement::bindCell(int position, const TableColumns &columns, int row, int column) {
+    const int index = position + 1;
+    const FieldType type = columns.fields()[column].type;
+    if (columns.isNull(row, column)) return check(sqlite3_bind_null(m_statement, index));
+    if (isKeptAsInteger(type))
+        return check(sqlite3_bind_int(m_statement, index, columns.integer(row, column)));
+    if (!isTextType(type)) return check(sqlite3_bind_double(m_statement, index, columns.number(row, column)));
+    const std::string_view text = columns.text(row, column);
+    check(sqlite3_bind_text64(m_statement, index, text.data(), text.size(), SQLITE_STATIC, SQLITE_UTF8));
 }
 
 bool MemoryStatement::step() {
@@ -108,6 +116,7 @@ MemoryDatabase::MemoryDatabase() {
         raise(code);
     }
     registerMemoryFunctions(m_connection);
+    ColumnsModule::registerIn(m_connection, m_columnTables);
     execute("pragma temp_store = memory");
 }
 
@@ -139,6 +148,17 @@ void MemoryDatabase::execute(const SqlText &sql) {
     const std::unique_ptr<MemoryStatement> statement = prepare(sql);
     while (statement->step()) {
     }
+}
+
+void MemoryDatabase::createOverColumns(const QByteArray &name, const TableColumns &columns) {
+    m_columnTables.insert(name, &columns);
+    execute(ColumnsModule::createTable(name));
+}
+
+void MemoryDatabase::dropColumns(const QByteArray &name) {
+    forgetStatements();
+    execute("drop table " + name);
+    m_columnTables.remove(name);
 }
 
 void MemoryDatabase::giveBack(const QByteArray &sql, sqlite3_stmt *statement) {

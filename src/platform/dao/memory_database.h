@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QVariant>
 
+#include "platform/dao/columns_module.h"
 #include "platform/dao/field_type.h"
 #include "platform/dao/sql_text.h"
 
@@ -25,7 +26,7 @@ public:
     /// Positions count from 0; values as in SqlText.
     void bind(int position, const QVariant &value);
     /// The same for a cell of a table.
-    void bindCell(int position, const QVariant &cell, FieldType type);
+    void bindCell(int position, const TableColumns &columns, int row, int column);
     /// False behind the last row.
     bool step();
     /// After the last row, for another round with other values.
@@ -58,12 +59,17 @@ public:
     std::unique_ptr<MemoryStatement> prepare(const SqlText &sql);
     void execute(const SqlText &sql);
 
+    /// A table over `columns`, which are read where they are, until dropColumns().
+    void createOverColumns(const QByteArray &name, const TableColumns &columns);
+    void dropColumns(const QByteArray &name);
+
 private:
     friend class MemoryStatement;
 
     void giveBack(const QByteArray &sql, sqlite3_stmt *statement);
     void forgetStatements();
 
+    ColumnTables m_columnTables;
     sqlite3 *m_connection = nullptr;
     QMultiHash<QByteArray, sqlite3_stmt *> m_idle;
 };

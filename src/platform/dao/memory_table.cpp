@@ -57,8 +57,13 @@ MemoryTable::MemoryTable(std::shared_ptr<MemoryDatabase> database, QByteArray sq
     , m_sqlName(std::move(sqlName))
     , m_fields(std::move(fields))
     , m_kind(kind)
+    , m_columns(m_fields)
     , m_textColumns(static_cast<std::size_t>(m_fields.size()))
     , m_rows(KeptRows) {
+    if (m_kind == Kind::Complete) {
+        m_database->createOverColumns(m_sqlName, m_columns);
+        return;
+    }
     QByteArrayList columns;
     for (int i = 0; i < m_fields.size(); ++i)
         columns += columnName(i) + (isTextType(m_fields[i].type) ? MemoryDatabase::JetCollation : "");
@@ -67,9 +72,9 @@ MemoryTable::MemoryTable(std::shared_ptr<MemoryDatabase> database, QByteArray sq
 }
 
 MemoryTable::~MemoryTable() {
-    if (m_kind != Kind::Result) return;
     try {
-        m_database->execute("drop table " + m_sqlName);
+        if (m_kind == Kind::Complete) m_database->dropColumns(m_sqlName);
+        if (m_kind == Kind::Result) m_database->execute("drop table " + m_sqlName);
     } catch (const RuntimeError &) {
         // It stays until the database goes; nobody can reach it.
     }
@@ -79,27 +84,39 @@ QByteArray MemoryTable::columnName(int column) {
     return "c" + QByteArray::number(column);
 }
 
-void MemoryTable::load(const std::function<void(const RowSink &)> &read) {
+void MemoryTable::load(const std::function<void(TableColumns &)> &read) {
+    if (m_kind == Kind::Complete) {
+        const int before = m_columns.rowCount();
+        try {
+            read(m_columns);
+        } catch (...) {
+            m_columns.truncate(before);
+            throw;
+        }
+    } else {
+        TableColumns rows(m_fields);
+        read(rows);
+        insertRows(rows);
+        for (int i = 0; i < m_fields.size(); ++i)
+            if (const QString reason = rows.unreadable(i); !reason.isEmpty() && !m_unreadable.contains(i))
+                m_unreadable.insert(i, reason);
+    }
+    rowsAdded();
+}
+
+void MemoryTable::insertRows(const TableColumns &rows) {
     const QByteArray marks = QByteArray("?, ").repeated(m_fields.size()).chopped(2);
     Transaction transaction(*m_database);
     {
         const auto insert = m_database->prepare("insert into " + m_sqlName + " values (" + marks + ")");
-        read([&](const QVector<QVariant> &row) {
-            for (int i = 0; i < m_fields.size(); ++i) {
-                QVariant cell = row.value(i);
-                if (cell.typeId() == qMetaTypeId<UnreadableCell>()) {
-                    if (!m_unreadable.contains(i))
-                        m_unreadable.insert(i, cell.value<UnreadableCell>().description);
-                    cell = {};
-                }
-                insert->bindCell(i, cell, m_fields[i].type);
-            }
+        for (int row = 0; row < rows.rowCount(); ++row) {
+            for (int i = 0; i < m_fields.size(); ++i)
+                insert->bindCell(i, rows, row, i);
             insert->step();
             insert->reset();
-        });
+        }
     }
     transaction.commit();
-    rowsAdded();
 }
 
 void MemoryTable::fill(const SqlText &query) {
@@ -116,19 +133,23 @@ void MemoryTable::setKey(const QVector<int> &columns) {
 }
 
 void MemoryTable::rowsAdded() {
-    const auto count = m_database->prepare("select count(*) from " + m_sqlName);
-    count->step();
-    m_rowCount = count->integer(0);
+    if (m_kind == Kind::Complete) {
+        m_rowCount = m_columns.rowCount();
+    } else {
+        const auto count = m_database->prepare("select count(*) from " + m_sqlName);
+        count->step();
+        m_rowCount = count->integer(0);
+    }
     m_orders.clear();
     std::fill(m_textColumns.begin(), m_textColumns.end(), std::nullopt);
 }
 
-std::vector<int> MemoryTable::rows(const RowFilter &filter, const SqlText &order) {
+std::vector<int> MemoryTable::rows(const RowFilter &filter, const RowOrder &order) {
     if (m_kind == Kind::Growing) {
         SqlText sql = "select rowid from " + m_sqlName + " as t0";
         if (!filter.condition.text.isEmpty()) sql += " where " + filter.condition;
         sql += " order by ";
-        if (!order.text.isEmpty()) sql += order + ", ";
+        if (!order.sql.text.isEmpty()) sql += order.sql + ", ";
         return queriedRows(sql + m_keyNames + ", rowid");
     }
     const std::vector<int> &all = ordered(order);
@@ -157,18 +178,19 @@ RowMarks MemoryTable::marks(const RowFilter &filter) {
     return marks;
 }
 
-const std::vector<int> &MemoryTable::ordered(const SqlText &order) {
-    QByteArray key = order.text;
-    for (const QVariant &value : order.parameters)
+const std::vector<int> &MemoryTable::ordered(const RowOrder &order) {
+    QByteArray key = order.sql.text;
+    for (const QVariant &value : order.sql.parameters)
         key += '\0' + value.toString().toUtf8();
     if (const auto kept = m_orders.constFind(key); kept != m_orders.constEnd()) return *kept;
     if (m_orders.size() >= KeptOrders) m_orders.clear();
     std::vector<int> rows(static_cast<std::size_t>(m_rowCount));
-    if (order.text.isEmpty()) {
+    if (order.sql.text.isEmpty())
         std::iota(rows.begin(), rows.end(), 1);
-    } else {
-        rows = queriedRows("select rowid from " + m_sqlName + " as t0 order by " + order + ", rowid");
-    }
+    else if (m_kind == Kind::Complete && order.columns)
+        rows = orderedRows(m_columns, *order.columns);
+    else
+        rows = queriedRows("select rowid from " + m_sqlName + " as t0 order by " + order.sql + ", rowid");
     return *m_orders.insert(key, std::move(rows));
 }
 
@@ -186,6 +208,13 @@ const TextColumn &MemoryTable::textColumn(int column) {
     const QString notation = regionalNotation(type);
     if (kept && kept->regionalNotation == notation) return kept->texts;
     kept = KeptTextColumn{{}, notation};
+    if (m_kind == Kind::Complete && isTextType(type)) {
+        for (int row = 0; row < m_rowCount; ++row) {
+            const std::string_view text = m_columns.text(row, column);
+            kept->texts.append(m_columns.isNull(row, column) ? nullptr : text.data(), qsizetype(text.size()));
+        }
+        return kept->texts;
+    }
     const QByteArray text = textExpression(columnName(column), type);
     const auto statement = m_database->prepare("select " + text + " from " + m_sqlName + " order by rowid");
     while (statement->step()) {
@@ -197,12 +226,14 @@ const TextColumn &MemoryTable::textColumn(int column) {
 }
 
 void MemoryTable::checkReadable(int column) const {
-    const auto unreadable = m_unreadable.constFind(column);
-    if (unreadable != m_unreadable.constEnd()) throw RuntimeError(3343, *unreadable);
+    const QString reason =
+        m_kind == Kind::Complete ? m_columns.unreadable(column) : m_unreadable.value(column);
+    if (!reason.isEmpty()) throw RuntimeError(3343, reason);
 }
 
 QVariant MemoryTable::cell(int row, int column) {
     checkReadable(column);
+    if (m_kind == Kind::Complete) return m_columns.cell(row - 1, column);
     if (const QVector<QVariant> *kept = m_rows.object(row)) return kept->value(column);
     auto cells = std::make_unique<QVector<QVariant>>();
     const auto statement =

@@ -11,8 +11,9 @@
 
 #include "platform/dao/field_type.h"
 #include "platform/dao/like_pattern.h"
+#include "platform/dao/row_order.h"
 #include "platform/dao/sql_text.h"
-#include "platform/dao/table_source.h"
+#include "platform/dao/table_columns.h"
 #include "platform/dao/text_column.h"
 
 class MemoryDatabase;
@@ -47,17 +48,16 @@ public:
     Kind kind() const { return m_kind; }
     int rowCount() const { return m_rowCount; }
 
-    /// Adds what `read` hands to the sink: all of it, or nothing when it throws.
-    void load(const std::function<void(const RowSink &)> &read);
+    /// Adds the rows that `read` appends: all of it, or nothing when it throws.
+    void load(const std::function<void(TableColumns &rows)> &read);
     /// Adds the rows of a query of this database, in its order.
     void fill(const SqlText &query);
     /// Of a Growing table: the columns that its keys are made of. They order the rows as far as a statement
     /// does not, since the order in which the keys came is no property of the data.
     void setKey(const QVector<int> &columns);
 
-    /// Row identities in the order that `order` gives, the terms of an ORDER BY, and where it leaves them
-    /// alike in their own.
-    std::vector<int> rows(const RowFilter &filter, const SqlText &order);
+    /// Row identities in the order that `order` gives, and where it leaves them alike in their own.
+    std::vector<int> rows(const RowFilter &filter, const RowOrder &order);
     RowMarks marks(const RowFilter &filter);
     QVariant cell(int row, int column);
     /// Raises 3343 where a row holds an UnreadableCell in the column.
@@ -68,7 +68,8 @@ public:
 
 private:
     void rowsAdded();
-    const std::vector<int> &ordered(const SqlText &order);
+    const std::vector<int> &ordered(const RowOrder &order);
+    void insertRows(const TableColumns &rows);
     std::vector<int> queriedRows(const SqlText &sql);
     const TextColumn &textColumn(int column);
 
@@ -83,6 +84,8 @@ private:
     Kind m_kind;
     QByteArray m_keyNames;
     int m_rowCount = 0;
+    /// Of a Complete table all rows; the others keep theirs in the database.
+    TableColumns m_columns;
     /// The description of each column's first cell that cannot be read.
     QHash<int, QString> m_unreadable;
     QHash<QByteArray, std::vector<int>> m_orders;

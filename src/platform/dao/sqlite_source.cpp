@@ -21,6 +21,7 @@ namespace {
 
 constexpr int TextSize = 255;
 constexpr char TextCollation[] = "any_capitals";
+constexpr int RowsAtOnce = 1000;
 constexpr int StepsBetweenLooks = 100'000;
 constexpr qint64 LeastLongestValue = 1 << 20;
 
@@ -216,14 +217,14 @@ qint64 SqliteSource::rowCount(const QString &table) {
     return *found.rows;
 }
 
-void SqliteSource::readAll(const QString &table, const RowSink &sink) {
-    read(find(table), {}, sink);
+void SqliteSource::readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived) {
+    read(find(table), {}, rows, arrived);
 }
 
 void SqliteSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                                const RowSink &sink) {
+                                TableColumns &rows) {
     Table &found = find(table);
-    if (const auto bound = bindConditions(fieldsOf(found), conditions)) read(found, *bound, sink);
+    if (const auto bound = bindConditions(fieldsOf(found), conditions)) read(found, *bound, rows, {});
 }
 
 void SqliteSource::readCatalog() {
@@ -272,7 +273,8 @@ FieldType SqliteSource::typeOfValues(const QString &view, const QString &column)
     return sqlite3_column_int64(values.get(), 2) > 0 ? FieldType::Double : FieldType::Long;
 }
 
-void SqliteSource::read(Table &table, const QVector<BoundCondition> &conditions, const RowSink &sink) {
+void SqliteSource::read(Table &table, const QVector<BoundCondition> &conditions, TableColumns &rows,
+                        const RowsArrived &arrived) {
     const FieldDefinitions &fields = fieldsOf(table);
     QStringList columns;
     for (const FieldDefinition &field : fields)
@@ -312,7 +314,8 @@ void SqliteSource::read(Table &table, const QVector<BoundCondition> &conditions,
                                    "." + fields[i].name + " is not of the column's type."});
             }
         }
-        sink(row);
+        rows.appendRow(row);
+        if (arrived && rows.rowCount() >= RowsAtOnce) arrived();
     }
     checkUnchanged();
 }

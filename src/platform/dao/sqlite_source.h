@@ -30,9 +30,9 @@ public:
     QStringList tableNames() override;
     FieldDefinitions fields(const QString &table) override;
     qint64 rowCount(const QString &table) override;
-    void readAll(const QString &table, const RowSink &sink) override;
+    void readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived) override;
     void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                      const RowSink &sink) override;
+                      TableColumns &rows) override;
 
 private:
     struct Closer {
@@ -55,7 +55,8 @@ private:
     Statement prepare(const QString &sql) const;
     /// False after the last row.
     bool step(const Statement &statement) const;
-    void read(Table &table, const QVector<BoundCondition> &conditions, const RowSink &sink);
+    void read(Table &table, const QVector<BoundCondition> &conditions, TableColumns &rows,
+              const RowsArrived &arrived);
     [[noreturn]] void raiseRefused() const;
     [[noreturn]] void raiseDamaged(const QString &reason = {}) const;
 

@@ -5,20 +5,12 @@
 #include <optional>
 
 #include <QStringList>
-#include <QVariant>
 #include <QVector>
 
-#include "platform/dao/field_type.h"
+#include "platform/dao/table_columns.h"
 
-/// One row, in the order of the table's definition. The sink is called for each row in the order of the file.
-using RowSink = std::function<void(const QVector<QVariant> &row)>;
-
-/// Stands in a row for a value that is there and cannot be handed over. It does no harm until somebody asks
-/// for its column: then 3343 is raised with this description, which names table and column.
-struct UnreadableCell {
-    QString description;
-};
-Q_DECLARE_METATYPE(UnreadableCell)
+/// Called now and then while rows come into the columns: it may take them out.
+using RowsArrived = std::function<void()>;
 
 /// A column and the value that a row must hold in it: an integer for a Byte, Integer or Long column, a text
 /// for a Text column, where capitals do not count (QString::compare). Null meets no condition. Names of
@@ -41,9 +33,11 @@ public:
     virtual FieldDefinitions fields(const QString &table) = 0;
     /// Rows that the file says the table has: an estimate, good enough to choose a way of reading.
     virtual qint64 rowCount(const QString &table) = 0;
-    virtual void readAll(const QString &table, const RowSink &sink) = 0;
-    /// The rows that meet every one of `conditions`, in the order of the file. Raises 3265 for an unknown
+    /// Appends the rows, in the order of the file, to `rows`, which has the table's fields. What has come
+    /// before an error stays there.
+    virtual void readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived = {}) = 0;
+    /// The same for the rows that meet every one of `conditions`. Raises 3265 for an unknown
     /// column, 3421 for a column of another type or a value that is not of the column's kind.
     virtual void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
-                              const RowSink &sink) = 0;
+                              TableColumns &rows) = 0;
 };

@@ -64,7 +64,7 @@ void TableStore::load(const TableAccess &access) {
     if (access.keys) {
         loadKey(stored, *access.keys);
     } else if (!stored.isLoaded) {
-        stored.whole->load([&](const RowSink &sink) { m_source->readAll(stored.name, sink); });
+        stored.whole->load([&](TableColumns &rows) { m_source->readAll(stored.name, rows); });
         stored.isLoaded = true;
     }
 }
@@ -81,8 +81,7 @@ void TableStore::loadKey(StoredTable &stored, const KeyCondition &keys) {
             conditions += {(*stored.fields)[keys.columns[i]].name, key[i]};
         }
         if (keyed.keys.contains(mark)) continue;
-        keyed.table->load(
-            [&](const RowSink &sink) { m_source->readMatching(stored.name, conditions, sink); });
+        keyed.table->load([&](TableColumns &rows) { m_source->readMatching(stored.name, conditions, rows); });
         keyed.keys.insert(mark);
     }
 }
@@ -102,15 +101,17 @@ QVector<int> TableStore::places(StoredTable &stored, const QStringList &columns)
 void TableStore::readRows(const QString &table, const QStringList &columns, const RowSink &sink) {
     StoredTable &stored = find(table);
     const QVector<int> wanted = places(stored, columns);
-    QVector<QVariant> cells(wanted.size());
-    m_source->readAll(stored.name, [&](const QVector<QVariant> &row) {
-        for (qsizetype i = 0; i < wanted.size(); ++i) {
-            cells[i] = row[wanted[i]];
-            if (cells[i].typeId() == qMetaTypeId<UnreadableCell>())
-                throw RuntimeError(3343, cells[i].value<UnreadableCell>().description);
-        }
-        sink(cells);
-    });
+    TableColumns rows(*stored.fields);
+    const auto handOver = [&] {
+        for (const int column : wanted)
+            if (const QString reason = rows.unreadable(column); !reason.isEmpty())
+                throw RuntimeError(3343, reason);
+        for (int row = 0; row < rows.rowCount(); ++row)
+            sink(RowCells(rows, wanted, row));
+        rows.truncate(0);
+    };
+    m_source->readAll(stored.name, rows, handOver);
+    handOver();
 }
 
 qint64 TableStore::rowCount(const QString &table) {

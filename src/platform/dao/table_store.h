@@ -13,6 +13,7 @@
 #include "platform/dao/jet_syntax.h"
 #include "platform/dao/jet_table.h"
 #include "platform/dao/key_condition.h"
+#include "platform/dao/row_cells.h"
 #include "platform/dao/table_source.h"
 #include "platform/runtime/runtime_error.h"
 

@@ -1,0 +1,33 @@
+// Rows that are handed over one by one, past the memory.
+#pragma once
+
+#include <functional>
+
+#include <QVector>
+
+#include "platform/dao/table_columns.h"
+
+/// One row of which some columns are wanted. Positions count in these.
+class RowCells {
+public:
+    RowCells(const TableColumns &rows, const QVector<int> &columns, int row)
+        : m_rows(rows)
+        , m_columns(columns)
+        , m_row(row) {}
+
+    qsizetype size() const { return m_columns.size(); }
+    bool isNull(qsizetype position) const { return m_rows.isNull(m_row, m_columns[position]); }
+    QVariant operator[](qsizetype position) const { return m_rows.cell(m_row, m_columns[position]); }
+    /// See TableColumns.
+    qint32 integer(qsizetype position) const { return m_rows.integer(m_row, m_columns[position]); }
+    double number(qsizetype position) const { return m_rows.number(m_row, m_columns[position]); }
+    std::string_view text(qsizetype position) const { return m_rows.text(m_row, m_columns[position]); }
+
+private:
+    const TableColumns &m_rows;
+    const QVector<int> &m_columns;
+    int m_row;
+};
+
+/// Called for each row in the order of the file.
+using RowSink = std::function<void(const RowCells &cells)>;
