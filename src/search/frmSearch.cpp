@@ -1,5 +1,8 @@
 #include "search/frmSearch.h"
 
+#include <QTimer>
+
+#include "data/look_ahead.h"
 #include "data/modDBase.h"
 #include "data/queries.h"
 #include "platform/dao/database.h"
@@ -84,6 +87,10 @@ void frmSearch::Form_Load() {
     cmbChooseStd->setCurrentIndex(0);
     cmdShowPmaIndex->setVisible(modDocument::FileExists(App::current().path + frmPmaIndex::strPmaFile));
     txtSearch(0)->setFocus();
+    // once the list is seen and the processors are at rest
+    QTimer::singleShot(150, this, [] {
+        if (const auto database = modDBase::dbMain()) expectTablesOfGrades(*database);
+    });
 }
 
 void frmSearch::readLatestRevision() {

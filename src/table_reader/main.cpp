@@ -9,6 +9,7 @@
 #include "table_reader/access_file.h"
 #include "table_reader/damaged.h"
 #include "table_reader/limits.h"
+#include "table_reader/look_ahead.h"
 #include "table_reader/reply.h"
 #include "table_reader/request.h"
 #include "table_reader/table_search.h"
@@ -47,13 +48,19 @@ void sendCatalog(const AccessFile &file, Reply &reply) {
 }
 
 void answerRequests(const AccessFile &file, Reply &reply) {
-    std::vector<std::unique_ptr<TableSearch>> searches(file.tables().size());
-    while (const std::optional<Request> request = readRequest(STDIN_FILENO, file)) {
+    TableSearches searches(file);
+    LookAhead lookAhead(searches);
+    while (true) {
+        lookAhead.workUntilInput(STDIN_FILENO);
+        const std::optional<Request> request = readRequest(STDIN_FILENO, file);
+        if (!request) return;
+        if (request->kind == TableProtocol::Request::LookAhead) {
+            lookAhead.add(request->table, request->columns);
+            continue;
+        }
         limits::allowProcessorTime();
         try {
-            std::unique_ptr<TableSearch> &search = searches[request->table];
-            if (!search) search = std::make_unique<TableSearch>(file, file.tables()[request->table]);
-            search->run(request->conditions, reply);
+            searches.of(request->table).run(request->conditions, reply);
             file.checkUnchanged();
             reply.endRows();
         } catch (const Damaged &damage) {

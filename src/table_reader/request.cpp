@@ -1,5 +1,6 @@
 #include "table_reader/request.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include <unistd.h>
@@ -65,9 +66,20 @@ private:
     bool m_good = true;
 };
 
-bool fits(const Condition &condition, const Column &column) {
-    if (condition.isText) return column.type == CellType::Text;
+bool isInteger(const Column &column) {
     return column.type == CellType::Byte || column.type == CellType::Integer || column.type == CellType::Long;
+}
+
+bool fits(const Condition &condition, const Column &column) {
+    return condition.isText ? column.type == CellType::Text : isInteger(column);
+}
+
+/// Whether they can be searched by.
+bool areKeys(const std::vector<std::size_t> &columns, const Table &table) {
+    return !columns.empty() && std::all_of(columns.begin(), columns.end(), [&](std::size_t column) {
+        return column < table.columns.size() &&
+               (isInteger(table.columns[column]) || table.columns[column].type == CellType::Text);
+    });
 }
 
 } // namespace
@@ -86,11 +98,19 @@ std::optional<Request> readRequest(int input, const AccessFile &file) {
     if (!content) return {};
     Fields fields(*content);
     Request request;
-    if (fields.number<TableProtocol::Request>() != TableProtocol::Request::Rows) return {};
+    request.kind = fields.number<TableProtocol::Request>();
     request.table = fields.number<std::uint16_t>();
     if (request.table >= file.tables().size()) return {};
     const Table &table = file.tables()[request.table];
-    request.conditions.resize(fields.number<std::uint16_t>());
+    const std::size_t count = fields.number<std::uint16_t>();
+    if (request.kind == TableProtocol::Request::LookAhead) {
+        for (std::size_t i = 0; i < count; ++i)
+            request.columns.push_back(fields.number<std::uint16_t>());
+        const bool isGood = fields.complete() && areKeys(request.columns, table);
+        return isGood ? std::optional(std::move(request)) : std::nullopt;
+    }
+    if (request.kind != TableProtocol::Request::Rows) return {};
+    request.conditions.resize(count);
     for (Condition &condition : request.conditions) {
         condition.column = fields.number<std::uint16_t>();
         condition.isText = fields.number<ValueKind>() == ValueKind::Text;

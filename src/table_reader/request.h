@@ -8,8 +8,10 @@
 #include "table_reader/table_search.h"
 
 struct Request {
+    TableProtocol::Request kind = TableProtocol::Request::Rows;
     std::size_t table = 0;
     std::vector<Condition> conditions;
+    std::vector<std::size_t> columns; // of a LookAhead
 };
 
 /// Waits for the first one, and gives the password. Nothing at the end of the input, or for another request.

@@ -64,11 +64,25 @@ TableSearch::TableSearch(const AccessFile &file, const Table &table)
     , m_scan(file, table)
     , m_writer(file, table) {}
 
-void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
-    m_writer.restart();
+TableSearch::PageGroups &TableSearch::start(std::vector<Condition> &conditions) {
+    std::sort(conditions.begin(), conditions.end(),
+              [](const Condition &a, const Condition &b) { return a.column < b.column; });
+    m_cells.resize(conditions.size());
     m_lastKey.clear();
     m_lastInteger.reset();
-    PageGroups &groups = groupsBy(conditions);
+    std::vector<std::size_t> columns;
+    for (const Condition &condition : conditions)
+        columns.push_back(condition.column);
+    const auto known = std::find_if(m_groups.begin(), m_groups.end(),
+                                    [&](const PageGroups &groups) { return groups.columns == columns; });
+    if (known != m_groups.end()) return *known;
+    m_groups.push_back({std::move(columns), {}, 0});
+    return m_groups.back();
+}
+
+void TableSearch::run(std::vector<Condition> conditions, Reply &reply) {
+    m_writer.restart();
+    PageGroups &groups = start(conditions);
     KeyHash key;
     bool known = true;
     for (const Condition &condition : conditions) {
@@ -81,41 +95,47 @@ void TableSearch::run(const std::vector<Condition> &conditions, Reply &reply) {
         return known ? held.test(static_cast<std::size_t>(key.group())) : held.any();
     };
 
-    const bool readsAll = groups.ofPage.empty();
-    m_rows = 0;
     for (std::size_t i = 0; i < m_scan.pages().size(); ++i) {
-        const std::uint32_t page = m_scan.pages()[i];
         if (i >= groups.ofPage.size())
-            groups.ofPage.push_back(searchPage(page, conditions, reply));
+            searchNewPage(groups, conditions, &reply);
         else if (mayHold(groups.ofPage[i]))
-            searchPage(page, conditions, reply);
+            searchPage(m_scan.pages()[i], conditions, &reply, nullptr);
         if (i % PagesBetweenLooks == 0) reply.stillBusy();
     }
     // A page that another use has taken, or that the map has lost, leaves no other trace than this.
-    if (readsAll && m_rows != m_table.rows) throw Damaged("rows that cannot be found");
+    if (groups.rows != m_table.rows) throw Damaged("rows that cannot be found");
 }
 
-TableSearch::PageGroups &TableSearch::groupsBy(const std::vector<Condition> &conditions) {
-    std::vector<std::size_t> columns;
-    for (const Condition &condition : conditions)
-        columns.push_back(condition.column);
-    const auto known = std::find_if(m_groups.begin(), m_groups.end(),
-                                    [&](const PageGroups &groups) { return groups.columns == columns; });
-    if (known != m_groups.end()) return *known;
-    m_groups.push_back({std::move(columns), {}});
-    return m_groups.back();
+bool TableSearch::lookAhead(const std::vector<std::size_t> &columns, std::size_t pages) {
+    std::vector<Condition> conditions(columns.size());
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        conditions[i].column = columns[i];
+        conditions[i].isText = m_table.columns[columns[i]].type == TableProtocol::CellType::Text;
+    }
+    PageGroups &groups = start(conditions);
+    for (; pages > 0 && groups.ofPage.size() < m_scan.pages().size(); --pages)
+        searchNewPage(groups, conditions, nullptr);
+    return groups.ofPage.size() < m_scan.pages().size();
+}
+
+void TableSearch::searchNewPage(PageGroups &groups, const std::vector<Condition> &conditions, Reply *reply) {
+    std::uint64_t rows = 0;
+    groups.ofPage.push_back(searchPage(m_scan.pages()[groups.ofPage.size()], conditions, reply, &rows));
+    groups.rows += rows;
 }
 
 TableSearch::Groups TableSearch::searchPage(std::uint32_t page, const std::vector<Condition> &conditions,
-                                            Reply &reply) {
+                                            Reply *reply, std::uint64_t *rows) {
     Groups groups;
     int last = NoGroup;
+    std::uint64_t count = 0;
     m_scan.visit(page, [&](const Row &row) {
-        ++m_rows;
+        ++count;
         const Match found = match(row, conditions);
         if (found.group != last) add(groups, last = found.group);
-        if (found.found) m_writer.write(row, reply);
+        if (found.found && reply) m_writer.write(row, *reply);
     });
+    if (rows) *rows = count;
     return groups;
 }
 
@@ -131,7 +151,6 @@ TableSearch::Match TableSearch::match(const Row &row, const std::vector<Conditio
     if (conditions.size() == 1 && !conditions.front().isText) return matchInteger(row, conditions.front());
     // Rows of one key mostly follow one another.
     bool isLast = m_lastKey.size() == conditions.size();
-    m_cells.resize(conditions.size());
     for (std::size_t i = 0; i < conditions.size(); ++i) {
         const Column &column = m_table.columns[conditions[i].column];
         const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();

@@ -3,6 +3,7 @@
 
 #include <bitset>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,13 +34,17 @@ public:
     TableSearch(const AccessFile &file, const Table &table);
 
     /// Sends every matching row, in the order of the file. Raises Damaged.
-    void run(const std::vector<Condition> &conditions, Reply &reply);
+    void run(std::vector<Condition> conditions, Reply &reply);
+    /// Does some of what the first search by these columns would have to do, `pages` pages of it. False when
+    /// there is nothing left. Raises Damaged, as that search will.
+    bool lookAhead(const std::vector<std::size_t> &columns, std::size_t pages);
 
 private:
     using Groups = std::bitset<256>; // one bit for each group
     struct PageGroups {
         std::vector<std::size_t> columns;
         std::vector<Groups> ofPage;
+        std::uint64_t rows = 0; // on these pages
     };
     struct Match {
         bool found = true;
@@ -50,9 +55,14 @@ private:
         NoGroup = -2   // Null, which nothing is equal to
     };
 
-    PageGroups &groupsBy(const std::vector<Condition> &conditions);
-    /// Sends the page's matching rows. Gives the groups of all of them.
-    Groups searchPage(std::uint32_t page, const std::vector<Condition> &conditions, Reply &reply);
+    /// What has been noted for these columns, which does not depend on the order in which they are named.
+    PageGroups &start(std::vector<Condition> &conditions);
+    /// Sends the page's matching rows, without a reply none. Gives the groups of all of them, and their
+    /// number.
+    Groups searchPage(std::uint32_t page, const std::vector<Condition> &conditions, Reply *reply,
+                      std::uint64_t *rows);
+    /// The same for the first page that has not been looked at, and notes it.
+    void searchNewPage(PageGroups &groups, const std::vector<Condition> &conditions, Reply *reply);
     static void add(Groups &groups, int group);
     Match match(const Row &row, const std::vector<Condition> &conditions);
     Match matchInteger(const Row &row, const Condition &condition);
@@ -63,10 +73,29 @@ private:
     TableScan m_scan;
     RowWriter m_writer;
     std::vector<PageGroups> m_groups;
-    std::uint64_t m_rows = 0; // seen in this search
     std::vector<CellBytes> m_cells;
     std::vector<std::vector<std::uint8_t>> m_lastKey; // the stored bytes of the cells compared last
     std::optional<std::int32_t> m_lastInteger;
     Match m_lastMatch;
     std::u16string m_text;
+};
+
+/// One search for each table, made when it is first wanted.
+class TableSearches {
+public:
+    /// `file` outlives this.
+    explicit TableSearches(const AccessFile &file)
+        : m_file(file)
+        , m_searches(file.tables().size()) {}
+
+    /// Raises Damaged.
+    TableSearch &of(std::size_t table) {
+        std::unique_ptr<TableSearch> &search = m_searches[table];
+        if (!search) search = std::make_unique<TableSearch>(m_file, m_file.tables()[table]);
+        return *search;
+    }
+
+private:
+    const AccessFile &m_file;
+    std::vector<std::unique_ptr<TableSearch>> m_searches;
 };

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QProcess>
+#include <QThread>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -195,6 +196,27 @@ TEST(FileSource, HelperThatCannotBeRunIsTold) {
               "75: Path/File access error" + quoted);
     QFile::remove(helper);
     EXPECT_EQ(errorWith(helper), "53: File not found" + quoted);
+}
+
+TEST(FileSource, WhatIsReadAheadChangesNoAnswer) {
+    FileSource ahead(samplePath("Velmar_PED.mdb"), helperPath());
+    FileSource plain(samplePath("Velmar_PED.mdb"), helperPath());
+    const QVector<QVariant> chemical = allRows(plain, "Chemical").at(100);
+    const QVector<ColumnCondition> texts = {
+        {"name", chemical[1]}, {"standard", chemical[0]}, {"numbr", chemical[2]}};
+    for (const int pause : {0, 1, 50}) { // in milliseconds: none, some and all of it is done then
+        ahead.lookAhead("Rp02", {0});
+        ahead.lookAhead("Chemical", {2, 0, 1});
+        ahead.lookAhead("Rp02", {0});
+        QThread::msleep(static_cast<unsigned long>(pause));
+        for (int grade = 0; grade <= 39; ++grade) {
+            const QVector<ColumnCondition> key = {{"matID", grade}};
+            EXPECT_EQ(rowTexts(matchingRows(ahead, "Rp02", key)), rowTexts(matchingRows(plain, "Rp02", key)));
+        }
+        EXPECT_EQ(rowTexts(matchingRows(ahead, "Chemical", texts)),
+                  rowTexts(matchingRows(plain, "Chemical", texts)));
+        EXPECT_EQ(rowTexts(allRows(ahead, "Rp02")), rowTexts(allRows(plain, "Rp02")));
+    }
 }
 
 TEST(FileSource, SinkThatRaisesLeavesTheSourceUsable) {

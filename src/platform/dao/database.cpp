@@ -13,6 +13,10 @@ std::shared_ptr<Recordset> Database::OpenRecordset(const QString &sql) {
     return std::make_shared<Recordset>(openRows(*open(), sql));
 }
 
+void Database::Expect(const QString &sql) {
+    expectRows(*open(), sql);
+}
+
 void Database::ReadRows(const QString &table, const QStringList &columns, const RowSink &sink) {
     // Held while it is read, whatever the sink does.
     const std::shared_ptr<TableStore> store = open();

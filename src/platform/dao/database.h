@@ -21,6 +21,10 @@ public:
     /// table), 3061 (no such column), each quoting the piece; 3343 when the file turns out to be damaged.
     std::shared_ptr<Recordset> OpenRecordset(const QString &sql);
 
+    /// Statements like this one, with other values, are to be expected soon: whatever makes the first of them
+    /// quick may be done meanwhile. Raises 3075 and 3078.
+    void Expect(const QString &sql);
+
     /// Hands the cells of these columns to `sink`, row by row in the order of the file and past the memory:
     /// for whoever keeps the rows in a form of his own. A sink that throws ends the reading; one that asks
     /// this database for anything else gets 3043. Raises 3078, 3265 for an unknown column, 3259 for an

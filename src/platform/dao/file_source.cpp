@@ -153,6 +153,16 @@ QByteArray rowsRequest(qsizetype table, const QVector<BoundCondition> &condition
     return framed(request);
 }
 
+QByteArray lookAheadRequest(qsizetype table, const QVector<int> &columns) {
+    QByteArray request;
+    append(request, TableProtocol::Request::LookAhead);
+    append(request, static_cast<quint16>(table));
+    append(request, static_cast<quint16>(columns.size()));
+    for (const int column : columns)
+        append(request, static_cast<quint16>(column));
+    return framed(request);
+}
+
 } // namespace
 
 FileSource::FileSource(QString path, const QString &helper, WaitsOn waitsOn, int patience, QString password)
@@ -208,6 +218,11 @@ void FileSource::readMatching(const QString &table, const QVector<ColumnConditio
     const qsizetype index = indexOf(table);
     if (const auto bound = bindConditions(m_catalog.tables[index].fields, conditions))
         read(index, *bound, rows);
+}
+
+void FileSource::lookAhead(const QString &table, const QVector<int> &columns) {
+    // A helper that has gone is started again by the next one who wants an answer, and then works for him.
+    if (!m_isReading && m_helper.isRunning()) m_helper.send(lookAheadRequest(indexOf(table), columns));
 }
 
 qsizetype FileSource::indexOf(const QString &table) const {

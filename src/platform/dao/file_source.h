@@ -36,6 +36,7 @@ public:
     void readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived) override;
     void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                       TableColumns &rows) override;
+    void lookAhead(const QString &table, const QVector<int> &columns) override;
 
 private:
     struct Table {

@@ -125,3 +125,7 @@ JetStatement statementOf(const TableStore &store, const QString &text) {
 std::shared_ptr<RecordsetRows> openRows(TableStore &store, const QString &statement) {
     return Query(store, statementOf(store, statement)).run();
 }
+
+void expectRows(TableStore &store, const QString &statement) {
+    store.expect(statementOf(store, statement).select);
+}

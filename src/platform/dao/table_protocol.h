@@ -21,6 +21,11 @@ enum class Request : std::uint8_t {
     /// column's position (16 bits), a ValueKind and the value: 32 bits or a text. No condition asks for all
     /// rows.
     Rows,
+    /// Table's position (16 bits), number of columns (16 bits), one at least, and the position of each one
+    /// (16
+    /// bits): a search by these columns is to be expected. It has no answer, and waits for every other
+    /// request.
+    LookAhead,
 };
 
 enum class Reply : std::uint8_t {

@@ -40,4 +40,6 @@ public:
     /// column, 3421 for a column of another type or a value that is not of the column's kind.
     virtual void readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                               TableColumns &rows) = 0;
+    /// Searches of the table by these columns are to be expected. Returns at once and raises nothing.
+    virtual void lookAhead(const QString &, const QVector<int> &) {}
 };

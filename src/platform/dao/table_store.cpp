@@ -69,6 +69,13 @@ void TableStore::load(const TableAccess &access) {
     }
 }
 
+void TableStore::expect(const JetSelect &select) {
+    StoredTable &stored = find(select.table);
+    if (stored.isLoaded || m_source->rowCount(stored.name) <= m_wholeTableLimit) return;
+    if (const std::optional<KeyCondition> keys = keyCondition(select, *stored.fields))
+        m_source->lookAhead(stored.name, keys->columns);
+}
+
 void TableStore::loadKey(StoredTable &stored, const KeyCondition &keys) {
     KeyedTable &keyed = stored.byKey.at(keys.columns);
     for (const QVector<QVariant> &key : keys.keys) {

@@ -46,6 +46,8 @@ public:
     /// Raises 3078 for an unknown table.
     TableAccess access(const JetSelect &select);
     void load(const TableAccess &access);
+    /// Raises 3078 for an unknown table.
+    void expect(const JetSelect &select);
 
     /// See Database::ReadRows.
     void readRows(const QString &table, const QStringList &columns, const RowSink &sink);
