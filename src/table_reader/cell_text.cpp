@@ -1,10 +1,7 @@
 #include "table_reader/cell_text.h"
 
-#include <algorithm>
-#include <memory>
-#include <vector>
-
 #include "table_reader/bytes.h"
+#include "table_reader/code_pages.h"
 #include "table_reader/damaged.h"
 
 namespace {
@@ -36,27 +33,28 @@ void decodeCompressed(const std::uint8_t *stored, std::size_t size, std::u16stri
     text.resize(units);
 }
 
+void decodeBytes(const std::uint8_t *stored, std::size_t size, const char16_t *upperHalf,
+                 std::u16string &text) {
+    text.resize(size);
+    for (std::size_t i = 0; i < size; ++i) {
+        text[i] = stored[i];
+        if (stored[i] < 0x80) continue;
+        text[i] = upperHalf ? upperHalf[stored[i] - 0x80] : char16_t(0);
+        if (text[i] == 0) throw Damaged("byte that is no character");
+    }
+}
+
 } // namespace
 
+CellText CellText::ofCodePage(unsigned codePage) {
+    return CellText(true, codePages::upperHalf(codePage));
+}
+
 void CellText::decode(const std::uint8_t *stored, std::size_t size, std::u16string &text) const {
-    if (m_jet3)
-        decodeCodePage(stored, size, text);
+    if (m_bytesAreCharacters)
+        decodeBytes(stored, size, m_upperHalf, text);
     else if (size >= 2 && stored[0] == 0xff && stored[1] == 0xfe)
         decodeCompressed(stored + 2, size - 2, text);
     else
         decodeUnits(stored, size, text);
-}
-
-void CellText::decodeCodePage(const std::uint8_t *stored, std::size_t size, std::u16string &text) const {
-    if (std::all_of(stored, stored + size, [](std::uint8_t byte) { return byte < 0x80; })) {
-        text.assign(stored, stored + size);
-        return;
-    }
-    std::vector<char> utf8(size * 4 + 1);
-    mdb_unicode2ascii(m_handle, reinterpret_cast<const char *>(stored), size, utf8.data(), utf8.size());
-    glong units = 0;
-    const std::unique_ptr<gunichar2, void (*)(void *)> utf16(
-        g_utf8_to_utf16(utf8.data(), -1, nullptr, &units, nullptr), g_free);
-    if (!utf16) throw Damaged("bytes that are no text");
-    text.assign(utf16.get(), utf16.get() + units);
 }

@@ -5,20 +5,21 @@
 #include <cstdint>
 #include <string>
 
-#include <mdbtools.h>
-
 class CellText {
 public:
-    CellText(MdbHandle *handle, bool jet3)
-        : m_handle(handle)
-        , m_jet3(jet3) {}
+    /// Texts of Jet 4 and later.
+    static CellText ofUnits() { return CellText(false, nullptr); }
+    /// Texts of Jet 3. Of an unknown code page only the ASCII characters are known.
+    static CellText ofCodePage(unsigned codePage);
 
     /// Overwrites `text`. Raises Damaged for bytes that are no text.
     void decode(const std::uint8_t *bytes, std::size_t size, std::u16string &text) const;
 
 private:
-    void decodeCodePage(const std::uint8_t *bytes, std::size_t size, std::u16string &text) const;
+    CellText(bool bytesAreCharacters, const char16_t *upperHalf)
+        : m_bytesAreCharacters(bytesAreCharacters)
+        , m_upperHalf(upperHalf) {}
 
-    MdbHandle *m_handle;
-    bool m_jet3;
+    bool m_bytesAreCharacters;
+    const char16_t *m_upperHalf; // null where it is not known
 };

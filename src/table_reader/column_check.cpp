@@ -13,20 +13,20 @@ constexpr unsigned MostDigits = 28;
 unsigned sizeOf(const Column &column) {
     if (column.type == TableProtocol::CellType::Unsupported) return AnySize;
     switch (column.storedType) {
-    case MDB_BOOL:
+    case StoredType::Boolean:
         return 0;
-    case MDB_BYTE:
+    case StoredType::Byte:
         return 1;
-    case MDB_INT:
+    case StoredType::Integer:
         return 2;
-    case MDB_LONGINT:
-    case MDB_FLOAT:
+    case StoredType::Long:
+    case StoredType::Single:
         return 4;
-    case MDB_MONEY:
-    case MDB_DOUBLE:
-    case MDB_DATETIME:
+    case StoredType::Money:
+    case StoredType::Double:
+    case StoredType::Date:
         return 8;
-    case MDB_NUMERIC:
+    case StoredType::Decimal:
         return 17;
     default:
         return AnySize;
@@ -35,21 +35,22 @@ unsigned sizeOf(const Column &column) {
 
 } // namespace
 
-void checkColumns(const Table &table, const ColumnCounts &counts) {
+void checkColumns(const Table &table) {
     std::set<unsigned> numbers;
     std::set<unsigned> variables;
     std::set<std::size_t> taken; // bytes of the fixed part
     for (const Column &column : table.columns) {
         const unsigned size = sizeOf(column);
-        if (column.number >= counts.ever || !numbers.insert(column.number).second)
+        if (column.number >= table.counts.ever || !numbers.insert(column.number).second)
             throw Damaged("column out of place");
         if (size == 0) continue;
         if (size != AnySize && size != column.storedSize) throw Damaged("column of a wrong size");
-        if (column.storedType == MDB_NUMERIC &&
+        if (column.storedType == StoredType::Decimal &&
             (column.precision > MostDigits || column.scale > column.precision))
             throw Damaged("decimal of absurd size");
         if (!column.fixed) {
-            if (column.variableIndex >= counts.variable || !variables.insert(column.variableIndex).second)
+            if (column.variableIndex >= table.counts.variable ||
+                !variables.insert(column.variableIndex).second)
                 throw Damaged("column out of place");
             continue;
         }

@@ -18,13 +18,6 @@ using TableProtocol::FailureKind;
 
 namespace {
 
-/// Libmdb prints to the standard output now and then, which must not reach the answers.
-int takeStandardOutput() {
-    const int answers = dup(STDOUT_FILENO);
-    dup2(STDERR_FILENO, STDOUT_FILENO);
-    return answers;
-}
-
 void sendCatalog(const AccessFile &file, Reply &reply) {
     file.checkUnchanged();
     reply.number(file.identity());
@@ -73,13 +66,16 @@ void answerRequests(const AccessFile &file, Reply &reply) {
 
 int main() {
     limits::set();
-    Reply reply(takeStandardOutput());
+    Reply reply(STDOUT_FILENO);
     const std::optional<std::u16string> password = readOpenRequest(STDIN_FILENO);
     if (!password) return EXIT_FAILURE;
     try {
-        const AccessFile file(TableProtocol::FileDescriptor);
+        const AccessFile file(TableProtocol::FileDescriptor, *password);
         sendCatalog(file, reply);
         answerRequests(file, reply);
+    } catch (const WrongPassword &) {
+        reply.fail(FailureKind::WrongPassword, {});
+        return EXIT_FAILURE;
     } catch (const Damaged &damage) {
         reply.fail(FailureKind::Damaged, damage.what());
         return EXIT_FAILURE;

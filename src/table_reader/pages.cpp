@@ -1,44 +1,33 @@
 #include "table_reader/pages.h"
 
 #include <algorithm>
-#include <cstring>
+#include <limits>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "table_reader/cipher.h"
 #include "table_reader/damaged.h"
 
 namespace {
 constexpr std::uint32_t LongestRun = 64;
 }
 
-Pages::Pages(MdbHandle *handle, int file)
-    : m_handle(handle)
-    , m_file(file)
-    , m_pageSize(static_cast<std::size_t>(handle->fmt->pg_size)) {
+Pages::Pages(const AccessHeader &header, int file)
+    : m_file(file)
+    , m_key(header.pageKey())
+    , m_pageSize(header.pageSize()) {
     struct stat status = {};
     if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode)) throw Damaged("not a file");
-    m_count = static_cast<std::uint32_t>(static_cast<std::size_t>(status.st_size) / m_pageSize);
+    const std::uint64_t pages = static_cast<std::uint64_t>(status.st_size) / m_pageSize;
+    if (pages > std::numeric_limits<std::uint32_t>::max()) throw Damaged("file of absurd size");
+    m_count = static_cast<std::uint32_t>(pages);
 }
 
 const std::uint8_t *Pages::at(std::uint32_t page) {
     if (page >= m_count) throw Damaged("page beyond the end of the file");
-    if (page - m_first >= m_held) { // of a page before the run the difference is a large number
-        if (m_handle->f->db_key != 0)
-            readDeciphered(page);
-        else
-            readRun(page);
-    }
+    if (page - m_first >= m_held) readRun(page); // of a page before the run the difference is a large number
     return m_bytes.data() + (page - m_first) * m_pageSize;
-}
-
-void Pages::readDeciphered(std::uint32_t page) {
-    m_held = 0;
-    m_bytes.resize(m_pageSize);
-    if (mdb_read_alt_pg(m_handle, page) != static_cast<ssize_t>(m_pageSize)) throw Damaged("unreadable page");
-    std::memcpy(m_bytes.data(), m_handle->alt_pg_buf, m_pageSize);
-    m_first = page;
-    m_held = 1;
 }
 
 void Pages::readRun(std::uint32_t page) {
@@ -56,4 +45,11 @@ void Pages::readRun(std::uint32_t page) {
     }
     m_first = page;
     m_held = wanted;
+    if (m_key != 0) decipher();
+}
+
+/// Each page has a key of its own.
+void Pages::decipher() {
+    for (std::uint32_t i = 0; i < m_held; ++i)
+        if (m_first + i != 0) applyCipher(m_bytes.data() + i * m_pageSize, m_pageSize, m_key ^ (m_first + i));
 }

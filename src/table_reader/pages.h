@@ -5,14 +5,14 @@
 #include <cstdint>
 #include <vector>
 
-#include <mdbtools.h>
+#include "table_reader/access_header.h"
 
 /// A table's pages mostly follow one another, so a run of them is read ahead; a page out of order is read
 /// alone.
 class Pages {
 public:
-    /// `file` is a descriptor of the file that `handle` has open.
-    Pages(MdbHandle *handle, int file);
+    /// `header` is that of the open file.
+    Pages(const AccessHeader &header, int file);
 
     std::size_t pageSize() const { return m_pageSize; }
     std::uint32_t count() const { return m_count; }
@@ -21,11 +21,11 @@ public:
     const std::uint8_t *at(std::uint32_t page);
 
 private:
-    void readDeciphered(std::uint32_t page);
     void readRun(std::uint32_t page);
+    void decipher();
 
-    MdbHandle *m_handle;
     int m_file;
+    std::uint32_t m_key;
     std::size_t m_pageSize;
     std::uint32_t m_count = 0;
     std::uint32_t m_first = 0; // the run in m_bytes

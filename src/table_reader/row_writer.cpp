@@ -48,7 +48,7 @@ double decimal(const CellBytes &cell, unsigned scale) {
 
 RowWriter::RowWriter(const AccessFile &file, const Table &table)
     : m_table(table)
-    , m_texts(file.handle(), file.isJet3())
+    , m_texts(file.texts())
     , m_longValues(file) {}
 
 void RowWriter::write(const Row &row, Reply &reply) {
@@ -84,7 +84,8 @@ bool RowWriter::writeCell(const Column &column, const Row &row, Reply &reply) {
         reply.number(number<float>(cell));
         break;
     case CellType::Double:
-        reply.number(column.storedType == MDB_NUMERIC ? decimal(cell, column.scale) : number<double>(cell));
+        reply.number(column.storedType == StoredType::Decimal ? decimal(cell, column.scale)
+                                                              : number<double>(cell));
         break;
     case CellType::Date:
         reply.number(number<double>(cell));

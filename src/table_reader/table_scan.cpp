@@ -2,12 +2,14 @@
 
 #include "table_reader/bytes.h"
 #include "table_reader/damaged.h"
+#include "table_reader/definition_bytes.h"
 
 namespace {
 
 constexpr int MostMoves = 16;
-constexpr std::uint8_t DefinitionKind = 2; // between it and the maps, two kinds of index
-constexpr std::uint8_t MapKind = 5;
+// Between the two are two kinds of index.
+constexpr std::uint8_t FirstOtherKind = DefinitionBytes::Kind;
+constexpr std::uint8_t LastOtherKind = AccessFile::MapKind;
 
 std::uint32_t newPlace(const Slot &slot) {
     if (slot.size < 4) throw Damaged("moved row without a place");
@@ -31,8 +33,8 @@ bool TableScan::isOurs(const DataPage &page) {
 }
 
 bool TableScan::hasOtherUse(const DataPage &page) {
-    if (page.kind() != DataPage::Kind) return page.kind() >= DefinitionKind && page.kind() <= MapKind;
-    return page.owner() == DataPage::LongValues || m_movedRows.at(page.owner())[0] == DefinitionKind;
+    if (page.kind() != DataPage::Kind) return page.kind() >= FirstOtherKind && page.kind() <= LastOtherKind;
+    return page.owner() == DataPage::LongValues || m_movedRows.at(page.owner())[0] == DefinitionBytes::Kind;
 }
 
 Row TableScan::follow(const Slot &moved) {

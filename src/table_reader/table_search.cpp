@@ -60,7 +60,7 @@ std::int32_t integerOf(const Column &column, const CellBytes &cell) {
 
 TableSearch::TableSearch(const AccessFile &file, const Table &table)
     : m_table(table)
-    , m_texts(file.handle(), file.isJet3())
+    , m_texts(file.texts())
     , m_scan(file, table)
     , m_writer(file, table) {}
 

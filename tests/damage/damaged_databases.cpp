@@ -17,9 +17,9 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include "platform/dao/file_source.h"
 #include "platform/dao/database.h"
 #include "platform/dao/db_engine.h"
+#include "platform/dao/file_source.h"
 #include "platform/dao/recordset.h"
 #include "platform/runtime/runtime_error.h"
 #include "tests/damage/damage.h"
@@ -37,7 +37,8 @@ constexpr qint64 LongestWait = 5000; // milliseconds
 constexpr long MostMemory = 1 << 20; // kilobytes
 constexpr unsigned Stuck = 60;       // seconds after which the system ends this program
 
-const char *const Connect = ";Pwd=rolvek";
+const QString Password = QStringLiteral("rolvek");
+const QString Connect = ";Pwd=" + Password;
 
 /// Rows in an order of their own, since a file may give them in any.
 using Rows = QList<QByteArray>;
@@ -130,7 +131,7 @@ public:
         if (!sample.open(QIODevice::ReadOnly)) qFatal("no sample");
         m_good = sample.readAll();
         const auto database = DBEngine::instance().OpenDatabase(sample.fileName(), true, true, Connect);
-        FileSource source(sample.fileName());
+        FileSource source(sample.fileName(), FileSource::helperProgram(), {}, FileSource::Patience, Password);
         m_owners = std::make_unique<PageOwners>(m_good, source.tableNames());
         for (const QString &name : source.tableNames())
             m_tables.append(goodTable(*database, name, source.fields(name)));

@@ -33,7 +33,7 @@ qsizetype memoHead(const QByteArray &file) {
 } // namespace
 
 TEST(AccessLayout, DeletedRowsAreGoneAndMovedOnesAreReadWhereTheyAre) {
-    FileSource original(Main, helperPath());
+    SampleSource original(Main);
     Rows expected = allRows(original, "Units");
     ASSERT_EQ(expected.size(), 7);
 
@@ -50,14 +50,14 @@ TEST(AccessLayout, DeletedRowsAreGoneAndMovedOnesAreReadWhereTheyAre) {
     mdbPages::setRowCount(file, mdbPages::definitionOf(file, page), expected.size());
 
     const QTemporaryDir folder;
-    FileSource source(writeFile(folder, "moved.mdb", file), helperPath());
+    SampleSource source(writeFile(folder, "moved.mdb", file));
     EXPECT_EQ(rowTexts(allRows(source, "Units")), rowTexts(expected));
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(rowTexts(matchingRows(source, "Units", {{"unitID", 6}})), rowTexts({expected[1]}));
 
     mdbPages::put(file, mdbPages::rowStart(file, page, 2),
                   static_cast<quint32>(page / mdbPages::Size << 8 | 2));
-    FileSource circle(writeFile(folder, "circle.mdb", file), helperPath());
+    SampleSource circle(writeFile(folder, "circle.mdb", file));
     EXPECT_EQ(errorOf([&] { allRows(circle, "Units"); }), 3343);
 }
 
@@ -84,8 +84,7 @@ TEST(AccessLayout, RowsThatAreLostOrWouldBeMisreadAreAnError) {
         QByteArray bad = good;
         bad.replace(at, bytes.size(), bytes);
         const QString path = writeFile(folder, "bad.mdb", bad);
-        EXPECT_EQ(errorOf([&] { allRows(*std::make_unique<FileSource>(path, helperPath()), "Units"); }), 3343)
-            << damage;
+        EXPECT_EQ(errorOf([&] { allRows(*std::make_unique<SampleSource>(path), "Units"); }), 3343) << damage;
     }
 }
 
@@ -95,7 +94,7 @@ TEST(AccessLayout, MemosOfAnyLengthAreWhole) {
     const qsizetype head = memoHead(file);
     ASSERT_GT(head, 0);
     const auto memoWith = [&](const QByteArray &bytes) {
-        FileSource source(writeFile(folder, "memo.mdb", bytes), helperPath());
+        SampleSource source(writeFile(folder, "memo.mdb", bytes));
         return allRows(source, "TableNotes")[0][2].toString();
     };
     const auto point = [&](QByteArray &bytes, qsizetype size, quint32 flags, quint32 place) {
@@ -131,7 +130,7 @@ TEST(AccessLayout, EmptyTextIsNotNull) {
     QByteArray file = fileBytes(Main);
     mdbPages::put(file, memoHead(file), quint32(0x80000000));
     const QTemporaryDir folder;
-    FileSource source(writeFile(folder, "empty.mdb", file), helperPath());
+    SampleSource source(writeFile(folder, "empty.mdb", file));
     EXPECT_EQ(cellText(allRows(source, "TableNotes")[0][2]), "QString:");
 }
 
@@ -145,8 +144,8 @@ TEST(AccessLayout, CipheredFileIsRead) {
         file[0x3e + i] = static_cast<char>(file[0x3e + i] ^ static_cast<char>(Key >> 8 * i));
 
     const QTemporaryDir folder;
-    FileSource source(writeFile(folder, "ciphered.mdb", file), helperPath());
-    FileSource original(Main, helperPath());
+    SampleSource source(writeFile(folder, "ciphered.mdb", file));
+    SampleSource original(Main);
     for (const QString &table : original.tableNames())
         EXPECT_EQ(rowTexts(allRows(source, table)), rowTexts(allRows(original, table)))
             << table.toStdString();
@@ -160,7 +159,7 @@ TEST(AccessLayout, FilesOfLaterVersionsAreRead) {
     file.replace(4, 15, "Standard ACE DB");
     for (const char version : {'\2', '\3', '\5'}) {
         file[0x14] = version;
-        FileSource source(writeFile(folder, "later.accdb", file), helperPath());
+        SampleSource source(writeFile(folder, "later.accdb", file));
         EXPECT_EQ(source.tableNames().size(), 27);
         EXPECT_EQ(allRows(source, "Rp02").size(), 706);
     }
@@ -188,8 +187,7 @@ TEST(AccessLayout, EveryTypeIsReadInEveryVersion) {
     const QTemporaryDir folder;
     for (const Version version : {Version::Access97, Version::Access2000, Version::Access2007}) {
         SCOPED_TRACE(int(version));
-        FileSource source(writeFile(folder, "types.mdb", JetFile(version).make("Types", columns, rows)),
-                          helperPath());
+        SampleSource source(writeFile(folder, "types.mdb", JetFile(version).make("Types", columns, rows)));
         ASSERT_EQ(source.tableNames(), QStringList("Types"));
         const FieldDefinitions fields = source.fields("Types");
         ASSERT_EQ(fields.size(), columns.size());
@@ -237,7 +235,7 @@ TEST(AccessLayout, DecimalIsTheDoubleNearestToIt) {
     const QTemporaryDir folder;
     for (const JetFile::Version version : {JetFile::Version::Access2000, JetFile::Version::Access2007}) {
         const QByteArray file = JetFile(version).make("Decimals", columns, {stored});
-        FileSource source(writeFile(folder, "decimals.mdb", file), helperPath());
+        SampleSource source(writeFile(folder, "decimals.mdb", file));
         const Rows read = allRows(source, "Decimals");
         ASSERT_EQ(read.size(), 1);
         EXPECT_FALSE(read[0].last().isValid());
@@ -249,7 +247,7 @@ TEST(AccessLayout, DecimalIsTheDoubleNearestToIt) {
     }
     const QByteArray absurd =
         JetFile(JetFile::Version::Access2000).make("Decimals", {{"d", Type::Decimal, 5, 6}}, {{"0.1"}});
-    EXPECT_EQ(errorOf([&] { FileSource(writeFile(folder, "absurd.mdb", absurd), helperPath()); }), 3343);
+    EXPECT_EQ(errorOf([&] { SampleSource(writeFile(folder, "absurd.mdb", absurd)); }), 3343);
 }
 
 TEST(AccessLayout, NameOfAQueryOrALinkIsToldWhereATableOfItIsMissing) {
@@ -258,7 +256,7 @@ TEST(AccessLayout, NameOfAQueryOrALinkIsToldWhereATableOfItIsMissing) {
     for (const JetFile::Version version : {JetFile::Version::Access97, JetFile::Version::Access2000}) {
         const QByteArray bytes = JetFile(version).make("T", {{"id", JetFile::Type::Long}}, {{1}}, others);
         Database database =
-            databaseOver(std::make_unique<FileSource>(writeFile(folder, "query.mdb", bytes), helperPath()));
+            databaseOver(std::make_unique<SampleSource>(writeFile(folder, "query.mdb", bytes)));
         const auto endOf = [&](const QString &sql) {
             const std::string text = errorText([&] { database.OpenRecordset(sql); });
             EXPECT_EQ(text.rfind("3078: The database engine cannot find the input table or query '", 0), 0u);
@@ -303,7 +301,7 @@ TEST(AccessLayout, ColumnOfATypeThatIsNotReadHarmsOnlyThoseWhoAskForIt) {
     for (const auto &file : files) {
         const QByteArray bytes = JetFile(file.version).make("Mixed", file.columns, {file.row});
         Database database =
-            databaseOver(std::make_unique<FileSource>(writeFile(folder, "mixed.mdb", bytes), helperPath()));
+            databaseOver(std::make_unique<SampleSource>(writeFile(folder, "mixed.mdb", bytes)));
         const auto all = database.OpenRecordset("select * from Mixed where id = 1");
         EXPECT_EQ(shownRows(*all, {"id", "name"}), std::vector<std::string>{"1|a"});
         for (qsizetype i = 2; i < file.columns.size(); ++i) {

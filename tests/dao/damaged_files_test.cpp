@@ -43,8 +43,8 @@ int errorOfReading(const QString &path, std::unique_ptr<Source> (*open)(const QS
 }
 
 int errorOfAccess(const QString &path) {
-    return errorOfReading<FileSource>(
-        path, [](const QString &file) { return std::make_unique<FileSource>(file, helperPath()); });
+    return errorOfReading<SampleSource>(
+        path, [](const QString &file) { return std::make_unique<SampleSource>(file); });
 }
 
 int errorOfSqlite(const QString &path) {

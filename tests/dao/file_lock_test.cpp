@@ -63,7 +63,7 @@ TEST(FileLock, HelperDoesNotKeepTheLock) {
     const QTemporaryDir folder;
     const QString path = writeFile(folder, "copy.mdb", fileBytes(samplePath("PMA_Index.mdb")));
     auto lock = std::make_unique<FileLock>(path, FileLock::Kind::Exclusive);
-    const FileSource source(path, helperPath());
+    const SampleSource source(path);
     lock.reset();
     EXPECT_EQ(errorOf([&] { FileLock(path, FileLock::Kind::Exclusive); }), 0);
 }

@@ -54,7 +54,7 @@ QString writeScript(const QTemporaryDir &folder, const QByteArray &script) {
 
 TEST(FileSource, EveryTableEqualsItsText) {
     for (const Sample &sample : Samples) {
-        FileSource source(samplePath(sample.file), helperPath());
+        SampleSource source(samplePath(sample.file));
         EXPECT_EQ(source.tableNames().size(), sample.tables);
         for (const QString &table : source.tableNames()) {
             const CsvTable expected = CsvTable::read(samplePath(sample.folder) + "/" + table + ".csv");
@@ -67,7 +67,7 @@ TEST(FileSource, EveryTableEqualsItsText) {
 
 TEST(FileSource, KeyReadsEqualFilteredFullReads) {
     for (const Sample &sample : Samples) {
-        FileSource source(samplePath(sample.file), helperPath());
+        SampleSource source(samplePath(sample.file));
         for (const QString &table : source.tableNames()) {
             const FieldDefinitions fields = source.fields(table);
             for (qsizetype i = 0; i < fields.size(); ++i)
@@ -78,7 +78,7 @@ TEST(FileSource, KeyReadsEqualFilteredFullReads) {
 }
 
 TEST(FileSource, SeveralConditionsMustAllHold) {
-    FileSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    SampleSource source(samplePath("Velmar_PED.mdb"));
     const QVector<ColumnCondition> grade = {
         {"standard", "en 10028-2"}, {"name", "p265gh"}, {"numbr", "1.0425"}, {"elemID", 101}};
     for (int i = 0; i < 2; ++i) {
@@ -91,7 +91,7 @@ TEST(FileSource, SeveralConditionsMustAllHold) {
 }
 
 TEST(FileSource, RefusesConditionsThatMakeNoSense) {
-    FileSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    SampleSource source(samplePath("Velmar_PED.mdb"));
     const auto ask = [&](const QString &column, const QVariant &value) {
         return errorOf([&] { matchingRows(source, "Rp02", {{column, value}}); });
     };
@@ -105,7 +105,7 @@ TEST(FileSource, RefusesConditionsThatMakeNoSense) {
 
 #ifndef __SANITIZE_ADDRESS__
 TEST(FileSource, HelperIsBounded) {
-    FileSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    SampleSource source(samplePath("Velmar_PED.mdb"));
     rlimit memory = {};
     rlimit seconds = {};
     ASSERT_EQ(prlimit(helperProcess(), RLIMIT_AS, nullptr, &memory), 0);
@@ -116,7 +116,7 @@ TEST(FileSource, HelperIsBounded) {
 #endif
 
 TEST(FileSource, HelperThatHasGoneIsStartedAgain) {
-    FileSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    SampleSource source(samplePath("Velmar_PED.mdb"));
     const Rows before = allRows(source, "Units");
     const pid_t first = helperProcess();
     kill(first, SIGKILL);
@@ -138,7 +138,7 @@ TEST(FileSource, FileThatDoesNotAnswerIsWaitedForAsLongAsSomebodyWants) {
         if (--patient == 0) kill(helper, SIGCONT);
         return patient >= 0;
     };
-    FileSource source(path, helperPath(), waitsOn, Patience);
+    SampleSource source(path, helperPath(), waitsOn, Patience);
     helper = helperProcess();
     kill(helper, SIGSTOP);
     patient = 3;
@@ -158,14 +158,14 @@ TEST(FileSource, FileThatDoesNotAnswerIsWaitedForAsLongAsSomebodyWants) {
     const QString slow = writeScript(folder, "sleep 1; exec " + helperPath().toUtf8());
     patient = 100;
     constexpr int PatienceWithStart = 600; // of which starting two programs is no twentieth
-    EXPECT_EQ(FileSource(path, slow, waitsOn, PatienceWithStart).tableNames().size(), 27);
-    EXPECT_EQ(errorOf([&] { FileSource(path, slow, {}, PatienceWithStart); }), 3043);
+    EXPECT_EQ(SampleSource(path, slow, waitsOn, PatienceWithStart).tableNames().size(), 27);
+    EXPECT_EQ(errorOf([&] { SampleSource(path, slow, {}, PatienceWithStart); }), 3043);
 }
 
 TEST(FileSource, QuestionThatReadsTheSameFileGetsNoRows) {
     FileSource *asking = nullptr;
     int inner = 0;
-    FileSource source(
+    SampleSource source(
         samplePath("Velmar_PED.mdb"), helperPath(),
         [&](const QString &) {
             inner = errorOf([&] { allRows(*asking, "Columns"); });
@@ -183,7 +183,7 @@ TEST(FileSource, HelperThatCannotBeRunIsTold) {
     const QTemporaryDir folder;
     const QString path = samplePath("Velmar_PED.mdb");
     const auto errorWith = [&](const QString &helper) {
-        return errorText([&] { FileSource(path, helper); });
+        return errorText([&] { SampleSource(path, helper); });
     };
     const QString helper = writeFile(folder, "helper", "no program");
     const std::string quoted = ": '" + helper.toStdString() + "'";
@@ -199,8 +199,8 @@ TEST(FileSource, HelperThatCannotBeRunIsTold) {
 }
 
 TEST(FileSource, WhatIsReadAheadChangesNoAnswer) {
-    FileSource ahead(samplePath("Velmar_PED.mdb"), helperPath());
-    FileSource plain(samplePath("Velmar_PED.mdb"), helperPath());
+    SampleSource ahead(samplePath("Velmar_PED.mdb"));
+    SampleSource plain(samplePath("Velmar_PED.mdb"));
     const QVector<QVariant> chemical = allRows(plain, "Chemical").at(100);
     const QVector<ColumnCondition> texts = {
         {"name", chemical[1]}, {"standard", chemical[0]}, {"numbr", chemical[2]}};
@@ -220,7 +220,7 @@ TEST(FileSource, WhatIsReadAheadChangesNoAnswer) {
 }
 
 TEST(FileSource, SinkThatRaisesLeavesTheSourceUsable) {
-    FileSource source(samplePath("Velmar_PED.mdb"), helperPath());
+    SampleSource source(samplePath("Velmar_PED.mdb"));
     EXPECT_EQ(errorOf([&] {
                   TableColumns rows(source.fields("Chemical"));
                   source.readAll("Chemical", rows, [] { throw RuntimeError(6); });
@@ -233,7 +233,7 @@ TEST(FileSource, HelperHasNobodyToComplainTo) {
     const QTemporaryDir folder;
     const QString helper = writeScript(
         folder, "[ \"$(readlink /proc/$$/fd/2)\" = /dev/null ] || exit 1\nexec " + helperPath().toUtf8());
-    EXPECT_EQ(FileSource(samplePath("Velmar_PED.mdb"), helper).tableNames().size(), 27)
+    EXPECT_EQ(SampleSource(samplePath("Velmar_PED.mdb"), helper).tableNames().size(), 27)
         << "what libmdb says of a damaged file would stand in the user's terminal";
 }
 
@@ -270,7 +270,7 @@ TEST(FileSource, HelperThatTalksNonsenseIsADamagedFile) {
         const QString helper = writeScript(folder, script);
         QElapsedTimer clock;
         clock.start();
-        EXPECT_EQ(errorOf([&] { FileSource(samplePath("Velmar_PED.mdb"), helper, unasked, 300); }), 3343)
+        EXPECT_EQ(errorOf([&] { SampleSource(samplePath("Velmar_PED.mdb"), helper, unasked, 300); }), 3343)
             << script;
         EXPECT_LT(clock.elapsed(), 2000) << script;
         QFile::remove(helper);

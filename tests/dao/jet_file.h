@@ -1,6 +1,8 @@
 // Makes small Access files of any version, byte by byte.
 #pragma once
 
+#include <iconv.h>
+
 #include <QDateTime>
 #include <QVariant>
 #include <QVector>
@@ -36,6 +38,8 @@ public:
         quint8 precision = 0;
         quint8 scale = 0;
         bool calculated = false;
+        /// Gone from the definition: its cells are still in the rows.
+        bool deleted = false;
     };
     /// What the catalog lists besides the table.
     struct Object {
@@ -45,8 +49,18 @@ public:
     using Columns = QVector<Column>;
     using Rows = QVector<QVector<QVariant>>;
 
-    explicit JetFile(Version version)
-        : m_version(version) {}
+    /// How the file is written.
+    struct Manner {
+        int codePage = 1252; // of Access97
+        QString password = {};
+        quint32 pageKey = 0;
+        /// Where the table's rows lie, if not behind its definition: the map then goes over pages of its own.
+        int rowsPage = 0;
+    };
+
+    explicit JetFile(Version version, const Manner &manner = {1252, {}, 0, 0})
+        : m_version(version)
+        , m_manner(manner) {}
 
     /// A file with one table, whose rows fit in a page. The cell of a Decimal is its text, that of a type
     /// without texts or numbers its bytes.
@@ -62,8 +76,15 @@ public:
             objects.append({0, other.name, other.type, 0, QVariant()});
         QByteArray own = definition(columns, rows.size(), 1);
         const QByteArray further = furtherPages(own);
-        return header() + usageMaps() + definition(catalog, objects.size(), 0) +
-               data(CatalogPage, catalog, objects) + own + data(TablePage, columns, rows) + further;
+        QByteArray file = header() + usageMaps() + definition(catalog, objects.size(), 0) +
+                          data(CatalogPage, catalog, objects) + own;
+        const QByteArray content = data(TablePage, columns, rows);
+        file += (m_manner.rowsPage == 0 ? content : mapPage()) + further;
+        if (m_manner.rowsPage != 0) file = file.leftJustified(m_manner.rowsPage * pageSize(), '\0') + content;
+        if (m_manner.pageKey == 0) return file;
+        for (qsizetype page = 1; page < file.size() / pageSize(); ++page)
+            mdbPages::cipher(file, page * pageSize(), pageSize(), m_manner.pageKey ^ quint32(page));
+        return file;
     }
 
 private:
@@ -88,7 +109,15 @@ private:
         page.replace(0, 20, QByteArray("\0\1\0\0Standard Jet DB\0", 20));
         if (m_version == Version::Access2007) page.replace(4, 15, "Standard ACE DB");
         page[0x14] = static_cast<char>(m_version);
-        if (isJet3()) mdbPages::put(page, 0x3c, quint16(1252));
+        if (isJet3()) mdbPages::put(page, 0x3c, quint16(m_manner.codePage));
+        mdbPages::put(page, 0x3e, m_manner.pageKey);
+        const double creation = 35591.6; // a day, which is the mask of a password
+        if (!isJet3()) mdbPages::put(page, 0x72, creation);
+        for (qsizetype i = 0; !isJet3() && i < 40; i += 4)
+            mdbPages::put(page, 0x42 + i, quint32(creation));
+        const QByteArray password = text(m_manner.password);
+        for (qsizetype i = 0; i < password.size(); ++i)
+            page[0x42 + i] = static_cast<char>(page[0x42 + i] ^ password[i]);
         mdbPages::cipher(page, 0x18, isJet3() ? 126 : 128, mdbPages::HeaderKey);
         return page;
     }
@@ -98,7 +127,22 @@ private:
         const auto map = [](quint32 first, char bits) {
             return QByteArray(1, '\0') + word(first) + QByteArray(1, bits) + QByteArray(63, '\0');
         };
-        return pageOfRows(0, {map(CatalogPage + 1, 1), map(TablePage + 1, 1), map(0, 0)});
+        QByteArray own = map(TablePage + 1, 1);
+        if (m_manner.rowsPage != 0) {
+            own.fill('\0');
+            own[0] = 1;
+            mdbPages::put(own, 1 + 4 * (m_manner.rowsPage / pagesOfMapPage()), quint32(TablePage + 1));
+        }
+        return pageOfRows(0, {map(CatalogPage + 1, 1), own, map(0, 0)});
+    }
+
+    qsizetype pagesOfMapPage() const { return (pageSize() - 4) * 8; }
+
+    QByteArray mapPage() const {
+        QByteArray page = QByteArray("\5\1\0\0", 4).leftJustified(pageSize(), '\0');
+        const qsizetype bit = m_manner.rowsPage % pagesOfMapPage();
+        page[4 + bit / 8] = static_cast<char>(1 << bit % 8);
+        return page;
     }
 
     QByteArray pageOfRows(int owner, const QVector<QByteArray> &rows) const {
@@ -173,14 +217,18 @@ private:
         quint16 offset = 0;
         QByteArray entries;
         QByteArray names;
+        qsizetype present = 0;
         for (qsizetype i = 0; i < columns.size(); ++i) {
             const Column &column = columns[i];
-            entries += entry(column, quint16(i), isFixed(column) ? offset : variable);
+            const quint16 place = isFixed(column) ? offset : variable;
             if (isFixed(column))
                 offset = static_cast<quint16>(offset + sizeOf(column));
             else
                 ++variable;
-            const QByteArray name = isJet3() ? column.name : units(column.name);
+            if (column.deleted) continue;
+            ++present;
+            entries += entry(column, quint16(i), place);
+            const QByteArray name = text(column.name);
             names += count(name.size()) + name;
         }
         const qsizetype at = isJet3() ? 12 : 16;     // of the number of rows
@@ -193,7 +241,7 @@ private:
         page[counts - 1] = 'N';
         mdbPages::put(page, counts, quint16(columns.size()));
         mdbPages::put(page, counts + 2, variable);
-        mdbPages::put(page, counts + 4, quint16(columns.size()));
+        mdbPages::put(page, counts + 4, quint16(present));
         mdbPages::put(page, maps, quint32(MapPage << 8 | map));
         mdbPages::put(page, maps + 4, quint32(MapPage << 8 | 2));
         page += entries + names;
@@ -279,8 +327,19 @@ private:
         return QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
     }
 
-    static QByteArray codePage(const QString &text) {
-        return QString(text).replace(QChar(0x20ac), QChar(0x80)).toLatin1(); // the euro sign in Windows-1252
+    QByteArray codePage(QString text) const {
+        const iconv_t converter =
+            iconv_open(qPrintable("CP" + QString::number(m_manner.codePage)), "UTF-16LE");
+        if (converter == iconv_t(-1)) return text.toLatin1(); // a code page that nobody knows
+        QByteArray bytes(text.size(), '\0');
+        char *from = reinterpret_cast<char *>(text.data());
+        char *to = bytes.data();
+        std::size_t left = std::size_t(text.size()) * 2;
+        std::size_t room = std::size_t(bytes.size());
+        const std::size_t failed = iconv(converter, &from, &left, &to, &room);
+        iconv_close(converter);
+        if (failed != 0) throw std::runtime_error("not of the code page");
+        return bytes;
     }
 
     QByteArray rowBytes(const Columns &columns, const QVector<QVariant> &row) const {
@@ -332,4 +391,5 @@ private:
     }
 
     Version m_version;
+    Manner m_manner;
 };

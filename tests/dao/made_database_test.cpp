@@ -39,7 +39,7 @@ private:
 TEST_P(MadeDatabase, EqualsTheAccessFileCellByCell) {
     ASSERT_TRUE(SqliteSource::isSqliteFile(path())) << output;
     SqliteSource made(path());
-    FileSource access(samplePath(GetParam().file), helperPath());
+    SampleSource access(samplePath(GetParam().file));
     QStringList names = access.tableNames();
     QStringList madeNames = made.tableNames();
     names.sort();
@@ -53,7 +53,7 @@ TEST_P(MadeDatabase, EqualsTheAccessFileCellByCell) {
 
 TEST_P(MadeDatabase, OpensInTheEngineUnderTheNameOfTheAccessFile) {
     const auto database = DBEngine::instance().OpenDatabase(path(), true, true, ";Pwd=any");
-    FileSource access(samplePath(GetParam().file), helperPath());
+    SampleSource access(samplePath(GetParam().file));
     for (const QString &table : access.tableNames()) {
         const auto rows = database->OpenRecordset("select * from " + table);
         if (!rows->Eof()) rows->MoveLast();

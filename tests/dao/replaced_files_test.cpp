@@ -34,7 +34,7 @@ struct Kind {
 
 const Kind kinds[] = {{putAccess,
                        [](const QString &path) -> std::unique_ptr<TableSource> {
-                           return std::make_unique<FileSource>(path, helperPath());
+                           return std::make_unique<SampleSource>(path);
                        }},
                       {putSqlite, [](const QString &path) -> std::unique_ptr<TableSource> {
                            return std::make_unique<SqliteSource>(path);
@@ -75,7 +75,7 @@ TEST(ReplacedFiles, AFileThatIsWrittenOverGivesNoMoreRows) {
 TEST(ReplacedFiles, AHelperThatIsStartedAgainReadsTheSameFileOn) {
     const QTemporaryDir folder;
     const QString path = putAccess(folder, "open");
-    FileSource source(path, helperPath());
+    SampleSource source(path);
     const std::vector<std::string> before = rowTexts(allRows(source, "Units"));
     ASSERT_EQ(::rename(qPrintable(writeFile(folder, "new", "something else")), qPrintable(path)), 0);
     const pid_t helper = helperProcess();

@@ -22,6 +22,16 @@ inline QString helperPath() {
     return QStringLiteral(BINARY_FOLDER "/table_reader");
 }
 
+inline const QString SamplePassword = QStringLiteral("rolvek");
+
+/// Knows the password of the samples; one without takes any.
+class SampleSource : public FileSource {
+public:
+    explicit SampleSource(const QString &path, const QString &helper = helperPath(),
+                          const WaitsOn &waitsOn = {}, int patience = Patience)
+        : FileSource(path, helper, waitsOn, patience, SamplePassword) {}
+};
+
 /// The process of the one helper that runs, -1 without one. One that has ended and was not waited for is
 /// none.
 inline pid_t helperProcess() {

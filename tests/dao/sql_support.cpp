@@ -2,9 +2,9 @@
 
 #include <QDateTime>
 
-#include "platform/dao/file_source.h"
 #include "platform/runtime/conversions.h"
 #include "platform/runtime/runtime_error.h"
+#include "tests/dao/source_support.h"
 
 namespace {
 
@@ -94,9 +94,7 @@ Database databaseOver(std::unique_ptr<TableSource> source, qint64 wholeTableLimi
 }
 
 Database sampleDatabase(const QString &file, qint64 wholeTableLimit) {
-    return databaseOver(
-        std::make_unique<FileSource>(QString(SOURCE_FOLDER "/sample/") + file, BINARY_FOLDER "/table_reader"),
-        wholeTableLimit);
+    return databaseOver(std::make_unique<SampleSource>(samplePath(file)), wholeTableLimit);
 }
 
 std::string shownCell(const QVariant &cell) {

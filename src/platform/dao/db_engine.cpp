@@ -7,7 +7,6 @@
 
 #include <unistd.h>
 
-#include "platform/dao/access_header.h"
 #include "platform/dao/database.h"
 #include "platform/dao/file_lock.h"
 #include "platform/dao/file_source.h"
@@ -78,12 +77,8 @@ std::shared_ptr<Database> DBEngine::open(const QString &path, std::optional<File
 }
 
 std::unique_ptr<TableSource> DBEngine::openSource(const QString &path, const QString &password) const {
-    if (const std::optional<AccessHeader> header = AccessHeader::read(path)) {
-        if (!header->accepts(password)) throw RuntimeError(3031);
-        const auto waitsOn = [this](const QString &silent) { return m_waitsOn && m_waitsOn(silent); };
-        return std::make_unique<FileSource>(path, FileSource::helperProgram(), waitsOn, FileSource::Patience,
-                                            password);
-    }
     if (SqliteSource::isSqliteFile(path)) return std::make_unique<SqliteSource>(path);
-    throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
+    const auto waitsOn = [this](const QString &silent) { return m_waitsOn && m_waitsOn(silent); };
+    return std::make_unique<FileSource>(path, FileSource::helperProgram(), waitsOn, FileSource::Patience,
+                                        password);
 }
