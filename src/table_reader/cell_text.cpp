@@ -16,21 +16,26 @@ void decodeUnits(const std::uint8_t *stored, std::size_t size, std::u16string &t
 /// A compressed text holds its units as their low bytes; a zero byte switches to whole units and back.
 void decodeCompressed(const std::uint8_t *stored, std::size_t size, std::u16string &text) {
     text.resize(size); // never more units than bytes
-    std::size_t units = 0;
+    char16_t *const units = text.data();
+    std::size_t i = 0;
+    for (; i < size && stored[i] != 0; ++i)
+        units[i] = stored[i];
+    if (i == size) return; // as most texts do
+    std::size_t done = i;
     bool lowBytes = true;
-    for (std::size_t i = 0; i < size;) {
+    while (i < size) {
         if (stored[i] == 0) {
             lowBytes = !lowBytes;
             ++i;
         } else if (lowBytes) {
-            text[units++] = static_cast<char16_t>(stored[i++]);
+            units[done++] = stored[i++];
         } else {
             if (i + 2 > size) throw Damaged("half a character");
-            text[units++] = static_cast<char16_t>(bytes::u16(stored + i));
+            units[done++] = static_cast<char16_t>(bytes::u16(stored + i));
             i += 2;
         }
     }
-    text.resize(units);
+    text.resize(done);
 }
 
 void decodeBytes(const std::uint8_t *stored, std::size_t size, const char16_t *upperHalf,

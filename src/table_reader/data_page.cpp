@@ -3,12 +3,6 @@
 #include "table_reader/bytes.h"
 #include "table_reader/damaged.h"
 
-namespace {
-constexpr std::uint16_t HiddenFlag = 0x8000;
-constexpr std::uint16_t MovedFlag = 0x4000;
-constexpr std::uint16_t OffsetBits = 0x1fff;
-} // namespace
-
 DataPage::DataPage(const std::uint8_t *data, std::size_t size, bool jet3)
     : m_bytes(data)
     , m_size(size)
@@ -20,17 +14,4 @@ DataPage::DataPage(const std::uint8_t *data, std::size_t size, bool jet3)
 
 std::uint32_t DataPage::owner() const {
     return bytes::u32(m_bytes + 4);
-}
-
-Slot DataPage::slot(std::size_t index) const {
-    if (index >= m_slots) throw Damaged("row that is not in its page");
-    // Rows are laid from the end of the page towards its front, so that each ends where the one before
-    // begins.
-    const std::uint16_t stored = bytes::u16(m_bytes + m_slotTable + 2 * index);
-    const std::size_t begin = stored & OffsetBits;
-    const std::size_t end =
-        index == 0 ? m_size : bytes::u16(m_bytes + m_slotTable + 2 * (index - 1)) & OffsetBits;
-    if (begin > end || end > m_size || begin < m_slotTable + 2 * m_slots)
-        throw Damaged("row outside its page");
-    return {m_bytes + begin, end - begin, (stored & HiddenFlag) != 0, (stored & MovedFlag) != 0};
 }

@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "table_reader/bytes.h"
+#include "table_reader/damaged.h"
+
 /// What a slot of the page points at.
 struct Slot {
     const std::uint8_t *data = nullptr;
@@ -33,8 +36,27 @@ public:
     Slot slot(std::size_t index) const;
 
 private:
+    static constexpr std::uint16_t HiddenFlag = 0x8000;
+    static constexpr std::uint16_t MovedFlag = 0x4000;
+    static constexpr std::uint16_t OffsetBits = 0x1fff;
+
     const std::uint8_t *m_bytes;
     std::size_t m_size;
     std::size_t m_slotTable;
     std::size_t m_slots = 0;
 };
+
+// Here, because a search asks for each of millions of rows.
+
+inline Slot DataPage::slot(std::size_t index) const {
+    if (index >= m_slots) throw Damaged("row that is not in its page");
+    // Rows are laid from the end of the page towards its front, so that each ends where the one before
+    // begins.
+    const std::uint16_t stored = bytes::u16(m_bytes + m_slotTable + 2 * index);
+    const std::size_t begin = stored & OffsetBits;
+    const std::size_t end =
+        index == 0 ? m_size : bytes::u16(m_bytes + m_slotTable + 2 * (index - 1)) & OffsetBits;
+    if (begin > end || end > m_size || begin < m_slotTable + 2 * m_slots)
+        throw Damaged("row outside its page");
+    return {m_bytes + begin, end - begin, (stored & HiddenFlag) != 0, (stored & MovedFlag) != 0};
+}

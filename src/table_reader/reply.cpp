@@ -25,21 +25,24 @@ void writeAll(int file, const void *data, std::size_t size) {
 
 } // namespace
 
+void Reply::grow(std::size_t size) {
+    m_content.resize(std::max(m_content.size() * 2, m_size + size));
+}
+
 void Reply::name(std::string_view utf8) {
     number(static_cast<std::uint16_t>(utf8.size()));
-    m_content.insert(m_content.end(), utf8.begin(), utf8.end());
+    std::copy(utf8.begin(), utf8.end(), room(utf8.size()));
 }
 
 void Reply::text(const std::u16string &text) {
     number(static_cast<std::uint32_t>(text.size()));
-    const auto *at = reinterpret_cast<const std::uint8_t *>(text.data());
-    m_content.insert(m_content.end(), at, at + text.size() * sizeof(char16_t));
+    const std::size_t size = text.size() * sizeof(char16_t);
+    std::memcpy(room(size), text.data(), size);
 }
 
 std::size_t Reply::zeros(std::size_t size) {
-    const std::size_t place = m_content.size();
-    m_content.resize(place + size);
-    return place;
+    std::fill_n(room(size), size, std::uint8_t(0));
+    return m_size - size;
 }
 
 void Reply::setBit(std::size_t place, std::size_t bit) {
@@ -48,34 +51,34 @@ void Reply::setBit(std::size_t place, std::size_t bit) {
 
 void Reply::send(TableProtocol::Reply kind) {
     std::uint8_t head[5];
-    const auto length = static_cast<std::uint32_t>(m_content.size() + 1);
+    const auto length = static_cast<std::uint32_t>(m_size + 1);
     std::copy_n(reinterpret_cast<const std::uint8_t *>(&length), 4, head);
     head[4] = static_cast<std::uint8_t>(kind);
     writeAll(m_file, head, sizeof head);
-    writeAll(m_file, m_content.data(), m_content.size());
-    m_content.clear();
+    writeAll(m_file, m_content.data(), m_size);
+    m_size = 0;
     m_sent = Clock::now();
     limits::allowProcessorTime();
 }
 
 void Reply::endRow() {
-    if (m_content.size() >= TableProtocol::LongestFrame) throw Damaged("row of absurd size");
-    if (m_content.size() >= GoodFrame) send(TableProtocol::Reply::Rows);
+    if (m_size >= TableProtocol::LongestFrame) throw Damaged("row of absurd size");
+    if (m_size >= GoodFrame) send(TableProtocol::Reply::Rows);
 }
 
 void Reply::endRows() {
-    if (!m_content.empty()) send(TableProtocol::Reply::Rows);
+    if (m_size != 0) send(TableProtocol::Reply::Rows);
     send(TableProtocol::Reply::End);
 }
 
 void Reply::stillBusy() {
     if (Clock::now() - m_sent < SignOfLife) return;
-    send(m_content.empty() ? TableProtocol::Reply::Busy : TableProtocol::Reply::Rows);
+    send(m_size == 0 ? TableProtocol::Reply::Busy : TableProtocol::Reply::Rows);
 }
 
 void Reply::fail(TableProtocol::FailureKind kind, std::string_view reason) {
-    m_content.clear();
+    m_size = 0;
     number(kind);
-    m_content.insert(m_content.end(), reason.begin(), reason.end());
+    std::copy(reason.begin(), reason.end(), room(reason.size()));
     send(TableProtocol::Reply::Failure);
 }

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,8 +18,7 @@ public:
 
     template <typename Number>
     void number(Number value) {
-        const auto *at = reinterpret_cast<const std::uint8_t *>(&value);
-        m_content.insert(m_content.end(), at, at + sizeof value);
+        std::memcpy(room(sizeof value), &value, sizeof value);
     }
     void name(std::string_view utf8);
     void text(const std::u16string &text);
@@ -40,7 +40,16 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    /// Where the next `size` bytes go. Valid until the next call.
+    std::uint8_t *room(std::size_t size) {
+        if (m_content.size() - m_size < size) grow(size);
+        m_size += size;
+        return m_content.data() + (m_size - size);
+    }
+    void grow(std::size_t size);
+
     int m_file;
-    std::vector<std::uint8_t> m_content;
+    std::vector<std::uint8_t> m_content; // of which the first m_size bytes have been collected
+    std::size_t m_size = 0;
     Clock::time_point m_sent = Clock::now();
 };

@@ -53,8 +53,11 @@ RowWriter::RowWriter(const AccessFile &file, const Table &table)
 
 void RowWriter::write(const Row &row, Reply &reply) {
     const std::size_t nulls = reply.zeros((m_table.columns.size() + 7) / 8);
-    for (std::size_t i = 0; i < m_table.columns.size(); ++i)
-        if (!writeCell(m_table.columns[i], row, reply)) reply.setBit(nulls, i);
+    std::size_t bit = 0;
+    for (const Column &column : m_table.columns) { // their number is not asked for again after each cell
+        if (!writeCell(column, row, reply)) reply.setBit(nulls, bit);
+        ++bit;
+    }
     reply.endRow();
 }
 
