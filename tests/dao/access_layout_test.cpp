@@ -320,3 +320,82 @@ TEST(AccessLayout, ColumnOfATypeThatIsNotReadHarmsOnlyThoseWhoAskForIt) {
         }
     }
 }
+
+TEST(AccessLayout, TextsOfAnUnknownCodePageAreAnErrorAndNoGuess) {
+    const QTemporaryDir folder;
+    const auto errorWith = [&](int codePage, const QString &text) {
+        const QByteArray bytes = JetFile(JetFile::Version::Access97, {codePage, {}, 0, 0})
+                                     .make("T", {{"name", JetFile::Type::Text}}, {{text}});
+        SampleSource source(writeFile(folder, "texts.mdb", bytes));
+        return errorOf([&] { EXPECT_EQ(allRows(source, "T")[0][0], text); });
+    };
+    EXPECT_EQ(errorWith(1252, QString::fromUtf8("Stähle")), 0);
+    EXPECT_EQ(errorWith(10000, "Steel"), 0);
+    EXPECT_EQ(errorWith(10000, QString::fromUtf8("Stähle")), 3343);
+}
+
+TEST(AccessLayout, DefinitionThatLeadsAstrayIsAnError) {
+    struct Damage {
+        const char *name;
+        qsizetype at;
+        QByteArray bytes;
+    };
+    const auto word = [](quint32 value) {
+        QByteArray bytes(4, '\0');
+        mdbPages::put(bytes, 0, value);
+        return bytes;
+    };
+    constexpr quint32 RowsPage = 20; // behind all pages of the definition
+    JetFile::Columns columns;
+    for (int i = 0; i < 200; ++i)
+        columns.append({"a name of some length " + QByteArray::number(i), JetFile::Type::Boolean});
+    const Rows rows = {QVector<QVariant>(200, true)};
+    const QTemporaryDir folder;
+    const auto errorOfFile = [&](const QByteArray &bytes) {
+        const QString path = writeFile(folder, "astray.mdb", bytes);
+        return errorOf([&] {
+            SampleSource source(path);
+            EXPECT_EQ(allRows(source, "T").size(), 1);
+        });
+    };
+    for (const JetFile::Version version : {JetFile::Version::Access97, JetFile::Version::Access2000}) {
+        const bool old = version == JetFile::Version::Access97;
+        const qsizetype page = old ? 2048 : 4096;
+        const qsizetype table = 4 * page;
+        const qsizetype further = 6 * page;
+        const qsizetype indexes = table + (old ? 31 : 51);
+        const qsizetype count = table + (old ? 25 : 45);
+        const qsizetype map = table + (old ? 35 : 55);
+        const QByteArray good = JetFile(version, {1252, {}, 0, int(RowsPage)}).make("T", columns, rows);
+        ASSERT_EQ(errorOfFile(good), 0);
+        const qsizetype name = good.indexOf(old ? QByteArray("a name") : QByteArray("a\0 \0n", 5));
+        const qsizetype mapRow = page + (mdbPages::u16(good, page + (old ? 10 : 14) + 2) & 0x1fff);
+        ASSERT_EQ(good.mid(mapRow, 5), QByteArray(1, '\1') + word(5));
+        const Damage damages[] = {
+            {"ends too early", table + 4, word(0)},
+            {"goes on beyond the file", table + 4, word(1000)},
+            {"goes on in rows", table + 4, word(RowsPage)},
+            {"is a circle", further + 4, word(6)},
+            {"so many indexes that it goes around for long", indexes, word(80000)},
+            {"more indexes than there are bytes", indexes, word(0xffffffff)},
+            {"no columns", count, QByteArray(2, '\0')},
+            {"more columns than there can be", count, QByteArray(2, '\xff')},
+            {"a column without a name", name - (old ? 1 : 2), QByteArray(old ? 1 : 2, '\0')},
+            {"a name that never ends", name - (old ? 1 : 2), QByteArray(old ? 1 : 2, '\xff')},
+            {"a name with an end in it", name, QByteArray(2, '\0')},
+            {"a map beyond the file", map, word(1000 << 8)},
+            {"a map among no rows", map, word(4 << 8)},
+            {"a map that is no row", map, word(1 << 8 | 200)},
+            {"a map of an unknown kind", mapRow, "\7"},
+            {"a map of pages that are none", mapRow + 1, word(RowsPage)},
+            {"a map of pages beyond the file", mapRow + 1, word(1000)},
+            {"pages beyond the file", 5 * page + 100, "\1"},
+        };
+        for (const Damage &damage : damages) {
+            QByteArray bad = good;
+            bad.replace(damage.at, damage.bytes.size(), damage.bytes);
+            if (QByteArray(damage.name).startsWith("so many")) mdbPages::put(bad, further + 4, quint32(6));
+            EXPECT_EQ(errorOfFile(bad), 3343) << damage.name << " in " << int(version);
+        }
+    }
+}
