@@ -234,7 +234,7 @@ TEST(FileSource, HelperHasNobodyToComplainTo) {
     const QString helper = writeScript(
         folder, "[ \"$(readlink /proc/$$/fd/2)\" = /dev/null ] || exit 1\nexec " + helperPath().toUtf8());
     EXPECT_EQ(SampleSource(samplePath("Velmar_PED.mdb"), helper).tableNames().size(), 27)
-        << "what libmdb says of a damaged file would stand in the user's terminal";
+        << "what the helper says of a damaged file would stand in the user's terminal";
 }
 
 TEST(FileSource, HelperLeavesARequestThatIsTooLong) {

@@ -10,8 +10,8 @@
 #include "platform/dao/table_protocol.h"
 #include "platform/dao/table_source.h"
 
-/// The file is read by a helper program in a process of its own: a damaged one can crash the library that
-/// knows the format, or make it spin. A helper that has gone between two requests is started again; one that
+/// The file is read by a helper program in a process of its own, so that whatever is in it can bring down or
+/// hold up no other. A helper that has gone between two requests is started again; one that
 /// goes, spins or talks nonsense while it answers is a damaged file, 3343. One that waits for the file itself
 /// is waited for as long as somebody wants it; then comes 3043. A sink must not call back into its source.
 class FileSource : public TableSource {
