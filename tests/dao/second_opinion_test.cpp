@@ -22,7 +22,7 @@ QString outputOf(const QString &program, const QStringList &arguments) {
 }
 
 /// The name of each column and its type, as mdb-schema writes them.
-QString schemaOf(const FieldDefinitions &fields) {
+QString schemaOf(const FieldDefinitions &definitions) {
     static const QHash<FieldType, QString> types = {{FieldType::Boolean, "Boolean NOT NULL"},
                                                     {FieldType::Byte, "Byte"},
                                                     {FieldType::Integer, "Integer"},
@@ -34,7 +34,7 @@ QString schemaOf(const FieldDefinitions &fields) {
                                                     {FieldType::Text, "Text (%1)"},
                                                     {FieldType::Memo, "Memo/Hyperlink (255)"}};
     QStringList columns;
-    for (const FieldDefinition &field : fields) {
+    for (const FieldDefinition &field : definitions) {
         const QString type = types.value(field.type);
         columns << "\t[" + field.name + "]\t\t\t" +
                        (field.type == FieldType::Text ? type.arg(field.size) : type);
@@ -66,9 +66,10 @@ QString exported(const QVariant &cell, FieldType type) {
 /// The table's definition and its rows are those that mdbtools reads.
 void expectAgreement(FileSource &source, const QString &path, const QString &table) {
     SCOPED_TRACE(path.toStdString() + ": " + table.toStdString());
-    const FieldDefinitions fields = source.fields(table);
+    const FieldDefinitions definitions = source.fields(table);
     const QString schema = outputOf("mdb-schema", {"-T", table, path});
-    EXPECT_EQ(schema.section("(\n", -1).section("\n);", 0, 0).toStdString(), schemaOf(fields).toStdString());
+    EXPECT_EQ(schema.section("(\n", -1).section("\n);", 0, 0).toStdString(),
+              schemaOf(definitions).toStdString());
 
     const QString date = "%Y-%m-%d %H:%M:%S";
     const auto lines =
@@ -76,12 +77,12 @@ void expectAgreement(FileSource &source, const QString &path, const QString &tab
     const Rows rows = allRows(source, table);
     ASSERT_EQ(lines.size() - 1, rows.size());
     for (qsizetype i = 0; i < rows.size(); ++i) {
-        ASSERT_EQ(lines[i + 1].size(), fields.size());
-        for (qsizetype column = 0; column < fields.size(); ++column) {
+        ASSERT_EQ(lines[i + 1].size(), definitions.size());
+        for (qsizetype column = 0; column < definitions.size(); ++column) {
             const QVariant &cell = lines[i + 1][column];
-            ASSERT_EQ(exported(rows[i][column], fields[column].type).toStdString(),
+            ASSERT_EQ(exported(rows[i][column], definitions[column].type).toStdString(),
                       (cell.isValid() ? cell.toString() : Null).toStdString())
-                << fields[column].name.toStdString() << " in row " << i;
+                << definitions[column].name.toStdString() << " in row " << i;
         }
     }
 }
