@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include "table_reader/access_file.h"
+#include "table_reader/cage.h"
 #include "table_reader/damaged.h"
 #include "table_reader/limits.h"
 #include "table_reader/look_ahead.h"
@@ -18,8 +19,9 @@ using TableProtocol::FailureKind;
 
 namespace {
 
-void sendCatalog(const AccessFile &file, Reply &reply) {
+void sendCatalog(const AccessFile &file, bool isCaged, Reply &reply) {
     file.checkUnchanged();
+    reply.number(static_cast<std::uint8_t>(isCaged));
     reply.number(file.identity());
     reply.number(static_cast<std::uint16_t>(file.tables().size()));
     for (const Table &table : file.tables()) {
@@ -66,12 +68,13 @@ void answerRequests(const AccessFile &file, Reply &reply) {
 
 int main() {
     limits::set();
+    const bool isCaged = cage::shut(TableProtocol::FileDescriptor);
     Reply reply(STDOUT_FILENO);
     const std::optional<std::u16string> password = readOpenRequest(STDIN_FILENO);
     if (!password) return EXIT_FAILURE;
     try {
         const AccessFile file(TableProtocol::FileDescriptor, *password);
-        sendCatalog(file, reply);
+        sendCatalog(file, isCaged, reply);
         answerRequests(file, reply);
     } catch (const WrongPassword &) {
         reply.fail(FailureKind::WrongPassword, {});

@@ -259,7 +259,7 @@ TEST(FileSource, HelperThatTalksNonsenseIsADamagedFile) {
         "printf '\\003\\0\\0\\0\\001\\377\\377'",                 // 65535 tables, none there
         "printf '\\003\\0\\0\\0\\002\\0\\0'",                     // rows nobody asked for
         "printf '\\011\\0\\0\\0\\001\\001\\0\\001\\0T\\0\\0\\0'", // a table's rows cut off
-        "printf '\\064\\0\\0\\0\\001'; head -c 40 /dev/zero;"
+        "printf '\\065\\0\\0\\0\\001'; head -c 41 /dev/zero;"
         "printf '\\001\\0\\001\\0T\\0\\0\\0\\0\\0\\0'; exec sleep 30", // a table without columns
     };
     const auto unasked = [](const QString &) {

@@ -70,6 +70,7 @@ private:
     void read(qsizetype table, const QVector<BoundCondition> &conditions, TableColumns &rows,
               const RowsArrived &arrived = {});
     static Catalog readCatalog(FrameReader &frame);
+    static void tellOfMissingCage();
     Frame receiveFrame();
     bool onSilence(bool isBusy) const;
     [[noreturn]] void raiseFailure(FrameReader &frame) const;

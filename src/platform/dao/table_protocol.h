@@ -29,7 +29,7 @@ enum class Request : std::uint8_t {
 };
 
 enum class Reply : std::uint8_t {
-    /// The answer to Open. The file's FileIdentity; number of tables (16 bits),
+    /// The answer to Open. Whether the helper has shut itself in (8 bits); the file's FileIdentity; number of tables (16 bits),
     /// and for each one its name, its rows (32 bits), the number of its columns (16 bits, one at least), and
     /// for each of these its name, a CellType and its size in characters (16 bits). Then the number of the
     /// other things that could be taken for tables (16 bits), and for each one its name and an OtherKind.
