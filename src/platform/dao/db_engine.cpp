@@ -11,7 +11,6 @@
 #include "platform/dao/database.h"
 #include "platform/dao/file_lock.h"
 #include "platform/dao/file_source.h"
-#include "platform/dao/sqlite_source.h"
 #include "platform/dao/table_store.h"
 #include "platform/runtime/runtime_error.h"
 
@@ -78,12 +77,9 @@ std::shared_ptr<Database> DBEngine::open(const QString &path, std::optional<File
 }
 
 std::unique_ptr<TableSource> DBEngine::openSource(const QString &path, const QString &password) const {
-    if (const std::optional<AccessHeader> header = AccessHeader::read(path)) {
-        if (!header->accepts(password)) throw RuntimeError(3031);
-        const auto waitsOn = [this](const QString &silent) { return m_waitsOn && m_waitsOn(silent); };
-        return std::make_unique<FileSource>(path, FileSource::helperProgram(), waitsOn, FileSource::Patience,
-                                            password);
-    }
-    if (SqliteSource::isSqliteFile(path)) return std::make_unique<SqliteSource>(path);
-    throw RuntimeError(3343, QString("Unrecognized database format '%1'.").arg(path));
+    const std::optional<AccessHeader> header = AccessHeader::read(path);
+    if (header && !header->accepts(password)) throw RuntimeError(3031);
+    const auto waitsOn = [this](const QString &silent) { return m_waitsOn && m_waitsOn(silent); };
+    return std::make_unique<FileSource>(path, FileSource::helperProgram(), waitsOn, FileSource::Patience,
+                                        password);
 }
