@@ -108,7 +108,7 @@ TEST(SqliteSearch, ATextOfManyMegabytesIsRefusedAndItsRowIsNot) {
     QElapsedTimer clock;
     clock.start();
     TableColumns read(source.fields("T"));
-    source.readAll("T", read);
+    source.readAll("T", read, {});
     EXPECT_LT(clock.elapsed(), FileSource::Patience);
     EXPECT_TRUE(read.unreadable(1).endsWith("a value in T.note is too long."))
         << qPrintable(read.unreadable(1));
