@@ -2,13 +2,10 @@
 
 #include <poll.h>
 
-#include "table_reader/damaged.h"
 #include "table_reader/limits.h"
 
 namespace {
 
-// Half a millisecond of work or two: nobody who asks meanwhile notices it.
-constexpr std::size_t PagesAtOnce = 64;
 constexpr int PauseInMilliseconds = 1;
 constexpr std::size_t MostTasks = 1000;
 
@@ -30,12 +27,5 @@ void LookAhead::workUntilInput(int input) {
 
 void LookAhead::work() {
     limits::allowProcessorTime();
-    const Task &task = m_tasks.front();
-    bool isMoreLeft = false;
-    try {
-        isMoreLeft = m_searches.of(task.table).lookAhead(task.columns, PagesAtOnce);
-    } catch (const Damaged &) {
-        // Whoever asks for the table is told.
-    }
-    if (!isMoreLeft) m_tasks.pop_front();
+    if (!m_piece(m_tasks.front().table, m_tasks.front().columns)) m_tasks.pop_front();
 }

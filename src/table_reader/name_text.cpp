@@ -5,11 +5,11 @@
 #include "table_reader/damaged.h"
 
 namespace {
-constexpr std::size_t LongestName = 255; // four times what Access allows
+constexpr std::size_t LongestStoredName = 255; // four times what Access allows
 }
 
 std::string nameOf(const std::u16string &text) {
-    if (text.empty() || text.size() > LongestName) throw Damaged("name of absurd length");
+    if (text.empty() || text.size() > LongestStoredName) throw Damaged("name of absurd length");
     std::string name;
     const auto add = [&](unsigned bits) { name += static_cast<char>(bits); };
     for (std::size_t i = 0; i < text.size(); ++i) {

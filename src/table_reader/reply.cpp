@@ -34,10 +34,17 @@ void Reply::name(std::string_view utf8) {
     std::copy(utf8.begin(), utf8.end(), room(utf8.size()));
 }
 
-void Reply::text(const std::u16string &text) {
+void Reply::text(std::u16string_view text) {
     number(static_cast<std::uint32_t>(text.size()));
     const std::size_t size = text.size() * sizeof(char16_t);
     std::memcpy(room(size), text.data(), size);
+}
+
+void Reply::asciiText(std::string_view text) {
+    number(static_cast<std::uint32_t>(text.size()));
+    const std::size_t place = zeros(text.size() * sizeof(char16_t));
+    for (std::size_t i = 0; i < text.size(); ++i)
+        m_content[place + i * sizeof(char16_t)] = static_cast<std::uint8_t>(text[i]);
 }
 
 std::size_t Reply::zeros(std::size_t size) {
@@ -61,19 +68,24 @@ void Reply::send(TableProtocol::Reply kind) {
     limits::allowProcessorTime();
 }
 
+void Reply::setRowsKind(TableProtocol::Reply kind) {
+    if (kind != m_rowsKind && m_size != 0) send(m_rowsKind);
+    m_rowsKind = kind;
+}
+
 void Reply::endRow() {
     if (m_size >= TableProtocol::LongestFrame) throw Damaged("row of absurd size");
-    if (m_size >= GoodFrame) send(TableProtocol::Reply::Rows);
+    if (m_size >= GoodFrame) send(m_rowsKind);
 }
 
 void Reply::endRows() {
-    if (m_size != 0) send(TableProtocol::Reply::Rows);
+    if (m_size != 0) send(m_rowsKind);
     send(TableProtocol::Reply::End);
 }
 
 void Reply::stillBusy() {
-    if (Clock::now() - m_sent < SignOfLife) return;
-    send(m_size == 0 ? TableProtocol::Reply::Busy : TableProtocol::Reply::Rows);
+    if (m_silent || Clock::now() - m_sent < SignOfLife) return;
+    send(m_size == 0 ? TableProtocol::Reply::Busy : m_rowsKind);
 }
 
 void Reply::fail(TableProtocol::FailureKind kind, std::string_view reason) {

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <cstdint>
 #include <cstring>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,10 +20,18 @@ public:
         std::memcpy(room(sizeof value), &value, sizeof value);
     }
     void name(std::string_view utf8);
-    void text(const std::u16string &text);
+    void text(std::u16string_view text);
+    /// A text of nothing but ASCII.
+    void asciiText(std::string_view text);
     /// Room for `size` bytes of zero; gives their place for setBit().
     std::size_t zeros(std::size_t size);
     void setBit(std::size_t place, std::size_t bit);
+
+    /// Bytes that were collected and not yet sent.
+    std::size_t size() const { return m_content.size(); }
+    /// The kind of the rows that are collected, and from now on of those that follow: the others go first.
+    TableProtocol::Reply rowsKind() const { return m_rowsKind; }
+    void setRowsKind(TableProtocol::Reply kind);
 
     /// Sends what was collected as one frame of this kind.
     void send(TableProtocol::Reply kind);
@@ -34,6 +41,8 @@ public:
     void endRows();
     /// To be called now and then on a long search, so that the other end sees that it goes on.
     void stillBusy();
+    /// While nobody waits for an answer nobody is told either.
+    void setSilent(bool silent) { m_silent = silent; }
     /// Drops what was collected.
     void fail(TableProtocol::FailureKind kind, std::string_view reason);
 
@@ -51,5 +60,7 @@ private:
     int m_file;
     std::vector<std::uint8_t> m_content; // of which the first m_size bytes have been collected
     std::size_t m_size = 0;
+    TableProtocol::Reply m_rowsKind = TableProtocol::Reply::Rows;
+    bool m_silent = false;
     Clock::time_point m_sent = Clock::now();
 };

@@ -1,6 +1,5 @@
 #include "table_reader/request.h"
 
-#include <algorithm>
 #include <cstring>
 
 #include <unistd.h>
@@ -66,22 +65,6 @@ private:
     bool m_good = true;
 };
 
-bool isInteger(const Column &column) {
-    return column.type == CellType::Byte || column.type == CellType::Integer || column.type == CellType::Long;
-}
-
-bool fits(const Condition &condition, const Column &column) {
-    return condition.isText ? column.type == CellType::Text : isInteger(column);
-}
-
-/// Whether they can be searched by.
-bool areKeys(const std::vector<std::size_t> &columns, const Table &table) {
-    return !columns.empty() && std::all_of(columns.begin(), columns.end(), [&](std::size_t column) {
-        return column < table.columns.size() &&
-               (isInteger(table.columns[column]) || table.columns[column].type == CellType::Text);
-    });
-}
-
 } // namespace
 
 std::optional<std::u16string> readOpenRequest(int input) {
@@ -93,24 +76,21 @@ std::optional<std::u16string> readOpenRequest(int input) {
     return fields.complete() ? std::optional(std::move(password)) : std::nullopt;
 }
 
-std::optional<Request> readRequest(int input, const AccessFile &file) {
+std::optional<Request> readRequest(int input) {
     const std::optional<std::vector<char>> content = readFrame(input);
     if (!content) return {};
     Fields fields(*content);
     Request request;
     request.kind = fields.number<TableProtocol::Request>();
     request.table = fields.number<std::uint16_t>();
-    if (request.table >= file.tables().size()) return {};
-    const Table &table = file.tables()[request.table];
-    const std::size_t count = fields.number<std::uint16_t>();
     if (request.kind == TableProtocol::Request::LookAhead) {
-        for (std::size_t i = 0; i < count; ++i)
-            request.columns.push_back(fields.number<std::uint16_t>());
-        const bool isGood = fields.complete() && areKeys(request.columns, table);
-        return isGood ? std::optional(std::move(request)) : std::nullopt;
+        request.columns.resize(fields.number<std::uint16_t>());
+        for (std::size_t &column : request.columns)
+            column = fields.number<std::uint16_t>();
+        if (request.columns.empty()) return {};
     }
-    if (request.kind != TableProtocol::Request::Rows) return {};
-    request.conditions.resize(count);
+    if (request.kind == TableProtocol::Request::Rows)
+        request.conditions.resize(fields.number<std::uint16_t>());
     for (Condition &condition : request.conditions) {
         condition.column = fields.number<std::uint16_t>();
         condition.isText = fields.number<ValueKind>() == ValueKind::Text;
@@ -118,8 +98,11 @@ std::optional<Request> readRequest(int input, const AccessFile &file) {
             condition.text = fields.text();
         else
             condition.integer = fields.number<std::int32_t>();
-        if (condition.column >= table.columns.size() || !fits(condition, table.columns[condition.column]))
-            return {};
     }
     return fields.complete() ? std::optional(std::move(request)) : std::nullopt;
+}
+
+bool isKey(CellType type, bool isText) {
+    if (isText) return type == CellType::Text;
+    return type == CellType::Byte || type == CellType::Integer || type == CellType::Long;
 }

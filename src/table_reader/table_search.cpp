@@ -5,27 +5,14 @@
 
 #include "table_reader/bytes.h"
 #include "table_reader/damaged.h"
+#include "table_reader/key_match.h"
+
+using keyMatch::folded;
+using keyMatch::isAscii;
 
 namespace {
 
 constexpr std::size_t PagesBetweenLooks = 64;
-
-class KeyHash {
-public:
-    void add(std::uint64_t value) { m_hash = (m_hash ^ value) * 0x100000001b3u; }
-    int group() const { return static_cast<int>(m_hash * 0x9e3779b97f4a7c15u >> 56); } // of 256
-
-private:
-    std::uint64_t m_hash = 0xcbf29ce484222325u;
-};
-
-bool isAscii(char16_t unit) {
-    return unit < 0x80;
-}
-
-char16_t folded(char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
-}
 
 /// False where the text has characters whose other capitals are not known here.
 bool addText(KeyHash &hash, const std::u16string &text) {
@@ -36,12 +23,6 @@ bool addText(KeyHash &hash, const std::u16string &text) {
     }
     hash.add(text.size());
     return known;
-}
-
-bool mayBeEqual(const std::u16string &a, const std::u16string &b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char16_t x, char16_t y) {
-        return !isAscii(x) || !isAscii(y) || folded(x) == folded(y);
-    });
 }
 
 std::int32_t integerOf(const Column &column, const CellBytes &cell) {
@@ -191,7 +172,8 @@ TableSearch::Match TableSearch::compare(const std::vector<CellBytes> &cells,
         if (conditions[i].isText) {
             m_texts.decode(cells[i].data, cells[i].size, m_text);
             known = addText(key, m_text) && known;
-            result.found = result.found && mayBeEqual(m_text, conditions[i].text);
+            result.found =
+                result.found && keyMatch::mayBeEqual<char16_t, char16_t>(m_text, conditions[i].text);
         } else {
             const std::int32_t value = integerOf(m_table.columns[conditions[i].column], cells[i]);
             key.add(static_cast<std::uint32_t>(value));

@@ -10,22 +10,12 @@
 
 #include "table_reader/access_file.h"
 #include "table_reader/cell_text.h"
+#include "table_reader/condition.h"
 #include "table_reader/reply.h"
 #include "table_reader/row.h"
 #include "table_reader/row_writer.h"
 #include "table_reader/table_scan.h"
 
-/// A column, by its position, and what it must hold.
-struct Condition {
-    std::size_t column = 0;
-    bool isText = false;
-    std::int32_t integer = 0;
-    std::u16string text;
-};
-
-/// Texts are compared without regard to ASCII capitals, and any other character counts as equal to any: the
-/// main program, which knows all capitals, looks again.
-///
 /// There are no indexes to use, so the first search by some columns notes for every page which of 256 groups
 /// of keys its rows belong to, and later ones leave out the pages that cannot hold theirs: rows of one key
 /// mostly lie together.

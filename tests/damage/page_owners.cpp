@@ -28,7 +28,7 @@ bool isNamed(const QByteArray &row, const QString &table) {
 
 } // namespace
 
-PageOwners::PageOwners(const QByteArray &file, const QStringList &tables) {
+AccessPageOwners::AccessPageOwners(const QByteArray &file, const QStringList &tables) {
     for (qsizetype page = 0; page < file.size() / Damager::PageSize; ++page) {
         const QByteArray bytes = file.mid(page * Damager::PageSize, Damager::PageSize);
         if (bytes[0] != DataKind) continue;
@@ -47,8 +47,8 @@ PageOwners::PageOwners(const QByteArray &file, const QStringList &tables) {
     if (m_definitions.size() != tables.size()) qFatal("a catalog of another layout");
 }
 
-qsizetype PageOwners::rowsInReach(const QString &table, bool hasMemos, qsizetype rows,
-                                  const Damage &damage) const {
+qsizetype AccessPageOwners::rowsInReach(const QString &table, bool hasMemos, qsizetype rows,
+                                        const Damage &damage) const {
     const quint32 definition = m_definitions[table];
     const bool changesValues = damage.kind == Damage::Kind::Bytes || damage.kind == Damage::Kind::Run;
     qsizetype reach = 0;

@@ -260,7 +260,7 @@ TEST(FileSource, HelperThatTalksNonsenseIsADamagedFile) {
         "printf '\\003\\0\\0\\0\\002\\0\\0'",                     // rows nobody asked for
         "printf '\\011\\0\\0\\0\\001\\001\\0\\001\\0T\\0\\0\\0'", // a table's rows cut off
         "printf '\\065\\0\\0\\0\\001'; head -c 41 /dev/zero;"
-        "printf '\\001\\0\\001\\0T\\0\\0\\0\\0\\0\\0'; exec sleep 30", // a table without columns
+        "printf '\\001\\0\\001\\0T\\0\\0\\0\\0\\0\\0'; exec sleep 30", // one that ends within itself
     };
     const auto unasked = [](const QString &) {
         ADD_FAILURE() << "asked to wait on";

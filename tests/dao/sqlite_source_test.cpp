@@ -10,23 +10,8 @@
 #include "platform/dao/database.h"
 #include "platform/dao/db_engine.h"
 #include "platform/dao/recordset.h"
-#include "platform/dao/sqlite_source.h"
 #include "tests/dao/source_support.h"
-
-namespace {
-
-QString makeFile(const QTemporaryDir &folder, const QString &name, const QByteArray &sql) {
-    const QString path = folder.filePath(name);
-    sqlite3 *database = nullptr;
-    sqlite3_open(path.toUtf8().constData(), &database);
-    char *message = nullptr;
-    EXPECT_EQ(sqlite3_exec(database, sql.constData(), nullptr, nullptr, &message), SQLITE_OK)
-        << (message ? message : "");
-    sqlite3_close(database);
-    return path;
-}
-
-} // namespace
+#include "tests/dao/sqlite_file.h"
 
 TEST(SqliteSource, DeclaredTypesUnderTheirUsualNames) {
     const struct {
@@ -55,25 +40,34 @@ TEST(SqliteSource, DeclaredTypesUnderTheirUsualNames) {
         {"", FieldType::Text, 255},
         {"anything", FieldType::Text, 255},
     };
-    for (const auto &each : cases) {
-        const FieldDefinition field = SqliteSource::declaredField(each.declared);
-        EXPECT_EQ(field.type, each.type) << each.declared;
-        EXPECT_EQ(field.size, each.size) << each.declared;
+    QStringList columns;
+    for (const auto &each : cases)
+        columns << QString(strchr(each.declared, '/') ? "c%1 [%2]" : "c%1 %2")
+                       .arg(columns.size())
+                       .arg(each.declared);
+    const QTemporaryDir folder;
+    FileSource source(
+        makeSqliteFile(folder, "types.db", "create table T (" + columns.join(", ").toUtf8() + ")"));
+    const FieldDefinitions fields = source.fields("T");
+    ASSERT_EQ(fields.size(), std::ssize(cases));
+    for (int i = 0; i < fields.size(); ++i) {
+        EXPECT_EQ(fields[i].type, cases[i].type) << cases[i].declared;
+        EXPECT_EQ(fields[i].size, cases[i].size) << cases[i].declared;
     }
 }
 
 TEST(SqliteSource, CellsComeAsTheirDeclaredTypes) {
     const QTemporaryDir folder;
     const QString path =
-        makeFile(folder, "types #1?.db",
-                 "create table T (yes Boolean, small Integer, big Long, one Single, two Double,"
-                 " day Date, name Text(20), note Memo);"
-                 "insert into T values (1, 7, 70000, 0.1, 0.1, '2017-09-30', 'P265GH', 'ä');"
-                 "insert into T values ('no', '8', -1, 3, 4, '2017-09-30 14:25:59', '', '');"
-                 "insert into T values ('True', '', 0, '', '1.5', 43008.25, 12, null);"
-                 "insert into T values (null, null, null, null, null, null, null, null);"
-                 "create view V as select * from T;");
-    SqliteSource source(path);
+        makeSqliteFile(folder, "types #1?.db",
+                       "create table T (yes Boolean, small Integer, big Long, one Single, two Double,"
+                       " day Date, name Text(20), note Memo);"
+                       "insert into T values (1, 7, 70000, 0.1, 0.1, '2017-09-30', 'P265GH', 'ä');"
+                       "insert into T values ('no', '8', -1, 3, 4, '2017-09-30 14:25:59', '', '');"
+                       "insert into T values ('True', '', 0, '', '1.5', 43008.25, 12, null);"
+                       "insert into T values (null, null, null, null, null, null, null, null);"
+                       "create view V as select * from T;");
+    FileSource source(path);
     EXPECT_EQ(source.tableNames(), QStringList({"T", "V"}));
     EXPECT_EQ(source.rowCount("T"), 4);
     const QDateTime day(QDate(2017, 9, 30), QTime(0, 0));
@@ -94,24 +88,23 @@ TEST(SqliteSource, CellsComeAsTheirDeclaredTypes) {
 
 TEST(SqliteSource, CapitalsOutsideAsciiDoNotCountEither) {
     const QTemporaryDir folder;
-    SqliteSource source(
-        makeFile(folder, "capitals.db", "create table T (name Text); insert into T values ('STRAẞE Ö');"));
+    FileSource source(makeSqliteFile(folder, "capitals.db",
+                                     "create table T (name Text); insert into T values ('STRAẞE Ö');"));
     EXPECT_EQ(matchingRows(source, "T", {{"name", QString::fromUtf8("straße ö")}}).size(), 1);
 }
 
 TEST(SqliteSource, ViewsAndGeneratedColumnsAreReadLikeOthers) {
     const QTemporaryDir folder;
-    SqliteSource source(
-        makeFile(folder, "views.db",
-                 "create table T (id Integer, temp Single, twice Double as (temp * 2) stored, mark Text(9) "
-                 "as (id || '*'));"
-                 "insert into T values (1, 100), (2, 20.5);"
-                 "create view V as select id, mark, cast(temp as integer) as whole, temp + 0 as calculated,"
-                 " id || '' as text, null as none from T;"
-                 "create view Broken as select * from Nowhere;"
-                 "create view Endless as with recursive n (i) as (select 1 union all select i from n) select "
-                 "i from n;"),
-        1);
+    FileSource source(makeSqliteFile(
+        folder, "views.db",
+        "create table T (id Integer, temp Single, twice Double as (temp * 2) stored, mark Text(9) "
+        "as (id || '*'));"
+        "insert into T values (1, 100), (2, 20.5);"
+        "create view V as select id, mark, cast(temp as integer) as whole, temp + 0 as calculated,"
+        " id || '' as text, null as none from T;"
+        "create view Broken as select * from Nowhere;"
+        "create view Endless as with recursive n (i) as (select 1 union all select i from n) select "
+        "i from n;"));
     EXPECT_EQ(rowTexts(allRows(source, "T")), rowTexts({{1, 100.0f, 200.0, "1*"}, {2, 20.5f, 41.0, "2*"}}));
     EXPECT_EQ(rowTexts(allRows(source, "V")),
               rowTexts({{1, "1*", 100, 100.0, "1", {}}, {2, "2*", 20, 20.5, "2", {}}}));
@@ -131,7 +124,7 @@ TEST(SqliteSource, ValueThatItsColumnCannotHoldIsAnErrorWhereItIsAskedFor) {
     int number = 0;
     for (const char *each : values) {
         const QString path =
-            makeFile(folder, QString::number(++number), QByteArray("create table T (a ") + each);
+            makeSqliteFile(folder, QString::number(++number), QByteArray("create table T (a ") + each);
         const auto database = DBEngine::instance().OpenDatabase(path, false, true, {});
         const auto rows = database->OpenRecordset("select * from T");
         EXPECT_EQ(rows->Fields("b").toString(), "1") << each;
@@ -156,9 +149,9 @@ TEST(SqliteSource, ADayOfWhichTheClocksSkipMidnightHasNoTime) {
     qputenv("TZ", "America/Sao_Paulo");
     tzset();
     const QTemporaryDir folder;
-    SqliteSource source(makeFile(folder, "days.db",
-                                 "create table T (day Date); insert into T values ('1985-11-02'),"
-                                 " ('1985-11-02 00:30'), ('1985-11-02T10:30:00+01:00'), (31353);"));
+    FileSource source(makeSqliteFile(folder, "days.db",
+                                     "create table T (day Date); insert into T values ('1985-11-02'),"
+                                     " ('1985-11-02 00:30'), ('1985-11-02T10:30:00+01:00'), (31353);"));
     QStringList days;
     for (const QVector<QVariant> &row : allRows(source, "T"))
         days << row[0].toDateTime().toString("yyyy-MM-dd hh:mm");
@@ -173,9 +166,9 @@ TEST(SqliteSource, AFileThatIsNotSettledOrNotWholeIsRefused) {
     const QString rows = "with recursive n (i) as (select 1 union all select i + 1 from n where i < 3000)"
                          " insert into T select i, printf('row %d', i) from n;";
     const QString path =
-        makeFile(folder, "good.db", ("create table T (id Integer, name Text);" + rows).toUtf8());
+        makeSqliteFile(folder, "good.db", ("create table T (id Integer, name Text);" + rows).toUtf8());
     const QByteArray good = fileBytes(path);
-    EXPECT_EQ(errorOf([&] { SqliteSource source(path); }), 0);
+    EXPECT_EQ(errorOf([&] { FileSource source(path); }), 0);
 
     // Of a transaction that has begun to write into the file, and of one that is told by the other file only.
     sqlite3 *writer = nullptr;
@@ -184,14 +177,14 @@ TEST(SqliteSource, AFileThatIsNotSettledOrNotWholeIsRefused) {
                  nullptr, nullptr, nullptr);
     const QByteArray journal = fileBytes(path + "-journal");
     EXPECT_NE(fileBytes(path), good);
-    EXPECT_EQ(errorOf([&] { SqliteSource source(path); }), 3045);
+    EXPECT_EQ(errorOf([&] { FileSource source(path); }), 3045);
     sqlite3_exec(writer, "rollback; pragma journal_mode = wal; update T set name = 'newer'", nullptr, nullptr,
                  nullptr);
     const QByteArray wal = fileBytes(path + "-wal");
     QFile::link(path, folder.filePath("link.db"));
-    EXPECT_EQ(errorOf([&] { SqliteSource source(folder.filePath("link.db")); }), 3045);
+    EXPECT_EQ(errorOf([&] { FileSource source(folder.filePath("link.db")); }), 3045);
     sqlite3_close(writer);
-    EXPECT_EQ(errorOf([&] { SqliteSource source(path); }), 0);
+    EXPECT_EQ(errorOf([&] { FileSource source(path); }), 0);
 
     const auto zeroed = [&] { return QByteArray(journal).replace(0, 28, QByteArray(28, '\0')); };
     const struct {
@@ -210,16 +203,16 @@ TEST(SqliteSource, AFileThatIsNotSettledOrNotWholeIsRefused) {
         const QString copy = writeFile(folder, QString::number(++number), each.file);
         writeFile(folder, QString::number(number) + "-wal", each.wal);
         writeFile(folder, QString::number(number) + "-journal", each.journal);
-        EXPECT_EQ(errorOf([&] { SqliteSource source(copy); }), each.error) << number;
+        EXPECT_EQ(errorOf([&] { FileSource source(copy); }), each.error) << number;
     }
 }
 
 TEST(SqliteSource, NothingIsWrittenBesideTheFile) {
     const QTemporaryDir folder;
     const QString path =
-        makeFile(folder, "plain.db",
-                 "pragma journal_mode = wal; create table T (a Integer); insert into T values (1);");
-    SqliteSource source(path);
+        makeSqliteFile(folder, "plain.db",
+                       "pragma journal_mode = wal; create table T (a Integer); insert into T values (1);");
+    FileSource source(path);
     EXPECT_EQ(allRows(source, "T").size(), 1);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("plain.db"));
 }

@@ -10,7 +10,6 @@
 #include "platform/dao/database.h"
 #include "platform/dao/file_lock.h"
 #include "platform/dao/file_source.h"
-#include "platform/dao/sqlite_source.h"
 #include "platform/dao/table_store.h"
 #include "platform/runtime/runtime_error.h"
 
@@ -77,7 +76,6 @@ std::shared_ptr<Database> DBEngine::open(const QString &path, std::optional<File
 }
 
 std::unique_ptr<TableSource> DBEngine::openSource(const QString &path, const QString &password) const {
-    if (SqliteSource::isSqliteFile(path)) return std::make_unique<SqliteSource>(path);
     const auto waitsOn = [this](const QString &silent) { return m_waitsOn && m_waitsOn(silent); };
     return std::make_unique<FileSource>(path, FileSource::helperProgram(), waitsOn, FileSource::Patience,
                                         password);

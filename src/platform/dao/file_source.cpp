@@ -11,6 +11,8 @@
 
 #include "platform/dao/date_number.h"
 #include "platform/dao/date_serial.h"
+#include "platform/dao/sqlite_file_check.h"
+#include "platform/dao/sqlite_values.h"
 #include "platform/dao/table_protocol.h"
 #include "platform/runtime/app.h"
 #include "platform/runtime/runtime_error.h"
@@ -90,6 +92,16 @@ void readCell(FrameReader &frame, FieldType type, TableColumns &rows, int column
     throw MalformedFrame();
 }
 
+FieldDefinitions readFields(FrameReader &frame) {
+    FieldDefinitions fields(frame.number<quint16>());
+    for (FieldDefinition &field : fields) {
+        field.name = frame.name();
+        field.type = fieldType(frame.number<CellType>());
+        field.size = frame.number<quint16>();
+    }
+    return fields;
+}
+
 /// Rows until the end of the frame, of which those stay that meet the conditions on texts.
 void readRows(FrameReader &frame, TableColumns &rows, const QVector<BoundCondition> &conditions) {
     const FieldDefinitions &fields = rows.fields();
@@ -136,6 +148,13 @@ QByteArray openRequest(const QString &password) {
     return framed(request);
 }
 
+QByteArray tableRequest(TableProtocol::Request kind, qsizetype table) {
+    QByteArray request;
+    append(request, kind);
+    append(request, static_cast<quint16>(table));
+    return framed(request);
+}
+
 QByteArray rowsRequest(qsizetype table, const QVector<BoundCondition> &conditions) {
     QByteArray request;
     append(request, TableProtocol::Request::Rows);
@@ -172,6 +191,7 @@ FileSource::FileSource(QString path, const QString &helper, WaitsOn waitsOn, int
     , m_file(m_path)
     , m_helper(helper, patience, [this](bool isBusy) { return onSilence(isBusy); }) {
     if (!m_file.open(QIODevice::ReadOnly)) raiseDamaged();
+    checkSqliteSettled(m_path);
     m_catalog = openHelper();
 }
 
@@ -202,11 +222,20 @@ QString FileSource::whatElse(const QString &name) {
 }
 
 FieldDefinitions FileSource::fields(const QString &table) {
-    return m_catalog.tables[indexOf(table)].fields;
+    return fieldsOf(indexOf(table));
 }
 
 qint64 FileSource::rowCount(const QString &table) {
-    return m_catalog.tables[indexOf(table)].rows;
+    const qsizetype index = indexOf(table);
+    const quint32 rows = m_catalog.tables[index].rows;
+    if (rows != TableProtocol::NotCounted) return rows;
+    if (!m_counts.contains(index))
+        exchange(tableRequest(TableProtocol::Request::Count, index), [&](Reply kind, FrameReader &frame) {
+            if (kind != Reply::Count) throw MalformedFrame();
+            m_counts.insert(index, frame.number<quint32>());
+            return true;
+        });
+    return m_counts[index];
 }
 
 void FileSource::readAll(const QString &table, TableColumns &rows, const RowsArrived &arrived) {
@@ -216,8 +245,7 @@ void FileSource::readAll(const QString &table, TableColumns &rows, const RowsArr
 void FileSource::readMatching(const QString &table, const QVector<ColumnCondition> &conditions,
                               TableColumns &rows) {
     const qsizetype index = indexOf(table);
-    if (const auto bound = bindConditions(m_catalog.tables[index].fields, conditions))
-        read(index, *bound, rows);
+    if (const auto bound = bindConditions(fieldsOf(index), conditions)) read(index, *bound, rows);
 }
 
 void FileSource::lookAhead(const QString &table, const QVector<int> &columns) {
@@ -232,25 +260,48 @@ qsizetype FileSource::indexOf(const QString &table) const {
     return found - m_catalog.tables.begin();
 }
 
+const FieldDefinitions &FileSource::fieldsOf(qsizetype table) {
+    if (!m_catalog.tables[table].fields.isEmpty()) return m_catalog.tables[table].fields;
+    if (!m_fields.contains(table))
+        exchange(tableRequest(TableProtocol::Request::Columns, table), [&](Reply kind, FrameReader &frame) {
+            if (kind != Reply::Columns) throw MalformedFrame();
+            const FieldDefinitions fields = readFields(frame);
+            // Its rows would take no bytes, and a frame of them would never end.
+            if (fields.isEmpty()) throw MalformedFrame();
+            m_fields.insert(table, fields);
+            return true;
+        });
+    return m_fields[table];
+}
+
 void FileSource::read(qsizetype table, const QVector<BoundCondition> &conditions, TableColumns &rows,
                       const RowsArrived &arrived) {
+    exchange(rowsRequest(table, conditions), [&](Reply kind, FrameReader &frame) {
+        if (kind == Reply::Rows)
+            readRows(frame, rows, conditions);
+        else if (kind == Reply::StoredRows)
+            readStoredRows(frame, rows, conditions, {m_path, m_catalog.tables[table].name});
+        else
+            throw MalformedFrame();
+        if (arrived) arrived();
+        return false;
+    });
+}
+
+void FileSource::exchange(const QByteArray &request,
+                          const std::function<bool(Reply kind, FrameReader &frame)> &take) {
     // Whoever is asked whether to wait on may come back here; the two answers would be mixed up.
     if (m_isReading) raiseSilent();
     const QScopedValueRollback<bool> reading(m_isReading, true);
     if (!m_helper.isRunning() && openHelper() != m_catalog) raiseDamaged();
     try {
-        if (!m_helper.send(rowsRequest(table, conditions))) raiseDamaged();
+        if (!m_helper.send(request)) raiseDamaged();
         while (true) {
             const Frame answer = receiveFrame();
             FrameReader frame(answer.content);
-            if (answer.kind == Reply::Rows) {
-                readRows(frame, rows, conditions);
-                if (arrived) arrived();
-            } else if (answer.kind == Reply::End) {
-                return;
-            } else if (answer.kind != Reply::Busy) {
-                raiseFailure(frame);
-            }
+            if (answer.kind == Reply::Failure) raiseFailure(frame);
+            if (answer.kind == Reply::End) return;
+            if (answer.kind != Reply::Busy && take(answer.kind, frame)) return;
         }
     } catch (const MalformedFrame &) {
         m_helper.stop();
@@ -267,7 +318,9 @@ FileSource::Catalog FileSource::openHelper() {
         throw notRun(m_helper.program(), failure);
     try {
         if (!m_helper.send(openRequest(m_password))) raiseDamaged();
-        const Frame answer = receiveFrame();
+        Frame answer = receiveFrame();
+        while (answer.kind == Reply::Busy)
+            answer = receiveFrame();
         FrameReader frame(answer.content);
         if (answer.kind != Reply::Catalog) raiseFailure(frame);
         return readCatalog(frame);
@@ -294,14 +347,7 @@ FileSource::Catalog FileSource::readCatalog(FrameReader &frame) {
     for (Table &table : catalog.tables) {
         table.name = frame.name();
         table.rows = frame.number<quint32>();
-        table.fields.resize(frame.number<quint16>());
-        // Its rows would take no bytes, and a frame of them would never end.
-        if (table.fields.isEmpty()) throw MalformedFrame();
-        for (FieldDefinition &field : table.fields) {
-            field.name = frame.name();
-            field.type = fieldType(frame.number<CellType>());
-            field.size = frame.number<quint16>();
-        }
+        table.fields = readFields(frame);
     }
     catalog.others.resize(frame.number<quint16>());
     for (Other &other : catalog.others) {
@@ -339,11 +385,30 @@ void FileSource::raiseSilent() const {
 }
 
 void FileSource::raiseFailure(FrameReader &frame) const {
-    if (frame.number<TableProtocol::FailureKind>() == TableProtocol::FailureKind::WrongPassword)
+    switch (frame.number<TableProtocol::FailureKind>()) {
+    case TableProtocol::FailureKind::WrongPassword:
         throw RuntimeError(3031);
+    case TableProtocol::FailureKind::Refused:
+        raiseDamaged(frame.rest());
+    case TableProtocol::FailureKind::CutOff:
+        raiseCutOff(frame);
+    case TableProtocol::FailureKind::Damaged:
+        break;
+    }
     raiseDamaged();
 }
 
-void FileSource::raiseDamaged() const {
-    throw RuntimeError(3343, "Unrecognized database format '" + m_path + "'.");
+void FileSource::raiseCutOff(FrameReader &frame) const {
+    const auto size = frame.number<quint64>();
+    const auto expected = frame.number<quint64>();
+    throw RuntimeError(3049, QString("Can't open database '%1'. The file is cut off: it has %2 bytes, and "
+                                     "%3 belong to it.")
+                                 .arg(QFileInfo(m_path).canonicalFilePath())
+                                 .arg(size)
+                                 .arg(expected));
+}
+
+void FileSource::raiseDamaged(const QString &reason) const {
+    throw RuntimeError(3343, "Unrecognized database format '" + m_path + '\'' +
+                                 (reason.isEmpty() ? reason : ": " + reason) + '.');
 }

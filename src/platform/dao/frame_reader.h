@@ -38,6 +38,11 @@ public:
         std::memcpy(value.data(), at, static_cast<std::size_t>(units) * sizeof(QChar));
         return value;
     }
+    /// All that is left, as UTF-8.
+    QString rest() {
+        const qsizetype size = m_end - m_at;
+        return QString::fromUtf8(take(size), size);
+    }
     const char *take(qsizetype size) {
         if (size > m_end - m_at) throw MalformedFrame();
         const char *taken = m_at;

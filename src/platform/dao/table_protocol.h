@@ -26,12 +26,17 @@ enum class Request : std::uint8_t {
     /// bits): a search by these columns is to be expected. It has no answer, and waits for every other
     /// request.
     LookAhead,
+    /// Table's position (16 bits). The answer is Columns, or Count, or Failure.
+    Columns,
+    Count,
 };
 
 enum class Reply : std::uint8_t {
-    /// The answer to Open. Whether the helper has shut itself in (8 bits); the file's FileIdentity; number of tables (16 bits),
-    /// and for each one its name, its rows (32 bits), the number of its columns (16 bits, one at least), and
-    /// for each of these its name, a CellType and its size in characters (16 bits). Then the number of the
+    /// The answer to Open. Whether the helper has shut itself in (8 bits); the file's FileIdentity; number of
+    /// tables (16 bits), and for each one its name, its rows (32 bits) or NotCounted, the number of its
+    /// columns
+    /// (16 bits; 0 where Columns is to be asked for), and for each of these its name, a CellType and its size
+    /// in characters (16 bits). Then the number of the
     /// other things that could be taken for tables (16 bits), and for each one its name and an OtherKind.
     Catalog = 1,
     /// Any number of whole rows. A row is one bit for each column, set where it is Null, in whole bytes from
@@ -43,9 +48,19 @@ enum class Reply : std::uint8_t {
     End,
     /// A FailureKind, and as UTF-8 what is wrong with the file. It ends the answer.
     Failure,
+    /// As Rows; a row is for each column a StoredKind and the value.
+    StoredRows,
+    /// The number of the columns (16 bits, one at least), and each as in the catalog.
+    Columns,
+    /// The table's rows (32 bits).
+    Count,
 };
 
-enum class FailureKind : std::uint8_t { Damaged = 1, WrongPassword };
+constexpr std::uint32_t NotCounted = 0xffffffff;
+
+/// Refused: the text is one for the user. CutOff has no text but the file's size and that which it must have
+/// (64 bits each, in bytes).
+enum class FailureKind : std::uint8_t { Damaged = 1, WrongPassword, Refused, CutOff };
 
 enum class OtherKind : std::uint8_t { Query = 1, Link };
 
@@ -67,6 +82,11 @@ enum class CellType : std::uint8_t {
     Memo,
     Unsupported
 };
+
+/// A value that does not have its column's type, or of which the main program alone knows what it means:
+/// Integer 64 bits, Real a Double, Text a text. The others have no value: what is in the file is no text or
+/// number, or too long.
+enum class StoredKind : std::uint8_t { Null, Integer, Real, Text, Blob, TooLong };
 
 /// No frame is longer; one row fits in a frame.
 constexpr std::uint32_t LongestFrame = 128u << 20;

@@ -1,0 +1,34 @@
+// Rows of SQLite to the rows of an answer.
+#pragma once
+
+#include <cstdint>
+
+#include "table_reader/reply.h"
+#include "table_reader/sqlite_file.h"
+
+/// A row whose values all have their columns' types goes out like any other file's; one with a date, or with
+/// a value that does not fit, goes as it is stored, and the main program makes of it what it can.
+class SqliteRowWriter {
+public:
+    SqliteRowWriter(const SqliteTable &table, std::uint64_t fileSize)
+        : m_table(table)
+        , m_fileSize(fileSize) {}
+
+    /// A new answer begins. The rows of a table take about as much as the file; a view can give out the same
+    /// value any number of times, and never end.
+    void restart();
+    /// Raises SqliteRefused where the answer gets too long.
+    void write(const SqliteStatement &row, Reply &reply);
+    /// The same for a row that was looked at, and is none of the answer's.
+    void pass() { charge(0); }
+
+private:
+    void charge(std::size_t bytes);
+    bool isPlain(const SqliteStatement &row) const;
+    void writePlain(const SqliteStatement &row, Reply &reply) const;
+    void writeStored(const SqliteStatement &row, Reply &reply) const;
+
+    const SqliteTable &m_table;
+    std::uint64_t m_fileSize;
+    std::uint64_t m_left = 0;
+};
