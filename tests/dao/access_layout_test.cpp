@@ -376,6 +376,7 @@ TEST(AccessLayout, DefinitionThatLeadsAstrayIsAnError) {
             {"goes on beyond the file", table + 4, word(1000)},
             {"goes on in rows", table + 4, word(RowsPage)},
             {"is a circle", further + 4, word(6)},
+            {"goes on in a page of another kind", further, "\4"},
             {"so many indexes that it goes around for long", indexes, word(80000)},
             {"more indexes than there are bytes", indexes, word(0xffffffff)},
             {"no columns", count, QByteArray(2, '\0')},
@@ -389,6 +390,7 @@ TEST(AccessLayout, DefinitionThatLeadsAstrayIsAnError) {
             {"a map of an unknown kind", mapRow, "\7"},
             {"a map of pages that are none", mapRow + 1, word(RowsPage)},
             {"a map of pages beyond the file", mapRow + 1, word(1000)},
+            {"a map page of another kind", 5 * page, "\7"},
             {"pages beyond the file", 5 * page + 100, "\1"},
         };
         for (const Damage &damage : damages) {

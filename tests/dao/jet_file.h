@@ -56,9 +56,11 @@ public:
         quint32 pageKey = 0;
         /// Where the table's rows lie, if not behind its definition: the map then goes over pages of its own.
         int rowsPage = 0;
+        /// The last column stands first in the definition.
+        bool backwards = false;
     };
 
-    explicit JetFile(Version version, const Manner &manner = {1252, {}, 0, 0})
+    explicit JetFile(Version version, const Manner &manner = {1252, {}, 0, 0, false})
         : m_version(version)
         , m_manner(manner) {}
 
@@ -227,9 +229,11 @@ private:
                 ++variable;
             if (column.deleted) continue;
             ++present;
-            entries += entry(column, quint16(i), place);
+            const QByteArray ownEntry = entry(column, quint16(i), place);
+            entries = m_manner.backwards ? ownEntry + entries : entries + ownEntry;
             const QByteArray name = text(column.name);
-            names += count(name.size()) + name;
+            const QByteArray ownName = count(name.size()) + name;
+            names = m_manner.backwards ? ownName + names : names + ownName;
         }
         const qsizetype at = isJet3() ? 12 : 16;     // of the number of rows
         const qsizetype counts = isJet3() ? 21 : 41; // of columns

@@ -172,6 +172,7 @@ TEST(SecondOpinion, OfFilesInEveryLayoutAndManner) {
         {western, {1252, "rolvek", 0x80000001, 9}}, // with a map of pages
         {wide(), {1252, {}, 0, 0}},
         {wide(), {1252, {}, 0x1234abcd, 0}},
+        {western, {1252, {}, 0, 0, true}},
         {russian, {1251, {}, 0, 0}},
         {greek, {1253, {}, 0, 0}},
         {czech, {1250, {}, 0, 0}},
