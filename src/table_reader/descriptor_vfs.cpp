@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr char Name[] = "descriptor";
-constexpr int LongestName = 64;
+constexpr char SystemName[] = "descriptor";
+constexpr int LongestPath = 64;
 constexpr sqlite3_int64 MillisecondsOfDay = 86'400'000;
 constexpr sqlite3_int64 Epoch = 2'440'587 * MillisecondsOfDay + MillisecondsOfDay / 2; // as a Julian day
 
@@ -153,8 +153,8 @@ const char *DescriptorVfs::install(int file) {
         sqlite3_vfs own = {};
         own.iVersion = 2;
         own.szOsFile = sizeof(sqlite3_file);
-        own.mxPathname = LongestName;
-        own.zName = Name;
+        own.mxPathname = LongestPath;
+        own.zName = SystemName;
         own.xOpen = openFile;
         own.xDelete = refuseDelete;
         own.xAccess = isNotThere;
@@ -167,5 +167,5 @@ const char *DescriptorVfs::install(int file) {
         return own;
     }();
     sqlite3_vfs_register(&system, 0);
-    return Name;
+    return SystemName;
 }

@@ -28,7 +28,7 @@ public:
     void setBit(std::size_t place, std::size_t bit);
 
     /// Bytes that were collected and not yet sent.
-    std::size_t size() const { return m_content.size(); }
+    std::size_t size() const { return m_size; }
     /// The kind of the rows that are collected, and from now on of those that follow: the others go first.
     TableProtocol::Reply rowsKind() const { return m_rowsKind; }
     void setRowsKind(TableProtocol::Reply kind);

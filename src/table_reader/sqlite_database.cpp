@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr std::string_view Mark("SQLite format 3\0", 16);
-constexpr std::size_t HeaderSize = 100;
+constexpr std::string_view SqliteMark("SQLite format 3\0", 16);
+constexpr std::size_t SqliteHeaderSize = 100;
 constexpr int StepsBetweenLooks = 100'000;
 constexpr std::chrono::seconds MostWork(5);
 constexpr std::uint64_t LeastLongestValue = 1u << 20;
@@ -23,10 +23,10 @@ constexpr std::uint64_t MostLongestValue = 512u << 20; // half of what this proc
 
 constexpr char VisitFunction[] = "visit_row";
 
-using Header = std::array<std::uint8_t, HeaderSize>;
+using SqliteHeader = std::array<std::uint8_t, SqliteHeaderSize>;
 
-Header headerOf(int file) {
-    Header header = {};
+SqliteHeader headerOf(int file) {
+    SqliteHeader header = {};
     for (std::size_t have = 0; have < header.size();) {
         const ssize_t got = pread(file, header.data() + have, header.size() - have, static_cast<off_t>(have));
         if (got <= 0) break;
@@ -35,7 +35,7 @@ Header headerOf(int file) {
     return header;
 }
 
-std::uint32_t bigEndian(const Header &header, std::size_t at, std::size_t size) {
+std::uint32_t bigEndian(const SqliteHeader &header, std::size_t at, std::size_t size) {
     std::uint32_t value = 0;
     for (std::size_t i = 0; i < size; ++i)
         value = value << 8 | header[at + i];
@@ -43,7 +43,7 @@ std::uint32_t bigEndian(const Header &header, std::size_t at, std::size_t size) 
 }
 
 /// Only a writer of old leaves the number of pages in the header behind.
-std::uint64_t declaredSize(const Header &header, std::uint64_t size) {
+std::uint64_t declaredSize(const SqliteHeader &header, std::uint64_t size) {
     const std::uint64_t written = bigEndian(header, 16, 2);
     const std::uint64_t page = written == 1 ? 65536 : written;
     const std::uint64_t pages = bigEndian(header, 28, 4);
@@ -78,8 +78,8 @@ std::size_t SqliteValue::storedSize() const {
 }
 
 bool SqliteDatabase::isSqlite(int file) {
-    const Header header = headerOf(file);
-    return std::equal(Mark.begin(), Mark.end(), header.begin());
+    const SqliteHeader header = headerOf(file);
+    return std::equal(SqliteMark.begin(), SqliteMark.end(), header.begin());
 }
 
 SqliteDatabase::SqliteDatabase(int file, Reply &reply)
@@ -107,7 +107,8 @@ SqliteDatabase::SqliteDatabase(int file, Reply &reply)
 }
 
 void SqliteDatabase::checkWhole() const {
-    const std::uint64_t expected = size() < HeaderSize ? HeaderSize : declaredSize(headerOf(m_file), size());
+    const std::uint64_t expected =
+        size() < SqliteHeaderSize ? SqliteHeaderSize : declaredSize(headerOf(m_file), size());
     if (size() < expected) throw SqliteCutOff{size(), expected};
 }
 

@@ -26,7 +26,7 @@ int errorOfReading(const QString &path) {
         EXPECT_LT(clock.restart(), LongestWait);
         worst = std::max(worst, error);
     };
-    std::unique_ptr<FileSource> source;
+    std::unique_ptr<SampleSource> source;
     step([&] { source = std::make_unique<SampleSource>(path); });
     if (!source) return worst;
     for (const QString &table : source->tableNames()) {

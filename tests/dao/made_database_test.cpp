@@ -37,7 +37,7 @@ private:
 
 TEST_P(MadeDatabase, EqualsTheAccessFileCellByCell) {
     ASSERT_TRUE(fileBytes(path()).startsWith("SQLite format 3")) << output;
-    SampleSource made(path());
+    FileSource made(path(), helperPath());
     SampleSource access(samplePath(GetParam().file));
     QStringList names = access.tableNames();
     QStringList madeNames = made.tableNames();
