@@ -134,3 +134,18 @@ TEST(SqliteSearch, AViewThatNeverEndsIsRefused) {
     EXPECT_LT(clock.elapsed(), FileSource::Patience);
     EXPECT_EQ(allRows(source, "Other").size(), 1);
 }
+
+TEST(SqliteSearch, AViewOfTimeAndChanceNeedsNoFile) {
+    const QTemporaryDir folder;
+    FileSource source(
+        makeSqliteFile(folder, "time.db",
+                       "create table T (id Integer); insert into T values (1), (2);"
+                       "create view V as select id, strftime('%s', 'now') as seconds,"
+                       " datetime('now', 'localtime') as here, random() as dice from T order by 2, 4;"),
+        helperPath());
+    const QDateTime before = QDateTime::currentDateTime().addSecs(-2);
+    const Rows rows = allRows(source, "V");
+    ASSERT_EQ(rows.size(), 2);
+    EXPECT_LE(before.toSecsSinceEpoch(), rows[0][1].toString().toLongLong());
+    EXPECT_LE(before.toString("yyyy-MM-dd HH:mm:ss"), rows[0][2].toString());
+}
