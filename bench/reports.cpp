@@ -30,6 +30,12 @@ void saveReport(Program &program, int format) {
     ReportCommands::saveReport(format);
 }
 
+void backToEmptySearch(Program &program) {
+    mdiVelmar::instance().SelectMaterials();
+    program.search().cmdSelections(1)->click();
+    paint();
+}
+
 void selectForBatch(Program &program, const QVector<int> &grades) {
     frmSearch &search = program.search();
     search.txtSearch(1)->setText("ZORBALTIKREMO");

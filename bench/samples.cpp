@@ -1,6 +1,7 @@
 #include "bench/samples.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "bench/table_reporter.h"
 
@@ -18,6 +19,11 @@ void Samples::append(const Samples &other) {
     m_cpu.insert(m_cpu.end(), other.m_cpu.begin(), other.m_cpu.end());
 }
 
+void Samples::addSumOf(const Samples &parts) {
+    add(std::accumulate(parts.m_clock.begin(), parts.m_clock.end(), 0.0),
+        std::accumulate(parts.m_cpu.begin(), parts.m_cpu.end(), 0.0));
+}
+
 void Samples::report(benchmark::State &state, const Goal &goal) const {
     state.counters[Counter::Median] = median(m_clock) * 1000;
     state.counters[Counter::Slowest] = *std::max_element(m_clock.begin(), m_clock.end()) * 1000;
@@ -26,6 +32,13 @@ void Samples::report(benchmark::State &state, const Goal &goal) const {
 }
 
 void Samples::report(benchmark::State &state, const Goal &goal, const Samples &other) const {
+    reportBeside(state, goal, other);
+    if (other.m_clock.empty()) return;
+    state.counters[Counter::Other] = median(other.m_clock) * 1000;
+    state.counters[Counter::OtherCpu] = median(other.m_cpu) * 1000;
+}
+
+void Samples::reportBeside(benchmark::State &state, const Goal &goal, const Samples &other) const {
     report(state, goal);
     if (other.m_clock.empty()) return;
     // A machine that grows slower in the meantime slows both of a pair down.
@@ -35,8 +48,6 @@ void Samples::report(benchmark::State &state, const Goal &goal, const Samples &o
             if (others[i] > 0) ratios.push_back(ours[i] / others[i]);
         return median(ratios);
     };
-    state.counters[Counter::Other] = median(other.m_clock) * 1000;
-    state.counters[Counter::OtherCpu] = median(other.m_cpu) * 1000;
     state.counters[Counter::Ratio] = ratio(m_clock, other.m_clock);
     state.counters[Counter::CpuRatio] = ratio(m_cpu, other.m_cpu);
     if (goal.ratio > 0) state.counters[Counter::RatioGoal] = goal.ratio;

@@ -40,6 +40,8 @@ public:
         m_cpu.push_back(cpu);
     }
     void append(const Samples &other);
+    /// As one sample.
+    void addSumOf(const Samples &parts);
 
     const std::vector<double> &clock() const { return m_clock; }
     const std::vector<double> &cpu() const { return m_cpu; }
@@ -47,6 +49,8 @@ public:
     void report(benchmark::State &state, const Goal &goal) const;
     /// With the other program's times, taken in turn with these.
     void report(benchmark::State &state, const Goal &goal, const Samples &other) const;
+    /// The same where the others are samples of this program, which have a row of their own.
+    void reportBeside(benchmark::State &state, const Goal &goal, const Samples &other) const;
 
 private:
     std::vector<double> m_clock;

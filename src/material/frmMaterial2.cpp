@@ -2,12 +2,9 @@
 
 #include "data/cell_values.h"
 #include "data/Material.h"
-#include "data/modDBase.h"
 #include "data/table_vocabulary.h"
 #include "material/frmChart.h"
 #include "material/material_layout.h"
-#include "material/menu_place.h"
-#include "platform/dao/database.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/help_context.h"
 #include "platform/runtime/runtime_error.h"
@@ -37,8 +34,7 @@ const QStringList PrintSaveTips{"Save Graph As Portable Document Format File (*.
 } // namespace
 
 frmMaterial2::frmMaterial2()
-    : Form("frmMaterial2", Kind::MdiChild)
-    , MaterialControls(static_cast<QWidget &>(*this))
+    : MaterialControls(static_cast<QWidget &>(*this))
     , m_graphs(*this)
     , m_notes(*this)
     , m_noData(*this, m_graphs)
@@ -112,7 +108,7 @@ void frmMaterial2::Form_Load() {
     m_boundTables.InitColumns();
     lblDesignTemp->setText(lblDesignTemp->text() + " [°C]");
     HideAll();
-    showReferences();
+    showReferencePage();
     SetToolTips(main.bToolTips);
 }
 
@@ -139,27 +135,8 @@ void frmMaterial2::Form_Resize() {
     if (Height() != WindowHeight) setHeight(WindowHeight);
 }
 
-void frmMaterial2::Form_Unload(bool &) {
-    mdiVelmar &main = mdiVelmar::instance();
-    --main.iMaterialsOpen;
-    main.CountMaterialsOpen();
-    // All windows show the same table, so that its menu entry stays the current one.
-    const MenuPlace place = menuPlaceOf(strCurrentTable);
-    main.UpdateMenusAndButtons(place.group, place.index);
-    if (m_material && m_material->MyForm() == this) m_material->setMyForm(nullptr);
-}
-
-void frmMaterial2::SetMaterial(const std::shared_ptr<Material> &material) {
-    const auto &database = modDBase::dbMain();
-    if (!database) throw RuntimeError(91);
-    m_tables.open(*database);
-    frame()->raise();
-    m_material = material;
-    const LoadedTable references = m_tables.load(*material, "Ref");
-    material->setMyForm(this);
+void frmMaterial2::showReferences(const LoadedTable &references) {
     m_references.Fill(references);
-    strCurrentTable = "Ref";
-    material->setTableHasData("Ref", true);
 }
 
 void frmMaterial2::ShowTable(const QString &key) {
@@ -168,7 +145,7 @@ void frmMaterial2::ShowTable(const QString &key) {
     HideAll();
     strCurrentTable = key;
     if (key == QLatin1String("Ref")) {
-        showReferences();
+        showReferencePage();
     } else if (key == QLatin1String("ChemComp")) {
         showComposition(material);
     } else if (key == QLatin1String("MechProp") || key == QLatin1String("CreepProp")) {
@@ -194,19 +171,16 @@ void frmMaterial2::offerSaving() {
 }
 
 void frmMaterial2::CheckTablesForRecords() {
-    if (!m_material) throw RuntimeError(91);
     const QString shown = strCurrentTable;
-    for (int i = 1; i < TableVocabulary::TableCount; ++i) {
-        const QString key = TableVocabulary::GetShortTableName(i);
-        if (!m_material->TableChecked(key)) load(key);
-    }
+    GradeWindow::CheckTablesForRecords();
     ShowTable(shown);
 }
 
-void frmMaterial2::load(const QString &key) {
-    const LoadedTable table = m_tables.load(*m_material, key);
+LoadedTable frmMaterial2::load(const QString &key) {
+    LoadedTable table = GradeWindow::load(key);
     // As after the page of such a table: the next one shows as a table, and not as a graph.
     if (!table.noData.isEmpty() && !TableVocabulary::isUnbound(key)) m_graphs.bGraphShown = false;
+    return table;
 }
 
 void frmMaterial2::HideAll() {
@@ -220,7 +194,7 @@ void frmMaterial2::HideAll() {
     m_boundTables.ResetColumns();
 }
 
-void frmMaterial2::showReferences() {
+void frmMaterial2::showReferencePage() {
     for (QWidget *part : QList<QWidget *>{framMain, framStand, lblMain, ImgPic(1)})
         part->show();
 }

@@ -1,6 +1,7 @@
 #include "reports/report_layout.h"
 
 #include <QFile>
+#include <QHash>
 
 #include "data/Material.h"
 #include "shell/mdiVelmar.h"
@@ -27,6 +28,16 @@ ControlType &add(Section &section, const QString &name, int left, int top, int w
     return control;
 }
 
+/// Each is read and parsed once: a batch asks for the same few two thousand times.
+Picture pictureOf(const QString &path) {
+    static QHash<QString, Picture> read;
+    const auto known = read.constFind(path);
+    if (known != read.constEnd()) return *known;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    return *read.insert(path, Picture::fromSvg(file.readAll()));
+}
+
 } // namespace
 
 Label &addLabel(Section &section, const QString &name, const QString &text, int left, int top, int width,
@@ -43,9 +54,7 @@ Field &addField(Section &section, const QString &name, int left, int top, int wi
 Image &addImage(Section &section, const QString &name, const QString &picture, int left, int top, int width,
                 int height) {
     auto &image = add<Image>(section, name, left, top, width, height);
-    if (picture.isEmpty()) return image;
-    QFile file(picture);
-    if (file.open(QIODevice::ReadOnly)) image.Content = Picture::fromSvg(file.readAll());
+    if (!picture.isEmpty()) image.Content = pictureOf(picture);
     return image;
 }
 

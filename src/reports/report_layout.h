@@ -21,7 +21,7 @@ Printing::Label &addLabel(Printing::Section &section, const QString &name, const
                           int top, int width, int height);
 Printing::Field &addField(Printing::Section &section, const QString &name, int left, int top, int width,
                           int height);
-/// `picture` is the path of an SVG file; an empty one leaves the image empty.
+/// `picture` is the path of an SVG file that comes with the program; an empty one leaves the image empty.
 Printing::Image &addImage(Printing::Section &section, const QString &name, const QString &picture, int left,
                           int top, int width, int height);
 Printing::SubReport &addSubReport(Printing::Section &section, const QString &name, int top);

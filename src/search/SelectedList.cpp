@@ -6,6 +6,7 @@
 #include "data/queries.h"
 #include "data/status_numbers.h"
 #include "material/frmMaterial2.h"
+#include "material/UnseenMaterial.h"
 #include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
 #include "platform/forms/default_instance.h"
@@ -210,7 +211,10 @@ void SelectedList::printAll() {
 /// They stay invisible until they are in their places.
 void SelectedList::openWindows() {
     for (const auto &material : mdiVelmar::instance().colMaterials) {
-        auto *window = NewForm<frmMaterial2>();
+        // what a batch prints nobody looks at
+        GradeWindow *window = mdiVelmar::instance().bBatchPrint
+                                  ? static_cast<GradeWindow *>(NewForm<UnseenMaterial>())
+                                  : NewForm<frmMaterial2>();
         window->setCaption("Name: " + material->Name() + " Number: " + material->Number() +
                            " Standard: " + material->Standard());
         window->SetMaterial(material);

@@ -126,7 +126,7 @@ void MainCommands::batchPrint() {
         ReportSource::of(*material).setReportKind(ReportKind::Tables);
         for (int i = 1; i < TableVocabulary::TableCount; ++i)
             if (material->TableHasData(m_window.GetShortTableName(i))) material->setPrintTable(i, true);
-        form.Unload();
+        form.UnloadAtOnce();
         progress->step();
     }
     progress.reset();

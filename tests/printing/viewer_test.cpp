@@ -169,7 +169,7 @@ TEST(DocumentSearch, WhatAnEllipsisStandsForIsNotFound) {
     auto &label = place<Label>(detail, "lbl", {0, 0, 1500, 250}, "abcdefghijklmnopqrstuvwxyz");
     label.CanGrow = label.WordWrap = false;
     const Document &document = report.Run();
-    const QString &shown = document.pages[0].elements[0].lines[0].text;
+    const QString shown = document.pages[0].elements[0].lines[0].text;
     ASSERT_TRUE(shown.endsWith(QChar(0x2026))) << shown.toStdString();
     const qsizetype hidden = shown.size() - 1;
     EXPECT_EQ(findText(document, label.Text.mid(hidden - 1, 1)).size(), 1u);

@@ -1,8 +1,11 @@
 // The batch: all selected materials in one document.
 #include <QApplication>
 #include <QEvent>
+#include <QEventLoop>
 #include <QProgressBar>
+#include <QTimer>
 
+#include "material/GradeWindow.h"
 #include "platform/forms/forms.h"
 #include "platform/forms/status_bar.h"
 #include "platform/runtime/app.h"
@@ -91,6 +94,22 @@ TEST_F(Batch, OneMaterialNeedsNoPageBreak) {
         EXPECT_EQ(pageBreaks(report), 0);
         EXPECT_EQ(report.document().pages.size(), 1u);
     });
+}
+
+/// From an event loop, as in the program: what is only deleted later is there until that loop goes on.
+TEST_F(Batch, KeepsNothingOfWhatIsLaidOutWhileThePagesAreLookedAt) {
+    select({SampleGrades::P265GH, SampleGrades::ReferenceOnly});
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+        run([](const actRepBatchPrint &report) {
+            for (const QWidget *widget : QApplication::allWidgets())
+                EXPECT_EQ(qobject_cast<const GradeWindow *>(widget), nullptr);
+            for (const char *place : {"SubReport1", "SubReport2"})
+                EXPECT_TRUE(report.Sections("Detail").Controls.Item<SubReport>(place).Object == nullptr);
+        });
+        loop.quit();
+    });
+    loop.exec();
 }
 
 /// The painted steps of every progress bar.

@@ -141,6 +141,13 @@ bool FormBase::Unload(UnloadMode mode) {
     return gone;
 }
 
+bool FormBase::UnloadAtOnce() {
+    QWidget *outer = frame();
+    if (!Unload()) return false;
+    QCoreApplication::sendPostedEvents(outer, QEvent::DeferredDelete);
+    return true;
+}
+
 bool FormBase::queryUnload(UnloadMode mode) {
     bool cancel = false;
     EventProcedure::run([&] { Form_QueryUnload(cancel, mode); });

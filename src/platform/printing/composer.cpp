@@ -104,10 +104,12 @@ void Composer::addSection(Section &section) {
     QHash<const Control *, Bands> subReports;
     QHash<const Control *, int> heights;
     for (const auto &control : section.Controls) {
-        const auto *subReport = dynamic_cast<const SubReport *>(control.get());
+        auto *subReport = dynamic_cast<SubReport *>(control.get());
         if (!subReport || !subReport->Visible || !subReport->Object) continue;
         Bands bands = compose(*subReport->Object);
         subReport->Object->ReportEnd();
+        // Its controls take more room than what they have shown, and a batch has hundreds of reports.
+        subReport->Object.reset();
         for (const auto &band : bands)
             for (Element &element : band->elements)
                 element.box.translate(subReport->Left, 0);
@@ -149,6 +151,7 @@ void Composer::addBands(const Section &section, const SectionLayout &layout,
     int top = 0;
     const auto addBand = [&](std::size_t part, int bottom) {
         auto band = std::make_shared<Band>();
+        if (breaks.empty()) band->elements.reserve(layout.controls.size());
         for (const PlacedControl &placed : layout.controls) {
             if (breaksSection(*placed.control)) continue;
             const auto isAbove = [&placed](const PlacedControl *cut) {

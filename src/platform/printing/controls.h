@@ -64,7 +64,7 @@ public:
 
 /// Holds a report, which is run when the section is laid out, one after the other in the order of the
 /// controls. Its page header and footer are not printed. It takes the whole width of its section from its Top
-/// down and goes over pages; without a report it shrinks to nothing.
+/// down and goes over pages; without a report it shrinks to nothing. Once run, the report is let go.
 class SubReport : public Control {
 public:
     SubReport() { CanGrow = CanShrink = true; }

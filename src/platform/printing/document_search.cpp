@@ -17,29 +17,7 @@ int ownLength(const Element &element, const TextLine &line) {
     return int(end - line.text.begin());
 }
 
-} // namespace
-
-std::vector<TextMatch> findText(const Document &document, const QString &text) {
-    std::vector<TextMatch> matches;
-    if (text.isEmpty()) return matches;
-    for (int page = 0; page < int(document.pages.size()); ++page) {
-        const std::vector<Element> &elements = document.pages[std::size_t(page)].elements;
-        for (int i = 0; i < int(elements.size()); ++i) {
-            if (elements[std::size_t(i)].lines.empty()) continue;
-            QString searched = elements[std::size_t(i)].text;
-            searched.replace(QLatin1Char('\n'), QLatin1Char(' '));
-            for (qsizetype at = searched.indexOf(text, 0, Qt::CaseInsensitive); at >= 0;
-                 at = searched.indexOf(text, at + text.size(), Qt::CaseInsensitive))
-                if (const TextMatch match{page, i, int(at), int(text.size())};
-                    !matchAreas(document, match).empty())
-                    matches.push_back(match);
-        }
-    }
-    return matches;
-}
-
-std::vector<QRectF> matchAreas(const Document &document, const TextMatch &match) {
-    const Element &element = document.pages[std::size_t(match.page)].elements[std::size_t(match.element)];
+std::vector<QRectF> areasOf(const Element &element, const TextMatch &match) {
     const QFontMetricsF metrics(twipsFont(element.Font));
     std::vector<QRectF> areas;
     for (const TextLine &line : element.lines) {
@@ -52,6 +30,32 @@ std::vector<QRectF> matchAreas(const Document &document, const TextMatch &match)
                            line.height);
     }
     return areas;
+}
+
+} // namespace
+
+std::vector<TextMatch> findText(const Document &document, const QString &text) {
+    std::vector<TextMatch> matches;
+    if (text.isEmpty()) return matches;
+    for (int page = 0; page < int(document.pages.size()); ++page) {
+        int i = -1;
+        for (const Element &element : document.pages[std::size_t(page)].elements) {
+            ++i;
+            if (element.lines.empty()) continue;
+            QString searched = element.text;
+            searched.replace(QLatin1Char('\n'), QLatin1Char(' '));
+            for (qsizetype at = searched.indexOf(text, 0, Qt::CaseInsensitive); at >= 0;
+                 at = searched.indexOf(text, at + text.size(), Qt::CaseInsensitive))
+                if (const TextMatch match{page, i, int(at), int(text.size())};
+                    !areasOf(element, match).empty())
+                    matches.push_back(match);
+        }
+    }
+    return matches;
+}
+
+std::vector<QRectF> matchAreas(const Document &document, const TextMatch &match) {
+    return areasOf(document.pages[std::size_t(match.page)].elements[std::size_t(match.element)], match);
 }
 
 } // namespace Printing

@@ -50,8 +50,9 @@ void paintText(QPainter &painter, const Element &element) {
 void paintPage(QPainter &painter, const Page &page) {
     painter.save();
     const QRectF clip = painter.hasClipping() ? painter.clipBoundingRect() : QRectF();
+    const std::vector<Element> elements = page.elements;
     std::vector<const Element *> visible;
-    for (const Element &element : page.elements) {
+    for (const Element &element : elements) {
         const QRectF reach =
             QRectF(element.box).adjusted(-HairlineWidth, -HairlineWidth, HairlineWidth, HairlineWidth);
         if (clip.isNull() || clip.intersects(reach)) visible.push_back(&element);

@@ -88,7 +88,7 @@ std::vector<int> Paginator::freeHeights(bool withKeepTogether) const {
 }
 
 void Paginator::beginPage() {
-    m_document.pages.emplace_back();
+    m_document.pages.push_back({PackedList<Element>(m_store)});
     const PageSettings &paper = m_document.pageSettings;
     const Band header = pageSections(SectionType::PageHeader);
     const Band footer = pageSections(SectionType::PageFooter);
@@ -181,11 +181,9 @@ Band Paginator::pageSections(SectionType type) {
 }
 
 void Paginator::putOnPage(const std::vector<Element> &elements, int top) {
-    for (const Element &element : elements) {
-        Element placed = element;
-        placed.box.translate(m_document.pageSettings.LeftMargin, top);
-        m_document.pages.back().elements.push_back(std::move(placed));
-    }
+    const QPoint offset(m_document.pageSettings.LeftMargin, top);
+    for (const Element &element : elements)
+        m_document.pages.back().elements.append(element, offset);
 }
 
 void Paginator::fillInPageTotal() {
@@ -198,8 +196,14 @@ void Paginator::fillInPageTotal() {
             arrangeLines(element);
         }
     };
-    for (Page &page : m_document.pages)
-        fillIn(page.elements);
+    for (Page &page : m_document.pages) {
+        std::vector<Element> elements = page.elements;
+        fillIn(elements);
+        page.elements.clear();
+        for (const Element &element : elements)
+            page.elements.append(element);
+        page.elements.squeeze();
+    }
     for (std::vector<Row> *rows : {&m_document.pageHeader, &m_document.pageFooter})
         for (Row &row : *rows)
             fillIn(row.cells);

@@ -28,6 +28,7 @@ private:
 
     Report &m_report;
     const Bands &m_bands;
+    const std::shared_ptr<PackedStore> m_store = std::make_shared<PackedStore>();
     Document m_document;
     int m_y = 0;      // from the paper's upper edge
     int m_top = 0;    // of the body

@@ -4,6 +4,7 @@
 
 #include <QCryptographicHash>
 
+#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
@@ -95,14 +96,32 @@ Object identifier(const Document &document) {
     return Object::newArray({half, half});
 }
 
-QByteArray written(QPDF &pdf) {
+/// Into the bytes themselves: the library's own buffer would be copied twice on the way.
+class BytesPipeline : public Pipeline {
+public:
+    explicit BytesPipeline(QByteArray &bytes)
+        : Pipeline("bytes", nullptr)
+        , m_bytes(bytes) {}
+    void write(const unsigned char *data, std::size_t size) override {
+        m_bytes.append(reinterpret_cast<const char *>(data), qsizetype(size));
+    }
+    void finish() override {}
+
+private:
+    QByteArray &m_bytes;
+};
+
+/// `room` is about what it takes.
+QByteArray written(QPDF &pdf, qsizetype room) {
+    QByteArray bytes;
+    bytes.reserve(room);
+    BytesPipeline pipeline(bytes);
     QPDFWriter writer(pdf);
     // Its own second half of the identifier would follow from the date, or from chance.
     writer.setStaticID(true);
-    writer.setOutputMemory();
+    writer.setOutputPipeline(&pipeline);
     writer.write();
-    const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
-    return {reinterpret_cast<const char *>(buffer->getBuffer()), qsizetype(buffer->getSize())};
+    return bytes;
 }
 
 } // namespace
@@ -123,7 +142,7 @@ QByteArray withOutline(const QByteArray &bytes, const Document &document) {
         // Newer versions of Qt say it once more as XMP, with an identity by chance and without the author.
         pdf.getRoot().removeKey("/Metadata");
         if (!document.headings.empty()) addOutline(pdf, document);
-        return written(pdf);
+        return written(pdf, bytes.size());
     } catch (const std::runtime_error &) { // its own QPDFExc, or since version 12 the base of that
         throw RuntimeError(321);
     }

@@ -1,7 +1,5 @@
 #include "platform/printing/picture.h"
 
-#include <memory>
-
 #include <QPicture>
 #include <QSvgRenderer>
 
@@ -22,9 +20,8 @@ QImage blankImage(const QSize &pixels) {
 }
 
 Picture::Picture(Painting painting, const QSizeF &size)
-    : m_painting(std::move(painting))
-    , m_size(size) {
-    if (m_size.isEmpty()) m_painting = nullptr;
+    : m_size(size) {
+    if (!m_size.isEmpty()) m_painting = std::make_shared<const Painting>(std::move(painting));
 }
 
 Picture Picture::fromImage(const QImage &image) {
@@ -61,7 +58,7 @@ void Picture::paint(QPainter &painter, const QRectF &target) const {
     painter.translate(target.center().x() - fitted.width() / 2, target.center().y() - fitted.height() / 2);
     painter.scale(fitted.width() / m_size.width(), fitted.height() / m_size.height());
     painter.setRenderHint(QPainter::Antialiasing);
-    m_painting(painter, m_size);
+    (*m_painting)(painter, m_size);
     painter.restore();
 }
 

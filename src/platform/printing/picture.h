@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QByteArray>
 #include <QColor>
@@ -24,6 +25,8 @@ public:
     static Picture record(const Painting &painting, const QSizeF &size);
 
     bool isNull() const { return !m_painting; }
+    /// Whether the one is a copy of the other.
+    bool isSame(const Picture &other) const { return m_painting == other.m_painting; }
     /// Draws into the middle of `target` (in twips, as the painter's coordinates), as large as the picture's
     /// proportions allow.
     void paint(QPainter &painter, const QRectF &target) const;
@@ -33,7 +36,7 @@ public:
 private:
     Picture(Painting painting, const QSizeF &size);
 
-    Painting m_painting;
+    std::shared_ptr<const Painting> m_painting;
     QSizeF m_size; // in pixels
 };
 

@@ -100,7 +100,7 @@ Block::Kind kindOf(const Row &row) {
 }
 
 bool continues(const Block &block, Block::Kind kind, const Row &row) {
-    return block.kind == kind && kind != Block::Kind::Paragraph &&
+    return !block.rows.empty() && block.kind == kind && kind != Block::Kind::Paragraph &&
            row.top() - block.rows.back().bottom() <= LargestRowGap;
 }
 
@@ -176,11 +176,19 @@ std::vector<Row> rowsOf(const std::vector<Element> &elements) {
     return rows;
 }
 
-std::vector<Block> blocksOf(const Bands &bands) {
-    std::vector<Block> blocks;
+PackedList<Block> blocksOf(const Bands &bands) {
+    PackedList<Block> blocks;
+    Block block; // may still grow, unless it has no rows
+    const auto begin = [&](Block::Kind kind) {
+        if (!block.rows.empty()) blocks.append(block);
+        block = {kind, {}};
+    };
     int bandTop = 0;
     for (const auto &band : bands) {
-        if (band->pageBreakBefore) blocks.push_back({Block::Kind::PageBreak, {}});
+        if (band->pageBreakBefore) {
+            begin(Block::Kind::PageBreak);
+            blocks.append(block);
+        }
         std::vector<Row> rows = rowsOf(band->elements);
         for (Row &row : rows) {
             row.keepWithNext = band->keepHeight > 0 && &row != &rows.back();
@@ -188,11 +196,13 @@ std::vector<Block> blocksOf(const Bands &bands) {
                 cell.box.translate(0, bandTop);
             row.isHeading = band->isRepeatedHeading;
             const Block::Kind kind = kindOf(row);
-            if (blocks.empty() || !continues(blocks.back(), kind, row)) blocks.push_back({kind, {}});
-            blocks.back().rows.push_back(std::move(row));
+            if (!continues(block, kind, row)) begin(kind);
+            block.rows.push_back(std::move(row));
         }
         bandTop += band->height;
     }
+    if (!block.rows.empty()) blocks.append(block);
+    blocks.squeeze();
     return blocks;
 }
 

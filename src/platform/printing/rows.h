@@ -13,6 +13,6 @@ void sortForReading(std::vector<Element> &elements);
 std::vector<Row> rowsOf(const std::vector<Element> &elements);
 
 /// The content in its logical order: rows with borders one below the other are a table.
-std::vector<Block> blocksOf(const Bands &bands);
+PackedList<Block> blocksOf(const Bands &bands);
 
 } // namespace Printing

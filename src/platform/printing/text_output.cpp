@@ -1,5 +1,7 @@
 #include "platform/printing/text_output.h"
 
+#include <optional>
+
 #include "platform/printing/text_grid.h"
 #include "platform/runtime/whole_file.h"
 
@@ -46,10 +48,10 @@ QString gridText(const Document &document) {
         lines += block;
     };
     if (!document.pageHeader.empty()) add(gridLines({Block::Kind::Aligned, document.pageHeader}));
-    const Block *above = nullptr;
-    for (const Block &block : document.blocks) {
+    std::optional<Block> above;
+    for (Block block : document.blocks) {
         add(blockLines(block), above && isNextLine(*above, block));
-        above = &block;
+        above = std::move(block);
     }
     if (!document.pageFooter.empty()) add(gridLines({Block::Kind::Aligned, document.pageFooter}));
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');

@@ -24,6 +24,7 @@ struct BorderStyles {
     int BottomStyle = 0;
     int LeftStyle = 0;
 
+    bool operator==(const BorderStyles &) const = default;
     bool any() const { return TopStyle != 0 || RightStyle != 0 || BottomStyle != 0 || LeftStyle != 0; }
     static BorderStyles all() { return {1, 1, 1, 1}; }
 };
