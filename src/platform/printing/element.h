@@ -77,4 +77,9 @@ struct Block {
     std::vector<Row> rows;
 };
 
+/// Whether its place is seen without its text.
+inline bool isFramed(const Element &element) {
+    return element.Border.any() || element.BackStyle != 0;
+}
+
 } // namespace Printing

@@ -15,10 +15,6 @@ bool isText(const Element &element) {
     return !element.isRule && element.pictureSize.isEmpty();
 }
 
-bool isFramed(const Element &element) {
-    return element.Border.any() || element.BackStyle != 0;
-}
-
 bool holdsHeight(const QRect &box, int y) {
     return y >= box.top() && y < box.top() + box.height();
 }

@@ -21,10 +21,6 @@ constexpr int NarrowPadding = 15;
 constexpr double SmallestFont = 4;
 constexpr QChar Ellipsis(0x2026);
 
-bool isFramed(const Element &element) {
-    return element.Border.any() || element.BackStyle != 0;
-}
-
 int sidePadding(const Element &element) {
     if (!isFramed(element)) return 0;
     return isNarrow(element) ? NarrowPadding : SidePadding;
