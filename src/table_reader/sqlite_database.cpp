@@ -201,8 +201,12 @@ bool SqliteDatabase::goesOn() {
 }
 
 void SqliteDatabase::refuse() const {
-    if (sqlite3_errcode(m_database.get()) == SQLITE_INTERRUPT) throw SqliteRefused("a view takes too long");
-    throw SqliteRefused(sqlite3_errmsg(m_database.get()));
+    const int error = sqlite3_errcode(m_database.get());
+    if (error == SQLITE_INTERRUPT) throw SqliteRefused("a view takes too long");
+    const std::string reason = sqlite3_errmsg(m_database.get());
+    // A page that it still has, though it found its cells to be wrong, SQLite takes for good the next time.
+    if (error == SQLITE_CORRUPT) sqlite3_db_release_memory(m_database.get());
+    throw SqliteRefused(reason);
 }
 
 std::string SqliteDatabase::quoted(const std::string &name) {

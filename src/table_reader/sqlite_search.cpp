@@ -145,12 +145,19 @@ void SqliteSearch::note(Way &way, std::uint64_t rows) const {
     std::string from = SqliteDatabase::quoted(m_table.name) + " NOT INDEXED";
     if (way.lastNoted) from += " WHERE " + m_table.rowNumber + " > " + std::to_string(*way.lastNoted);
     bool hasRoom = true;
-    way.isNoted = m_database.visit(values, from, [&](const SqliteDatabase::Row &row) {
-        const std::int64_t number = row[0].integer();
-        checkOrder(way.lastNoted, number);
-        hasRoom = way.runs.add(number, markOf(row, way.columns));
-        return hasRoom && --rows > 0;
-    });
+    try {
+        way.isNoted = m_database.visit(values, from, [&](const SqliteDatabase::Row &row) {
+            const std::int64_t number = row[0].integer();
+            checkOrder(way.lastNoted, number);
+            hasRoom = way.runs.add(number, markOf(row, way.columns));
+            return hasRoom && --rows > 0;
+        });
+    } catch (...) {
+        // The next one would go on behind the fault, and nobody hear of the rows that are lost there.
+        way.runs = {};
+        way.lastNoted.reset();
+        throw;
+    }
     if (!hasRoom) way = {way.columns, Way::Kind::Asking, select(integersOf(way.columns)), {}, {}, true};
 }
 
