@@ -11,6 +11,7 @@
 
 #include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
+#include "tests/fuzz/claim.h"
 
 namespace fuzz {
 
@@ -34,13 +35,6 @@ inline void setRegion(int which) {
                                                {',', QChar(0x202f), "dd/MM/yyyy", "HH:mm:ss"},
                                                {'.', QChar(), "yyyy-MM-dd", "HH:mm:ss"}};
     RegionalSettings::setCurrent(regions[which & 3]);
-}
-
-/// Ends the run where a claim does not hold; libFuzzer keeps the input.
-inline void expect(bool holds, const char *claim) {
-    if (holds) return;
-    std::fprintf(stderr, "does not hold: %s\n", claim);
-    std::abort();
 }
 
 /// Makes the call, which may raise these errors and no other.
