@@ -49,15 +49,18 @@ double decimal(const CellBytes &cell, unsigned scale) {
 RowWriter::RowWriter(const AccessFile &file, const Table &table)
     : m_table(table)
     , m_texts(file.texts())
-    , m_longValues(file) {}
+    , m_longValues(file)
+    , m_limit(file.identity().size) {}
 
 void RowWriter::write(const Row &row, Reply &reply) {
+    const std::size_t before = reply.size();
     const std::size_t nulls = reply.zeros((m_table.columns.size() + 7) / 8);
     std::size_t bit = 0;
     for (const Column &column : m_table.columns) { // their number is not asked for again after each cell
         if (!writeCell(column, row, reply)) reply.setBit(nulls, bit);
         ++bit;
     }
+    if (!m_limit.take(reply.size() - before)) throw Damaged("more rows than the file can hold");
     reply.endRow();
 }
 

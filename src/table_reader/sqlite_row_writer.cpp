@@ -13,9 +13,6 @@ using TableProtocol::StoredKind;
 namespace {
 
 constexpr std::size_t LongestTexts = 16u << 20; // all of a row, in bytes as they are stored
-constexpr std::uint64_t LeastAnswer = 16u << 20;
-constexpr std::uint64_t AnswersPerFile = 16;
-constexpr std::size_t LeastRow = 16; // what a row costs its reader at least
 
 bool isText(CellType type) {
     return type == CellType::Text || type == CellType::Memo;
@@ -61,10 +58,6 @@ void writeText(const SqliteValue &value, Reply &reply) {
 
 } // namespace
 
-void SqliteRowWriter::restart() {
-    m_left = LeastAnswer + AnswersPerFile * m_fileSize;
-}
-
 void SqliteRowWriter::write(const SqliteStatement &row, Reply &reply) {
     // Once in a frame, the other form goes on to its end: it serves every row.
     const bool goesOn = reply.size() > 0 && reply.rowsKind() == TableProtocol::Reply::StoredRows;
@@ -80,8 +73,7 @@ void SqliteRowWriter::write(const SqliteStatement &row, Reply &reply) {
 }
 
 void SqliteRowWriter::charge(std::size_t bytes) {
-    if (bytes + LeastRow > m_left) throw SqliteRefused("a table gives more rows than the file can hold");
-    m_left -= bytes + LeastRow;
+    if (!m_limit.take(bytes)) throw SqliteRefused("a table gives more rows than the file can hold");
 }
 
 bool SqliteRowWriter::isPlain(const SqliteStatement &row) const {

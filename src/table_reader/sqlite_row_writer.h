@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "table_reader/answer_limit.h"
 #include "table_reader/reply.h"
 #include "table_reader/sqlite_file.h"
 
@@ -12,11 +13,10 @@ class SqliteRowWriter {
 public:
     SqliteRowWriter(const SqliteTable &table, std::uint64_t fileSize)
         : m_table(table)
-        , m_fileSize(fileSize) {}
+        , m_limit(fileSize) {}
 
-    /// A new answer begins. The rows of a table take about as much as the file; a view can give out the same
-    /// value any number of times, and never end.
-    void restart();
+    /// A new answer begins.
+    void restart() { m_limit.restart(); }
     /// Raises SqliteRefused where the answer gets too long.
     void write(const SqliteStatement &row, Reply &reply);
     /// The same for a row that was looked at, and is none of the answer's.
@@ -29,6 +29,5 @@ private:
     void writeStored(const SqliteStatement &row, Reply &reply) const;
 
     const SqliteTable &m_table;
-    std::uint64_t m_fileSize;
-    std::uint64_t m_left = 0;
+    AnswerLimit m_limit;
 };
