@@ -41,6 +41,11 @@ void readTables(const AccessFile &file) {
 
 } // namespace
 
+extern "C" int LLVMFuzzerInitialize(int *, char ***) {
+    fuzz::allowAnyProcessorTime();
+    return 0;
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     const fuzz::MemoryFile input(data, size);
     try {

@@ -59,6 +59,11 @@ std::size_t pageSizeOf(const std::uint8_t *data, std::size_t size) {
 
 } // namespace
 
+extern "C" int LLVMFuzzerInitialize(int *, char ***) {
+    fuzz::allowAnyProcessorTime();
+    return 0;
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     const fuzz::MemoryFile input(data, size);
     if (SqliteDatabase::isSqlite(input.descriptor()))

@@ -1,6 +1,7 @@
 // Asks for the rows of any table as the main program does, and compares what comes.
 #pragma once
 
+#include <csignal>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -16,6 +17,12 @@
 #include "tests/fuzz/claim.h"
 
 namespace fuzz {
+
+/// What ends the helper where it takes too long would end the run without a word of the input; libFuzzer
+/// keeps time by itself.
+inline void allowAnyProcessorTime() {
+    std::signal(SIGXCPU, SIG_IGN);
+}
 
 /// A file that lies in memory.
 class MemoryFile {
