@@ -1,7 +1,6 @@
 #include "table_reader/table_search.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "table_reader/bytes.h"
 #include "table_reader/damaged.h"
@@ -136,8 +135,8 @@ TableSearch::Match TableSearch::match(const Row &row, const std::vector<Conditio
         const Column &column = m_table.columns[conditions[i].column];
         const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
         if (!cell.data) return {false, NoGroup};
-        isLast = isLast && cell.size == m_lastKey[i].size() &&
-                 std::memcmp(cell.data, m_lastKey[i].data(), cell.size) == 0;
+        isLast =
+            isLast && std::equal(cell.data, cell.data + cell.size, m_lastKey[i].begin(), m_lastKey[i].end());
         m_cells[i] = cell;
     }
     if (isLast) return m_lastMatch;

@@ -126,6 +126,15 @@ TEST(AccessLayout, MemosOfAnyLengthAreWhole) {
     EXPECT_EQ(errorOf([&] { memoWith(endless); }), 3343);
 }
 
+TEST(AccessLayout, RowsOfAnEmptyKeyAreFound) {
+    const QTemporaryDir folder;
+    const QByteArray file = JetFile(JetFile::Version::Access2000)
+                                .make("T", {{"id", JetFile::Type::Long}, {"name", JetFile::Type::Text}},
+                                      {{1, ""}, {2, ""}, {3, QVariant()}, {4, "a"}, {5, ""}});
+    SampleSource source(writeFile(folder, "empty.mdb", file));
+    EXPECT_EQ(rowTexts(matchingRows(source, "T", {{"name", ""}})), rowTexts({{1, ""}, {2, ""}, {5, ""}}));
+}
+
 TEST(AccessLayout, EmptyTextIsNotNull) {
     QByteArray file = fileBytes(Main);
     mdbPages::put(file, memoHead(file), quint32(0x80000000));
