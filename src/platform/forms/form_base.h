@@ -71,8 +71,8 @@ public:
     /// Runs Form_QueryUnload and Form_Unload, and unless one of them cancels, takes the form out of the
     /// collection and off the screen. True when the form is gone; a second call during the first is harmless.
     bool Unload(UnloadMode mode = vbFormCode);
-    /// The same for one of many, none of whose procedures is running: what it takes is free on return, and not
-    /// only when the event loop is reached.
+    /// The same for one of many, none of whose procedures is running: what it takes is free on return, and
+    /// not only when the event loop is reached.
     bool UnloadAtOnce();
 
     bool isLoaded() const { return m_phase == Phase::Loading || m_phase == Phase::Loaded; }
