@@ -34,10 +34,9 @@ enum class Request : std::uint8_t {
 enum class Reply : std::uint8_t {
     /// The answer to Open. Whether the helper has shut itself in (8 bits); the file's FileIdentity; number of
     /// tables (16 bits), and for each one its name, its rows (32 bits) or NotCounted, the number of its
-    /// columns
-    /// (16 bits; 0 where Columns is to be asked for), and for each of these its name, a CellType and its size
-    /// in characters (16 bits). Then the number of the other things that could be taken for tables (16 bits),
-    /// and for each one its name and an OtherKind.
+    /// columns (16 bits; 0 where Columns is to be asked for), and for each of these its name, a CellType and
+    /// its size in characters (16 bits). Then the number of the other things that could be taken for tables
+    /// (16 bits), and for each one its name and an OtherKind.
     Catalog = 1,
     /// Any number of whole rows. A row is one bit for each column, set where it is Null, in whole bytes from
     /// the lowest bit, and then the other columns' values.
