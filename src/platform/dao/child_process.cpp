@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <vector>
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -26,15 +25,6 @@ constexpr qsizetype BufferSize = 256 * 1024;
 constexpr int AboveTheChilds = 16;
 // A child that waits for a medium uses next to none of the time that passes, one that spins all it can get.
 constexpr int BusyShare = 20;
-
-/// This program's environment without what would change the way in which the child reads.
-std::vector<char *> childEnvironment() {
-    std::vector<char *> kept;
-    for (char **entry = environ; *entry; ++entry)
-        if (std::strncmp(*entry, "MDB", 3) != 0) kept.push_back(*entry);
-    kept.push_back(nullptr);
-    return kept;
-}
 
 class SpawnSettings {
 public:
@@ -88,8 +78,8 @@ int ChildProcess::start(int file, int asFile) {
     const int childsEnd = fcntl(ends[1], F_DUPFD_CLOEXEC, AboveTheChilds);
     const int childsFile = fcntl(file, F_DUPFD_CLOEXEC, AboveTheChilds);
     const SpawnSettings settings(childsEnd, childsFile, asFile);
-    const int failure = posix_spawn(&m_id, program.constData(), &settings.actions, &settings.attributes,
-                                    arguments, childEnvironment().data());
+    const int failure =
+        posix_spawn(&m_id, program.constData(), &settings.actions, &settings.attributes, arguments, environ);
     for (const int inherited : {ends[1], childsEnd, childsFile})
         if (inherited >= 0) close(inherited);
     if (failure != 0) {

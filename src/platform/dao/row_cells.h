@@ -16,12 +16,7 @@ public:
         , m_row(row) {}
 
     qsizetype size() const { return m_columns.size(); }
-    bool isNull(qsizetype position) const { return m_rows.isNull(m_row, m_columns[position]); }
     QVariant operator[](qsizetype position) const { return m_rows.cell(m_row, m_columns[position]); }
-    /// See TableColumns.
-    qint32 integer(qsizetype position) const { return m_rows.integer(m_row, m_columns[position]); }
-    double number(qsizetype position) const { return m_rows.number(m_row, m_columns[position]); }
-    std::string_view text(qsizetype position) const { return m_rows.text(m_row, m_columns[position]); }
 
 private:
     const TableColumns &m_rows;
