@@ -6,11 +6,17 @@
 
 namespace {
 
+constexpr std::size_t MarkSize = 2;
+
 void decodeUnits(const std::uint8_t *stored, std::size_t size, std::u16string &text) {
     if (size % 2 != 0) throw Damaged("half a character");
     text.resize(size / 2);
     for (std::size_t i = 0; i < text.size(); ++i)
         text[i] = static_cast<char16_t>(bytes::u16(stored + 2 * i));
+}
+
+bool isCompressed(const std::uint8_t *stored, std::size_t size) {
+    return size >= MarkSize && stored[0] == 0xff && stored[1] == 0xfe;
 }
 
 /// A compressed text holds its units as their low bytes; a zero byte switches to whole units and back.
@@ -58,8 +64,15 @@ CellText CellText::ofCodePage(unsigned codePage) {
 void CellText::decode(const std::uint8_t *stored, std::size_t size, std::u16string &text) const {
     if (m_bytesAreCharacters)
         decodeBytes(stored, size, m_upperHalf, text);
-    else if (size >= 2 && stored[0] == 0xff && stored[1] == 0xfe)
-        decodeCompressed(stored + 2, size - 2, text);
+    else if (isCompressed(stored, size))
+        decodeCompressed(stored + MarkSize, size - MarkSize, text);
     else
         decodeUnits(stored, size, text);
+}
+
+std::optional<std::string_view> CellText::bytesOf(const std::uint8_t *stored, std::size_t size) const {
+    if (m_bytesAreCharacters || !isCompressed(stored, size)) return {};
+    const std::string_view bytes(reinterpret_cast<const char *>(stored + MarkSize), size - MarkSize);
+    if (bytes.find('\0') != std::string_view::npos) return {};
+    return bytes;
 }

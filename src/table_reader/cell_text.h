@@ -3,7 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 class CellText {
 public:
@@ -14,6 +16,8 @@ public:
 
     /// Overwrites `text`. Raises Damaged for bytes that are no text.
     void decode(const std::uint8_t *bytes, std::size_t size, std::u16string &text) const;
+    /// The text as it is stored, where each of its bytes is a character, of Latin-1 at most: as most are.
+    std::optional<std::string_view> bytesOf(const std::uint8_t *bytes, std::size_t size) const;
 
 private:
     CellText(bool bytesAreCharacters, const char16_t *upperHalf)

@@ -10,8 +10,9 @@
 #include "table_reader/damaged.h"
 
 namespace {
-constexpr std::uint32_t LongestRun = 64;
-}
+/// What is read is looked at while the processor still holds it close by.
+constexpr std::uint32_t LongestRun = 16;
+} // namespace
 
 Pages::Pages(const AccessHeader &header, int file)
     : m_file(file)

@@ -6,22 +6,17 @@
 #include "table_reader/damaged.h"
 #include "table_reader/key_match.h"
 
-using keyMatch::folded;
 using keyMatch::isAscii;
+using keyMatch::mayBeEqual;
 
 namespace {
 
 constexpr std::size_t PagesBetweenLooks = 64;
 
 /// False where the text has characters whose other capitals are not known here.
-bool addText(KeyHash &hash, const std::u16string &text) {
-    bool known = true;
-    for (const char16_t unit : text) {
-        known = known && isAscii(unit);
-        hash.add(folded(unit));
-    }
-    hash.add(text.size());
-    return known;
+bool addText(KeyHash &hash, std::u16string_view text) {
+    keyMatch::addNarrow(hash, keyMatch::narrowed(text));
+    return std::all_of(text.begin(), text.end(), [](char16_t unit) { return isAscii(unit); });
 }
 
 std::int32_t integerOf(const Column &column, const CellBytes &cell) {
@@ -40,6 +35,7 @@ std::int32_t integerOf(const Column &column, const CellBytes &cell) {
 
 TableSearch::TableSearch(const AccessFile &file, const Table &table)
     : m_table(table)
+    , m_jet3(file.isJet3())
     , m_texts(file.texts())
     , m_scan(file, table)
     , m_writer(file, table) {}
@@ -48,7 +44,7 @@ TableSearch::PageGroups &TableSearch::start(std::vector<Condition> &conditions) 
     std::sort(conditions.begin(), conditions.end(),
               [](const Condition &a, const Condition &b) { return a.column < b.column; });
     m_cells.resize(conditions.size());
-    m_lastKey.clear();
+    m_lastKey.start(m_table, m_jet3, conditions);
     m_lastInteger.reset();
     std::vector<std::size_t> columns;
     for (const Condition &condition : conditions)
@@ -129,21 +125,14 @@ void TableSearch::add(Groups &groups, int group) {
 TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
     if (conditions.empty()) return {true, AnyGroup};
     if (conditions.size() == 1 && !conditions.front().isText) return matchInteger(row, conditions.front());
-    // Rows of one key mostly follow one another.
-    bool isLast = m_lastKey.size() == conditions.size();
+    if (m_lastKey.isOf(row)) return m_lastMatch;
     for (std::size_t i = 0; i < conditions.size(); ++i) {
         const Column &column = m_table.columns[conditions[i].column];
-        const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
-        if (!cell.data) return {false, NoGroup};
-        isLast =
-            isLast && std::equal(cell.data, cell.data + cell.size, m_lastKey[i].begin(), m_lastKey[i].end());
-        m_cells[i] = cell;
+        m_cells[i] = row.bit(column) ? row.cell(column) : CellBytes();
+        if (!m_cells[i].data) return {false, NoGroup};
     }
-    if (isLast) return m_lastMatch;
     m_lastMatch = compare(m_cells, conditions);
-    m_lastKey.resize(conditions.size());
-    for (std::size_t i = 0; i < conditions.size(); ++i)
-        m_lastKey[i].assign(m_cells[i].data, m_cells[i].data + m_cells[i].size);
+    m_lastKey.take(row);
     return m_lastMatch;
 }
 
@@ -169,10 +158,15 @@ TableSearch::Match TableSearch::compare(const std::vector<CellBytes> &cells,
     bool known = true;
     for (std::size_t i = 0; i < conditions.size(); ++i) {
         if (conditions[i].isText) {
-            m_texts.decode(cells[i].data, cells[i].size, m_text);
-            known = addText(key, m_text) && known;
-            result.found =
-                result.found && keyMatch::mayBeEqual<char16_t, char16_t>(m_text, conditions[i].text);
+            const std::u16string_view wanted = conditions[i].text;
+            if (const auto bytes = m_texts.bytesOf(cells[i].data, cells[i].size)) {
+                known = keyMatch::addNarrow(key, *bytes) && known;
+                result.found = result.found && mayBeEqual(*bytes, wanted);
+            } else {
+                m_texts.decode(cells[i].data, cells[i].size, m_text);
+                known = addText(key, m_text) && known;
+                result.found = result.found && mayBeEqual(std::u16string_view(m_text), wanted);
+            }
         } else {
             const std::int32_t value = integerOf(m_table.columns[conditions[i].column], cells[i]);
             key.add(static_cast<std::uint32_t>(value));

@@ -11,6 +11,7 @@
 #include "table_reader/access_file.h"
 #include "table_reader/cell_text.h"
 #include "table_reader/condition.h"
+#include "table_reader/last_key.h"
 #include "table_reader/reply.h"
 #include "table_reader/row.h"
 #include "table_reader/row_writer.h"
@@ -59,12 +60,13 @@ private:
     Match compare(const std::vector<CellBytes> &cells, const std::vector<Condition> &conditions);
 
     const Table &m_table;
+    bool m_jet3;
     CellText m_texts;
     TableScan m_scan;
     RowWriter m_writer;
     std::vector<PageGroups> m_groups;
     std::vector<CellBytes> m_cells;
-    std::vector<std::vector<std::uint8_t>> m_lastKey; // the stored bytes of the cells compared last
+    LastKey m_lastKey;
     std::optional<std::int32_t> m_lastInteger;
     Match m_lastMatch;
     std::u16string m_text;

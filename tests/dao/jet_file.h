@@ -65,7 +65,7 @@ public:
         , m_manner(manner) {}
 
     /// A file with one table, whose rows fit in a page. The cell of a Decimal is its text, that of a type
-    /// without texts or numbers its bytes.
+    /// without texts or numbers its bytes, as a Text's may be.
     QByteArray make(const QByteArray &table, const Columns &columns, const Rows &rows,
                     const QVector<Object> &others = {}) const {
         const Columns catalog = {{"Id", Type::Long},
@@ -299,7 +299,7 @@ private:
         case Type::Decimal:
             return decimal(cell.toString(), column.scale);
         case Type::Text:
-            return text(cell.toString());
+            return cell.typeId() == QMetaType::QByteArray ? cell.toByteArray() : text(cell.toString());
         case Type::Memo:
             return word(quint32(text(cell.toString()).size()) | 0x80000000u) + QByteArray(8, '\0') +
                    text(cell.toString());

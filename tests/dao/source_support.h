@@ -102,3 +102,19 @@ inline std::vector<std::string> rowTexts(const Rows &rows) {
         texts.push_back(rowText(row));
     return texts;
 }
+
+/// What a search must find, from all rows.
+inline std::vector<std::string> expectedRows(const Rows &rows, const QVector<int> &columns,
+                                             const QVector<QVariant> &key) {
+    Rows found;
+    for (const QVector<QVariant> &row : rows) {
+        bool isMeant = true;
+        for (int i = 0; i < columns.size(); ++i) {
+            const QVariant &cell = row[columns[i]];
+            isMeant = isMeant && cell.isValid() &&
+                      cell.toString().compare(key[i].toString(), Qt::CaseInsensitive) == 0;
+        }
+        if (isMeant) found.append(row);
+    }
+    return rowTexts(found);
+}

@@ -33,22 +33,6 @@ QByteArray rowsOfKeys(const QByteArray &table, int count) {
     return "insert into " + table + " values " + rows.join(", ").toUtf8() + ";";
 }
 
-/// What a search must find, from all rows.
-std::vector<std::string> expectedRows(const Rows &rows, const QVector<int> &columns,
-                                      const QVector<QVariant> &key) {
-    Rows found;
-    for (const QVector<QVariant> &row : rows) {
-        bool isMeant = true;
-        for (int i = 0; i < columns.size(); ++i) {
-            const QVariant &cell = row[columns[i]];
-            isMeant = isMeant && cell.isValid() &&
-                      cell.toString().compare(key[i].toString(), Qt::CaseInsensitive) == 0;
-        }
-        if (isMeant) found.append(row);
-    }
-    return rowTexts(found);
-}
-
 } // namespace
 
 TEST(SqliteSearch, EveryWayFindsTheSameRows) {
