@@ -16,12 +16,9 @@ public:
         m_hash = (m_hash ^ value) * 0x9e3779b97f4a7c15u;
         m_hash ^= m_hash >> 29;
     }
-    int group() const { return static_cast<int>(mixed() >> 56); } // of 256
-    std::uint32_t value() const { return static_cast<std::uint32_t>(mixed() >> 32); }
+    std::uint32_t value() const { return static_cast<std::uint32_t>(m_hash * 0x9e3779b97f4a7c15u >> 32); }
 
 private:
-    std::uint64_t mixed() const { return m_hash * 0x9e3779b97f4a7c15u; }
-
     std::uint64_t m_hash = 0xcbf29ce484222325u;
 };
 

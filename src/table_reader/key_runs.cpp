@@ -16,9 +16,12 @@ bool KeyRuns::add(std::int64_t row, std::uint32_t mark) {
 
 std::vector<KeyRuns::Range> KeyRuns::ranges(std::uint32_t mark) const {
     constexpr std::int64_t Last = std::numeric_limits<std::int64_t>::max();
+    const auto canHold = [mark](std::uint32_t held) {
+        return held == mark || held == AnyKey || (mark == AnyKey && held != NoKey);
+    };
     std::vector<Range> found;
     for (std::size_t i = 0; i < m_marks.size(); ++i)
-        if (m_marks[i] == mark)
+        if (canHold(m_marks[i]))
             found.push_back({m_firsts[i], i + 1 < m_firsts.size() ? m_firsts[i + 1] - 1 : Last});
     return found;
 }

@@ -31,6 +31,18 @@ std::int32_t integerOf(const Column &column, const CellBytes &cell) {
     }
 }
 
+std::uint32_t markOf(const std::vector<Condition> &conditions) {
+    KeyHash key;
+    bool known = !conditions.empty();
+    for (const Condition &condition : conditions) {
+        if (condition.isText)
+            known = addText(key, condition.text) && known;
+        else
+            key.add(static_cast<std::uint32_t>(condition.integer));
+    }
+    return known ? KeyRuns::mark(key.value()) : KeyRuns::AnyKey;
+}
+
 } // namespace
 
 TableSearch::TableSearch(const AccessFile &file, const Table &table)
@@ -40,7 +52,7 @@ TableSearch::TableSearch(const AccessFile &file, const Table &table)
     , m_scan(file, table)
     , m_writer(file, table) {}
 
-TableSearch::PageGroups &TableSearch::start(std::vector<Condition> &conditions) {
+TableSearch::Notes &TableSearch::start(std::vector<Condition> &conditions) {
     std::sort(conditions.begin(), conditions.end(),
               [](const Condition &a, const Condition &b) { return a.column < b.column; });
     m_cells.resize(conditions.size());
@@ -49,37 +61,24 @@ TableSearch::PageGroups &TableSearch::start(std::vector<Condition> &conditions) 
     std::vector<std::size_t> columns;
     for (const Condition &condition : conditions)
         columns.push_back(condition.column);
-    const auto known = std::find_if(m_groups.begin(), m_groups.end(),
-                                    [&](const PageGroups &groups) { return groups.columns == columns; });
-    if (known != m_groups.end()) return *known;
-    m_groups.push_back({std::move(columns), {}, 0});
-    return m_groups.back();
+    const auto known = std::find_if(m_notes.begin(), m_notes.end(),
+                                    [&](const Notes &notes) { return notes.columns == columns; });
+    if (known != m_notes.end()) return *known;
+    m_notes.emplace_back();
+    m_notes.back().columns = std::move(columns);
+    return m_notes.back();
 }
 
 void TableSearch::run(std::vector<Condition> conditions, Reply &reply) {
     m_writer.restart();
-    PageGroups &groups = start(conditions);
-    KeyHash key;
-    bool known = true;
-    for (const Condition &condition : conditions) {
-        if (condition.isText)
-            known = addText(key, condition.text) && known;
-        else
-            key.add(static_cast<std::uint32_t>(condition.integer));
-    }
-    const auto mayHold = [&](const Groups &held) {
-        return known ? held.test(static_cast<std::size_t>(key.group())) : held.any();
-    };
-
-    for (std::size_t i = 0; i < m_scan.pages().size(); ++i) {
-        if (i >= groups.ofPage.size())
-            searchNewPage(groups, conditions, &reply);
-        else if (mayHold(groups.ofPage[i]))
-            searchPage(m_scan.pages()[i], conditions, &reply, nullptr);
-        if (i % PagesBetweenLooks == 0) reply.stillBusy();
+    Notes &notes = start(conditions);
+    searchNotedPages(notes, conditions, reply);
+    while (notes.pages < m_scan.pages().size()) {
+        searchNewPage(notes, conditions, &reply);
+        if (notes.pages % PagesBetweenLooks == 0) reply.stillBusy();
     }
     // A page that another use has taken, or that the map has lost, leaves no other trace than this.
-    if (groups.rows != m_table.rows) throw Damaged("rows that cannot be found");
+    if (notes.rows != m_table.rows) throw Damaged("rows that cannot be found");
 }
 
 bool TableSearch::lookAhead(const std::vector<std::size_t> &columns, std::size_t pages) {
@@ -88,48 +87,61 @@ bool TableSearch::lookAhead(const std::vector<std::size_t> &columns, std::size_t
         conditions[i].column = columns[i];
         conditions[i].isText = m_table.columns[columns[i]].type == TableProtocol::CellType::Text;
     }
-    PageGroups &groups = start(conditions);
-    for (; pages > 0 && groups.ofPage.size() < m_scan.pages().size(); --pages)
-        searchNewPage(groups, conditions, nullptr);
-    return groups.ofPage.size() < m_scan.pages().size();
+    Notes &notes = start(conditions);
+    for (; pages > 0 && notes.pages < m_scan.pages().size(); --pages)
+        searchNewPage(notes, conditions, nullptr);
+    return notes.pages < m_scan.pages().size();
 }
 
-void TableSearch::searchNewPage(PageGroups &groups, const std::vector<Condition> &conditions, Reply *reply) {
+void TableSearch::searchNewPage(Notes &notes, const std::vector<Condition> &conditions, Reply *reply) {
+    std::uint32_t last = KeyRuns::NoKey;
     std::uint64_t rows = 0;
-    groups.ofPage.push_back(searchPage(m_scan.pages()[groups.ofPage.size()], conditions, reply, &rows));
-    groups.rows += rows;
-}
-
-TableSearch::Groups TableSearch::searchPage(std::uint32_t page, const std::vector<Condition> &conditions,
-                                            Reply *reply, std::uint64_t *rows) {
-    Groups groups;
-    int last = NoGroup;
-    std::uint64_t count = 0;
-    m_scan.visit(page, [&](const Row &row) {
-        ++count;
+    const auto place = static_cast<std::int64_t>(notes.pages);
+    m_scan.visit(m_scan.pages()[notes.pages], [&](const Row &row) {
         const Match found = match(row, conditions);
-        if (found.group != last) add(groups, last = found.group);
+        if (notes.hasRoom && (rows == 0 || found.mark != last)) {
+            last = found.mark;
+            notes.hasRoom = notes.runs.add(place, last);
+        }
         if (found.found && reply) m_writer.write(row, *reply);
+        ++rows;
     });
-    if (rows) *rows = count;
-    return groups;
+    ++notes.pages;
+    notes.rows += rows;
 }
 
-void TableSearch::add(Groups &groups, int group) {
-    if (group == AnyGroup)
-        groups.set();
-    else if (group != NoGroup)
-        groups.set(static_cast<std::size_t>(group));
+void TableSearch::searchNotedPages(const Notes &notes, const std::vector<Condition> &conditions,
+                                   Reply &reply) {
+    if (!notes.hasRoom) {
+        for (std::size_t place = 0; place < notes.pages; ++place)
+            searchPage(place, conditions, reply);
+        return;
+    }
+    std::size_t next = 0;
+    for (const KeyRuns::Range &range : notes.runs.ranges(markOf(conditions))) {
+        // The page of the next run has this one's end.
+        const bool isLast = range.last >= static_cast<std::int64_t>(notes.pages) - 1;
+        const std::size_t end = isLast ? notes.pages : static_cast<std::size_t>(range.last + 2);
+        for (next = std::max(next, static_cast<std::size_t>(range.first)); next < end; ++next)
+            searchPage(next, conditions, reply);
+    }
+}
+
+void TableSearch::searchPage(std::size_t place, const std::vector<Condition> &conditions, Reply &reply) {
+    m_scan.visit(m_scan.pages()[place], [&](const Row &row) {
+        if (match(row, conditions).found) m_writer.write(row, reply);
+    });
+    if (place % PagesBetweenLooks == 0) reply.stillBusy();
 }
 
 TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
-    if (conditions.empty()) return {true, AnyGroup};
+    if (conditions.empty()) return {};
     if (conditions.size() == 1 && !conditions.front().isText) return matchInteger(row, conditions.front());
     if (m_lastKey.isOf(row)) return m_lastMatch;
     for (std::size_t i = 0; i < conditions.size(); ++i) {
         const Column &column = m_table.columns[conditions[i].column];
         m_cells[i] = row.bit(column) ? row.cell(column) : CellBytes();
-        if (!m_cells[i].data) return {false, NoGroup};
+        if (!m_cells[i].data) return {false, KeyRuns::NoKey};
     }
     m_lastMatch = compare(m_cells, conditions);
     m_lastKey.take(row);
@@ -140,13 +152,13 @@ TableSearch::Match TableSearch::match(const Row &row, const std::vector<Conditio
 TableSearch::Match TableSearch::matchInteger(const Row &row, const Condition &condition) {
     const Column &column = m_table.columns[condition.column];
     const CellBytes cell = row.bit(column) ? row.cell(column) : CellBytes();
-    if (!cell.data) return {false, NoGroup};
+    if (!cell.data) return {false, KeyRuns::NoKey};
     const std::int32_t value = integerOf(column, cell);
     if (value != m_lastInteger) {
         KeyHash key;
         key.add(static_cast<std::uint32_t>(value));
         m_lastInteger = value;
-        m_lastMatch = {value == condition.integer, key.group()};
+        m_lastMatch = {value == condition.integer, KeyRuns::mark(key.value())};
     }
     return m_lastMatch;
 }
@@ -173,6 +185,6 @@ TableSearch::Match TableSearch::compare(const std::vector<CellBytes> &cells,
             result.found = result.found && value == conditions[i].integer;
         }
     }
-    result.group = known ? key.group() : AnyGroup;
+    if (known) result.mark = KeyRuns::mark(key.value());
     return result;
 }

@@ -1,7 +1,6 @@
 // The rows of a table that meet conditions.
 #pragma once
 
-#include <bitset>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -11,15 +10,15 @@
 #include "table_reader/access_file.h"
 #include "table_reader/cell_text.h"
 #include "table_reader/condition.h"
+#include "table_reader/key_runs.h"
 #include "table_reader/last_key.h"
 #include "table_reader/reply.h"
 #include "table_reader/row.h"
 #include "table_reader/row_writer.h"
 #include "table_reader/table_scan.h"
 
-/// There are no indexes to use, so the first search by some columns notes for every page which of 256 groups
-/// of keys its rows belong to, and later ones leave out the pages that cannot hold theirs: rows of one key
-/// mostly lie together.
+/// There are no indexes to use, so the first search by some columns notes on which pages each key is, and
+/// later ones read these alone.
 class TableSearch {
 public:
     TableSearch(const AccessFile &file, const Table &table);
@@ -31,30 +30,26 @@ public:
     bool lookAhead(const std::vector<std::size_t> &columns, std::size_t pages);
 
 private:
-    using Groups = std::bitset<256>; // one bit for each group
-    struct PageGroups {
+    /// Of the pages from the first one on.
+    struct Notes {
         std::vector<std::size_t> columns;
-        std::vector<Groups> ofPage;
+        std::size_t pages = 0;
         std::uint64_t rows = 0; // on these pages
+        KeyRuns runs;           // of pages, by their places in the scan
+        bool hasRoom = true;    // the runs are all there
     };
     struct Match {
         bool found = true;
-        int group = 0; // or one of the two below
-    };
-    enum {
-        AnyGroup = -1, // a key with unknown capitals, or no condition
-        NoGroup = -2   // Null, which nothing is equal to
+        std::uint32_t mark = KeyRuns::AnyKey;
     };
 
     /// What has been noted for these columns, which does not depend on the order in which they are named.
-    PageGroups &start(std::vector<Condition> &conditions);
-    /// Sends the page's matching rows, without a reply none. Gives the groups of all of them, and their
-    /// number.
-    Groups searchPage(std::uint32_t page, const std::vector<Condition> &conditions, Reply *reply,
-                      std::uint64_t *rows);
+    Notes &start(std::vector<Condition> &conditions);
     /// The same for the first page that has not been looked at, and notes it.
-    void searchNewPage(PageGroups &groups, const std::vector<Condition> &conditions, Reply *reply);
-    static void add(Groups &groups, int group);
+    void searchNewPage(Notes &notes, const std::vector<Condition> &conditions, Reply *reply);
+    void searchNotedPages(const Notes &notes, const std::vector<Condition> &conditions, Reply &reply);
+    /// Sends its matching rows.
+    void searchPage(std::size_t place, const std::vector<Condition> &conditions, Reply &reply);
     Match match(const Row &row, const std::vector<Condition> &conditions);
     Match matchInteger(const Row &row, const Condition &condition);
     Match compare(const std::vector<CellBytes> &cells, const std::vector<Condition> &conditions);
@@ -64,7 +59,7 @@ private:
     CellText m_texts;
     TableScan m_scan;
     RowWriter m_writer;
-    std::vector<PageGroups> m_groups;
+    std::vector<Notes> m_notes;
     std::vector<CellBytes> m_cells;
     LastKey m_lastKey;
     std::optional<std::int32_t> m_lastInteger;
