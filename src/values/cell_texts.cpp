@@ -27,11 +27,18 @@ CellTexts::CellTexts(const NumberFlags &flags)
     idOf({});
 }
 
-CellTexts::Id CellTexts::id(const QVariant &cell) {
+CellTexts::Id CellTexts::id(const RowCells &row, qsizetype position) {
+    const std::optional<std::string_view> text = row.text(position);
+    if (!text) return idOfNumber(row[position]);
+    const auto size = static_cast<qsizetype>(text->size());
+    const auto known = m_stored.constFind(QByteArray::fromRawData(text->data(), size));
+    if (known != m_stored.constEnd()) return *known;
+    return *m_stored.insert(QByteArray(text->data(), size), idOf(QString::fromUtf8(text->data(), size)));
+}
+
+CellTexts::Id CellTexts::idOfNumber(const QVariant &cell) {
     if (IsNull(cell)) return Empty;
-    const int type = cell.typeId();
-    if (type == QMetaType::QString) return idOf(*static_cast<const QString *>(cell.constData()));
-    QHash<quint64, Id> &numbers = type == QMetaType::Float ? m_singles : m_doubles;
+    QHash<quint64, Id> &numbers = cell.typeId() == QMetaType::Float ? m_singles : m_doubles;
     const auto bits = std::bit_cast<quint64>(cell.toDouble());
     const auto known = numbers.constFind(bits);
     return known != numbers.constEnd() ? *known : *numbers.insert(bits, idOf(cellText(cell)));

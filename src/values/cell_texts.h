@@ -4,11 +4,12 @@
 
 #include <vector>
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
-#include <QVariant>
 
 #include "design/number_flags.h"
+#include "platform/dao/row_cells.h"
 
 /// What the arithmetic of the design values needs of a cell.
 struct CellText {
@@ -37,17 +38,20 @@ public:
     /// No cell has it.
     static constexpr Id Unknown = ~Id(0);
 
-    Id id(const QVariant &cell);
+    Id id(const RowCells &row, qsizetype position);
     Id known(const QString &text) const { return m_ids.value(text, Unknown); }
     const CellText &operator[](Id id) const { return m_texts[id]; }
 
 private:
     Id idOf(const QString &text);
+    Id idOfNumber(const QVariant &cell);
 
     NumberFlags m_flags;
     std::vector<CellText> m_texts;
     QHash<QString, Id> m_ids;
-    /// Of numbers, by their bits: making a text of each cell would take longer than reading it.
+    /// Of texts in UTF-8 and of numbers by their bits: making a text of each cell would take longer than
+    /// reading it.
+    QHash<QByteArray, Id> m_stored;
     QHash<quint64, Id> m_singles;
     QHash<quint64, Id> m_doubles;
 };

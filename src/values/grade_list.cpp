@@ -20,14 +20,18 @@ const QString Materials = QStringLiteral("materials");
 /// One text for all that are alike.
 class SharedTexts {
 public:
-    QString operator()(const QVariant &cell) {
-        const QString text = cellText(cell);
-        const auto known = m_texts.constFind(text);
-        return known != m_texts.constEnd() ? *known : *m_texts.insert(text);
+    QString operator()(const RowCells &row, qsizetype position) {
+        const std::optional<std::string_view> utf8 = row.text(position);
+        if (!utf8) return cellText(row[position]);
+        const auto size = static_cast<qsizetype>(utf8->size());
+        const auto known = m_texts.constFind(QByteArray::fromRawData(utf8->data(), size));
+        if (known != m_texts.constEnd()) return *known;
+        return *m_texts.insert(QByteArray(utf8->data(), size), cellText(row[position]));
     }
 
 private:
-    QSet<QString> m_texts;
+    /// The keys are UTF-8.
+    QHash<QByteArray, QString> m_texts;
 };
 
 int compared(const QByteArray &left, const QByteArray &right) {
@@ -103,8 +107,8 @@ void GradeList::readGrades(Database &database) {
         Materials, {"matID", "name", "numbr", "standard", "description", "groups", "revision_date"},
         [&](const RowCells &row) {
             if (IsNull(row[0])) return;
-            m_grades << Grades::Grade{CInt(row[0]),   cellText(row[1]), cellText(row[2]),   shared(row[3]),
-                                      shared(row[4]), shared(row[5]),   row[6].toDateTime()};
+            m_grades << Grades::Grade{CInt(row[0]),   cellText(row[1]), cellText(row[2]),   shared(row, 3),
+                                      shared(row, 4), shared(row, 5),   row[6].toDateTime()};
         });
     m_grades = ordered(m_grades);
     for (int i = 0; i < count(); ++i)

@@ -118,15 +118,15 @@ private:
             elevated ? QStringList{"temp", "thickness", "ordering"} : QStringList{"temp"};
         rows(m_key, before + fields, [&](int grade, const RowCells &cells) {
             TemperatureRow row;
-            row.temperature = texts.id(cells[1]);
+            row.temperature = texts.id(cells, 1);
             if (elevated) {
                 row.thickness = IsNull(cells[2]) ? TemperatureRow::NullThickness : CLng(cells[2]);
                 row.ordering = orderOf(cells[3]);
             }
             for (qsizetype i = first; i < cells.size(); ++i)
-                row.cells[i - first] = texts.id(cells[i]);
-            areNumbers = areNumbers || (!IsNull(cells[cells.size() - 1]) &&
-                                        cells[cells.size() - 1].typeId() != QMetaType::QString);
+                row.cells[i - first] = texts.id(cells, i);
+            const qsizetype last = cells.size() - 1;
+            areNumbers = areNumbers || (!cells.text(last) && !IsNull(cells[last]));
             read.add(grade, row);
         });
         set(read, [&](int, std::span<TemperatureRow> ofGrade) {
@@ -139,7 +139,7 @@ private:
         RowsOfGrades<CreepCell> read(m_grades.count());
         CellTexts &texts = m_table->texts();
         rows(Queries::cellTable(m_key), {"rowNo", "ordering", "val"}, [&](int grade, const RowCells &cells) {
-            read.add(grade, {orderOf(cells[1]), orderOf(cells[2]), texts.id(cells[3])});
+            read.add(grade, {orderOf(cells[1]), orderOf(cells[2]), texts.id(cells, 3)});
         });
         set(read, [&](int grade, std::span<CreepCell> cells) {
             return GradeRows::creep(cells, creepColumns(m_grades.standardID(grade)), texts);

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <string_view>
 
 #include <QVector>
 
@@ -17,6 +19,13 @@ public:
 
     qsizetype size() const { return m_columns.size(); }
     QVariant operator[](qsizetype position) const { return m_rows.cell(m_row, m_columns[position]); }
+    /// The cell in UTF-8, while its row is handed over. Nothing where it is Null, or of a column without
+    /// texts.
+    std::optional<std::string_view> text(qsizetype position) const {
+        const int column = m_columns[position];
+        if (!isTextType(m_rows.fields()[column].type) || m_rows.isNull(m_row, column)) return {};
+        return m_rows.text(m_row, column);
+    }
 
 private:
     const TableColumns &m_rows;
