@@ -119,12 +119,13 @@ TEST_F(HelpTest, ContentsIndexAndSearchLeadToTheTopic) {
     EXPECT_EQ(pages->currentIndex(), 2);
     auto *query = viewer()->findChild<QHelpSearchQueryWidget *>();
     auto *search = viewer()->findChild<QHelpSearchEngine *>();
-    ASSERT_TRUE(QTest::qWaitFor([&] {
+    const auto findsSomething = [&] {
         query->setSearchInput("crankshafts");
         Q_EMIT query->search();
         QTest::qWait(100);
         return search->searchResultCount() > 0;
-    }));
+    };
+    ASSERT_TRUE(QTest::qWaitFor(findsSomething, 60000)) << "the texts are read first";
     EXPECT_EQ(search->searchResults(0, 1).value(0).title(), "Contact");
 }
 
