@@ -49,5 +49,7 @@ int main(int argc, char **argv) {
     readHelp(tour);
     useSmallScreens(tour);
     useAScreenWithPanels(tour);
+    Screen::setSizeForTest({1280, 1024});
+    walkTheExample(tour);
     return 0;
 }

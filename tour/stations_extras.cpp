@@ -28,11 +28,6 @@ HelpViewer *helpWindow() {
     return nullptr;
 }
 
-void leave(Tour &tour) {
-    tour.menu("mnuFileElem(7)");
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
 } // namespace
 
 void showPmaIndex(Tour &tour) {
@@ -82,7 +77,7 @@ void readHelp(Tour &tour) {
 
 void useSmallScreens(Tour &tour) {
     for (const QSize &screen : {QSize(800, 600), QSize(640, 480)}) {
-        leave(tour);
+        tour.leave();
         Screen::setSizeForTest(screen);
         const bool tooSmall = screen.width() < 800;
         if (tooSmall) tour.boxes().answerMsgBox(vbOK);
@@ -97,7 +92,7 @@ void useSmallScreens(Tour &tour) {
 
 /// The smallest screen that the program is made for, with a panel above and one below.
 void useAScreenWithPanels(Tour &tour) {
-    leave(tour);
+    tour.leave();
     Screen::setSizeForTest({800, 600}, {0, 28, 800, 536});
     tour.press(DefaultInstance<frmSplash>(), Qt::Key_Space);
     tour.screenPicture("panels-search", {&tour.main()});

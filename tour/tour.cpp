@@ -142,6 +142,11 @@ void Tour::menu(const QString &entry) {
     settle();
 }
 
+void Tour::leave() {
+    menu("mnuFileElem(7)");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 void Tour::settle() {
     QElapsedTimer timer;
     timer.start();

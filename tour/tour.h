@@ -48,6 +48,8 @@ public:
     /// A button of the form by its name.
     void click(FormBase &form, const QString &button);
     void menu(const QString &entry);
+    /// Exit, as a person does it who starts the program once more.
+    void leave();
     void settle();
 
 private:
@@ -77,3 +79,4 @@ void makeCards(Tour &tour);
 void makeCardOfNothing(Tour &tour);
 void useSmallScreens(Tour &tour);
 void useAScreenWithPanels(Tour &tour);
+void walkTheExample(Tour &tour);

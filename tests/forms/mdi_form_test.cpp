@@ -1,6 +1,7 @@
 // The main window and its children.
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -90,6 +91,25 @@ TEST_F(MdiFormTest, ControlF6WalksToAndControlF4ClosesTheChildInFront) {
     QTest::keyClick(main->activeChild(), Qt::Key_F4, Qt::ControlModifier);
     EXPECT_TRUE(child[2]->isUnloaded());
     EXPECT_NE(active(), "child2");
+}
+
+TEST_F(MdiFormTest, AKeyOfTheMenuIsNoKeyOfATextBox) {
+    auto *entry = new MenuEntry("mnuAll", "All", main);
+    entry->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_A));
+    main->menuBar()->addAction(entry);
+    main->menuBar()->show();
+    int clicks = 0;
+    QObject::connect(entry, &MenuEntry::Click, [&] { ++clicks; });
+    auto *box = new QLineEdit("text", child[2]);
+    box->show();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(box->selectedText(), "");
+    entry->setEnabled(false);
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(box->selectedText(), "text");
 }
 
 TEST_F(MdiFormTest, AChildsCloseBoxAsksTheChild) {

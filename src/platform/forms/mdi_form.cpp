@@ -238,10 +238,24 @@ bool MDIForm::eventFilter(QObject *watched, QEvent *event) {
         Q_EMIT DblClick();
         return true;
     }
+    if (event->type() == QEvent::ShortcutOverride && isMenuKey(*static_cast<QKeyEvent *>(event))) {
+        event->ignore();
+        return true;
+    }
     if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
         static_cast<QWidget *>(watched)->window() == this && childKey(*static_cast<QKeyEvent *>(event)))
         return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+/// A text box claims keys for itself that are a command of the menu: on X11 Ctrl+E would go to the end of its
+/// text.
+bool MDIForm::isMenuKey(const QKeyEvent &event) const {
+    const QKeySequence keys(event.keyCombination());
+    const QList<MenuEntry *> entries = findChildren<MenuEntry *>();
+    return std::any_of(entries.begin(), entries.end(), [&](const MenuEntry *entry) {
+        return entry->isEnabled() && entry->shortcut() == keys;
+    });
 }
 
 /// Ctrl with Tab or F6 walks the children, with F4 closes the one in front. QMdiArea's own Ctrl+Tab would go

@@ -77,6 +77,7 @@ private:
     void takeMaximisedStateOver(ChildFrame &active);
     void frameActivated(QMdiSubWindow *frame);
     QList<Form *> forms() const;
+    bool isMenuKey(const QKeyEvent &event) const;
     bool childKey(const QKeyEvent &event);
 
     QMdiArea *m_area;

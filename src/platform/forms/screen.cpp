@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr int heightOfAPanel = 48; // pixels
+
 QSize testSize;
 QRect testFreeArea;
 
@@ -46,7 +48,11 @@ int Screen::TwipsPerPixelX() {
 
 QRect Screen::freeArea(const QWidget &window) {
     if (!testSize.isEmpty()) return testFreeArea.isEmpty() ? QRect({}, testSize) : testFreeArea;
-    return window.screen()->availableGeometry();
+    const QRect available = window.screen()->availableGeometry();
+    // Wayland tells no program of the desktop's panels.
+    const bool isGuess = QGuiApplication::platformName().startsWith(QLatin1String("wayland")) &&
+                         available == window.screen()->geometry();
+    return isGuess ? available.adjusted(0, 0, 0, -heightOfAPanel) : available;
 }
 
 void Screen::fit(QWidget &window) {

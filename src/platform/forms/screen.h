@@ -10,7 +10,8 @@ namespace Screen {
 int Width();
 int Height();
 int TwipsPerPixelX();
-/// What the desktop's panels leave free of the screen that the window is on, in pixels.
+/// What the desktop's panels leave free of the screen that the window is on, in pixels. Where the desktop
+/// keeps them to itself, room for one is left.
 QRect freeArea(const QWidget &window);
 /// Makes a window smaller and moves it until it lies in the free area with its frame, as far as its smallest
 /// size lets it. A maximised one is the desktop's.
