@@ -27,7 +27,7 @@ frmSelData::frmSelData()
     : Form("frmSelData")
     , FormatChoice(this)
     , lblSelData(named(new QLabel("Tables of the report:", this), "lblSelData"))
-    , cmdSavePrint(named(new QPushButton(this), "cmdSavePrint", "Save or print the report"))
+    , cmdSavePrint(named(new QPushButton(this), "cmdSavePrint"))
     , cmdCancel(named(new QPushButton("Cancel", this), "cmdCancel", "Cancel")) {
     setCaption("Select Data...");
     HelpContext::set(*this, "Reports.htm");

@@ -9,6 +9,7 @@
 #include <QFont>
 #include <QKeyEvent>
 
+#include "platform/forms/accessible_roles.h"
 #include "platform/forms/end_signals.h"
 #include "platform/forms/event_procedure.h"
 #include "platform/forms/forms.h"
@@ -46,6 +47,7 @@ Application::Application(int &argc, char **argv)
     // Without a name the C library looks at the time zone's file anew for each date of local time.
     if (!qEnvironmentVariableIsSet("TZ")) qputenv("TZ", ":/etc/localtime");
     setStyle(new PlatformStyle);
+    AccessibleRoles::install();
     // The windows are laid out in twips for this font; a larger one would be cut off.
     QFont font(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
     font.setPointSize(9);
