@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -108,14 +109,14 @@ QString GridView::selectedText(CopyHeadings headings) const {
             if (!isColumnHidden(column)) columns.insert(column);
     }
     QStringList lines;
-    const bool captionRows = headings == CopyHeadings::Yes && m_captionRowOf;
+    const bool captionRows = headings == CopyHeadings::Yes && m_model.hasCaptionRows();
     if (captionRows)
         columns.insert(firstVisibleColumn());
     else if (headings == CopyHeadings::Yes)
         lines << columnHeadings(columns);
     int captions = -1;
     for (const int row : rows) {
-        const int own = captionRows ? m_captionRowOf(row) : -1;
+        const int own = captionRows ? m_model.captionRowOf(row) : -1;
         if (own != captions && own != row) lines << rowText(own, columns, nullptr);
         captions = own;
         lines << rowText(row, columns, own == row ? nullptr : &selection);
@@ -126,7 +127,7 @@ QString GridView::selectedText(CopyHeadings headings) const {
 QString GridView::columnHeadings(const std::set<int> &columns) const {
     QStringList cells;
     for (const int column : columns)
-        cells << clipboardCell(m_model.headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString());
+        cells << clipboardCell(onOneLine(m_model.column(column).Caption()));
     return cells.join(QLatin1Char('\t'));
 }
 
@@ -199,9 +200,30 @@ void GridView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 void GridView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
-    QTableView::currentChanged(current, previous);
+    // QTableView adds nothing but to tell a screen reader that the keyboard has come to the cell, also where
+    // a search in a box far from here has moved the row.
+    if (hasFocus())
+        QTableView::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
     viewport()->update(); // the mark of the current row spans cells that the base class leaves alone
     if (current.isValid() && current.row() != previous.row()) Q_EMIT currentRowChanged(current);
+}
+
+void GridView::focusInEvent(QFocusEvent *event) {
+    QTableView::focusInEvent(event);
+    if (!QAccessible::isActive()) return;
+    // The library tells of the whole table, once this event is done.
+    QMetaObject::invokeMethod(this, &GridView::tellCurrentCell, Qt::QueuedConnection);
+}
+
+void GridView::tellCurrentCell() {
+    const QModelIndex current = currentIndex();
+    QAccessibleInterface *table = QAccessible::queryAccessibleInterface(this);
+    if (!hasFocus() || !current.isValid() || table == nullptr) return;
+    QAccessibleEvent event(table->tableInterface()->cellAt(current.row(), current.column()),
+                           QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
 
 void GridView::resizeEvent(QResizeEvent *event) {
