@@ -2,8 +2,28 @@
 
 #include <QAccessible>
 #include <QAccessibleObject>
+#include <QApplication>
+#include <QTableView>
 #include <QTimer>
-#include <QWidget>
+
+namespace {
+
+void tellFocus() {
+    QWidget *focused = QApplication::focusWidget();
+    QAccessibleInterface *place = QAccessible::queryAccessibleInterface(focused);
+    if (place == nullptr) return;
+    const auto *view = qobject_cast<QTableView *>(focused);
+    if (view != nullptr && view->currentIndex().isValid())
+        place = place->tableInterface()->cellAt(view->currentIndex().row(), view->currentIndex().column());
+    QAccessibleEvent event(place, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
+
+void tellFocusLater(QWidget &place) {
+    if (QAccessible::isActive()) QMetaObject::invokeMethod(&place, tellFocus, Qt::QueuedConnection);
+}
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -14,6 +13,7 @@
 #include <QScrollBar>
 #include <QStringList>
 
+#include "platform/forms/announcement.h"
 #include "platform/forms/drop_target.h"
 #include "platform/forms/grid_model.h"
 #include "platform/forms/grid_row_selector.h"
@@ -212,18 +212,7 @@ void GridView::currentChanged(const QModelIndex &current, const QModelIndex &pre
 
 void GridView::focusInEvent(QFocusEvent *event) {
     QTableView::focusInEvent(event);
-    if (!QAccessible::isActive()) return;
-    // The library tells of the whole table, once this event is done.
-    QMetaObject::invokeMethod(this, &GridView::tellCurrentCell, Qt::QueuedConnection);
-}
-
-void GridView::tellCurrentCell() {
-    const QModelIndex current = currentIndex();
-    QAccessibleInterface *table = QAccessible::queryAccessibleInterface(this);
-    if (!hasFocus() || !current.isValid() || table == nullptr) return;
-    QAccessibleEvent event(table->tableInterface()->cellAt(current.row(), current.column()),
-                           QAccessible::Focus);
-    QAccessible::updateAccessibility(&event);
+    tellFocusLater(*this); // the library tells of the table as a whole
 }
 
 void GridView::resizeEvent(QResizeEvent *event) {

@@ -65,7 +65,6 @@ protected:
 
 private:
     void startCellDrag();
-    void tellCurrentCell();
     bool anyColumnWraps() const;
     void fitVisibleRows();
     int neededHeight(int row) const;
