@@ -118,6 +118,7 @@ void frmPmaIndex::Form_Resize() {
 void frmPmaIndex::runSource(const QString &sql) {
     dtaPmaIndex->setRecordSource(sql);
     dtaPmaIndex->Refresh();
+    tdbIndex->setRowOrder(-1, Qt::AscendingOrder);
 }
 
 void frmPmaIndex::resetList() {
@@ -137,6 +138,7 @@ void frmPmaIndex::searchStringChanged() {
 /// press.
 void frmPmaIndex::sort(int column, bool ascending) {
     runSource(Queries::sqlPmaSorted(tdbIndex->Columns(column).DataField(), ascending));
+    tdbIndex->setRowOrder(column, ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
 void frmPmaIndex::openCurrentDocument() {

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 
 #include "data/Material.h"
@@ -27,7 +28,7 @@ frmSelData::frmSelData()
     : Form("frmSelData")
     , FormatChoice(this)
     , lblSelData(named(new QLabel("Tables of the report:", this), "lblSelData"))
-    , cmdSavePrint(named(new QPushButton(this), "cmdSavePrint", "Save or print the report"))
+    , cmdSavePrint(named(new QPushButton(this), "cmdSavePrint"))
     , cmdCancel(named(new QPushButton("Cancel", this), "cmdCancel", "Cancel")) {
     setCaption("Select Data...");
     HelpContext::set(*this, "Reports.htm");
@@ -73,9 +74,11 @@ void frmSelData::checkTables() {
     mdiVelmar &main = mdiVelmar::instance();
     Form &window = *m_material->MyForm();
     main.setMousePointer(vbHourglass);
+    const QPointer<QWidget> focused = window.focusWidget();
     window.Hide();
     CallByName(static_cast<FormBase &>(window), "CheckTablesForRecords");
     window.Show();
+    if (focused) focused->setFocus(); // what is hidden passes the keyboard on
     for (const auto &[index, box] : chkData) {
         if (index == 0 || m_material->TableHasData(main.GetShortTableName(index))) continue;
         box->setChecked(false);

@@ -93,9 +93,11 @@ void SearchControls::makeDataControls(QWidget *window) {
 
 void SearchControls::makeChoice() {
     Label1 = label(framSide, "Label1", "Choose...");
+    Label1->setAccessibleName("Choose standards");
     cmbChooseStd = named(new DropDownList(framSide), "cmbChooseStd", "Choose standards");
     cmbChooseStd->addItems(SearchStatements::standardKinds());
     cmbChooseStd->setCurrentIndex(-1);
+    Label1->setBuddy(cmbChooseStd);
     chkListAll = named(new QCheckBox("&List All Materials", framSide), "chkListAll", "List All Materials");
     chkListAll->setChecked(true);
     cmdShowPmaIndex = named(button(framSide, "Show PMA Index"), "cmdShowPmaIndex", "Show PMA Index");
@@ -125,6 +127,7 @@ void SearchControls::makeMaterials() {
     lblListFrame = label(framMatTable, "lblListFrame", "Materials List...");
     lblMaterialsCount = label(framMatTable, "lblMaterialsCount", "Materials Count :");
     lblMatCount = label(framMatTable, "lblMatCount");
+    lblMaterialsCount->setBuddy(lblMatCount);
     lblStdInfo = label(framMatTable, "lblStdInfo", StdInfo);
     lblStdInfo->setWordWrap(true);
     tdbMaterials = named(new TDBGrid(framMatTable), "tdbMaterials", "Materials List");

@@ -1,9 +1,12 @@
 #include "search/SearchCriteria.h"
 
+#include <algorithm>
+
 #include "data/modDBase.h"
 #include "data/queries.h"
 #include "data/status_numbers.h"
 #include "platform/dao/recordset.h"
+#include "platform/forms/announcement.h"
 #include "platform/forms/colours.h"
 #include "platform/forms/key_hooks.h"
 #include "search/frmSearch.h"
@@ -71,13 +74,28 @@ void SearchCriteria::SearchMaterials(const QString &orderBy) {
     mWhereClause = query.mWhereClause;
     run(*m_search.dtaMaterials, query.sql);
     showCount();
+    sayOrder(orderBy);
+}
+
+/// Of several fields by the first.
+void SearchCriteria::sayOrder(const QString &orderBy) {
+    const QStringList words = orderBy.section(',', 0, 0).split(' ');
+    const auto &fields = m_search.mSearchFields;
+    const auto by = std::find_if(fields.begin(), fields.end(),
+                                 [&words](const auto &field) { return field.field == words.first(); });
+    m_search.tdbMaterials->setRowOrder(by == fields.end() ? -1 : static_cast<int>(by - fields.begin()),
+                                       words.last() == QLatin1String("DESC") ? Qt::DescendingOrder
+                                                                             : Qt::AscendingOrder);
 }
 
 void SearchCriteria::showCount() {
     const auto clone = m_search.dtaMaterials->recordset()->Clone();
     clone->MoveLast();
     clone->MoveFirst();
-    m_search.lblMatCount->setText(QString::number(clone->RecordCount()));
+    const QString count = QString::number(clone->RecordCount());
+    if (count != m_search.lblMatCount->text())
+        announce(m_search, m_search.lblMaterialsCount->text() + ' ' + count);
+    m_search.lblMatCount->setText(count);
 }
 
 void SearchCriteria::chooseStandard() {

@@ -26,6 +26,7 @@ Q_SIGNALS:
     void EnterPressed();
 
 private:
+    void sayOrder(const QString &orderBy);
     void boxChanged();
     bool anyBoxFilled() const;
     void clearBoxes();

@@ -9,6 +9,7 @@
 #include "material/UnseenMaterial.h"
 #include "platform/dao/database.h"
 #include "platform/dao/recordset.h"
+#include "platform/forms/announcement.h"
 #include "platform/forms/default_instance.h"
 #include "platform/forms/drop_target.h"
 #include "platform/forms/msg_box.h"
@@ -171,9 +172,11 @@ void SelectedList::refresh(const QString &order) {
 
 void SelectedList::showCount() {
     const int count = mdiVelmar::instance().colMaterials.Count();
-    m_search.lblSelCount->setText(count < 1    ? "No Materials Currently Selected"
-                                  : count == 1 ? "1 Material Currently Selected"
-                                               : QString::number(count) + " Materials Currently Selected");
+    const QString text = count < 1    ? "No Materials Currently Selected"
+                         : count == 1 ? "1 Material Currently Selected"
+                                      : QString::number(count) + " Materials Currently Selected";
+    if (text != m_search.lblSelCount->text()) announce(m_search, text);
+    m_search.lblSelCount->setText(text);
 }
 
 void SelectedList::show() {

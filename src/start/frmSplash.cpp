@@ -34,6 +34,7 @@ frmSplash::frmSplash()
     , Timer1(new QTimer(this))
     , Timer2(new QTimer(this)) {
     setBorderless();
+    setAccessibleName("VELMAR-PED. Press any key to start");
     HelpContext::set(*this, "Cant_Start.htm");
     setScaleSize(7500, 4500);
     setFocusPolicy(Qt::StrongFocus);

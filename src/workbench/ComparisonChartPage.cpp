@@ -29,7 +29,7 @@ ComparisonChartPage::ComparisonChartPage(const SelectedValues &values, QWidget *
     : QWidget(parent)
     , cboProperty(named(new QComboBox(this), "cboProperty", "Property"))
     , chtValues(named(new MSChart(this), "chtValues"))
-    , lblMissing(named(new QLabel(this), "lblMissing", "Grades without a curve"))
+    , lblMissing(named(new QLabel(this), "lblMissing"))
     , m_values(values) {
     auto *lblProperty = new QLabel("&Property", this);
     lblProperty->setBuddy(cboProperty);

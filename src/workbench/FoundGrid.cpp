@@ -90,6 +90,17 @@ void FoundGrid::showHeadings() {
     for (int i = 0; i < m_columns.size(); ++i)
         if (const QString text = caption(i); m_grid.Columns(i).Caption() != text)
             m_grid.Columns(i).setCaption(text);
+    if (m_by)
+        m_grid.setRowOrder(static_cast<int>(m_columns.indexOf(*m_by)), order());
+    else
+        m_grid.setRowOrder(-1, Qt::AscendingOrder);
+}
+
+/// Values begin with the best one, which may be the smallest or the largest.
+Qt::SortOrder FoundGrid::order() const {
+    const bool bestFirst =
+        m_by->kind == Kind::Value && !m_found->query.conditions[m_by->condition].limits.smallestIsBest();
+    return bestFirst == m_reversed ? Qt::AscendingOrder : Qt::DescendingOrder;
 }
 
 QString FoundGrid::caption(int column) const {
@@ -105,9 +116,7 @@ QString FoundGrid::caption(int column) const {
                                          : at + (unit.isEmpty() ? "\n" : "\n[" + unit + "]"));
     }
     if (m_by != shown) return text;
-    const bool bestFirst =
-        shown.kind == Kind::Value && !m_found->query.conditions[shown.condition].limits.smallestIsBest();
-    return text + (bestFirst == m_reversed ? QStringLiteral(" ▲") : QStringLiteral(" ▼"));
+    return text + (order() == Qt::AscendingOrder ? QStringLiteral(" ▲") : QStringLiteral(" ▼"));
 }
 
 void FoundGrid::showRows() {

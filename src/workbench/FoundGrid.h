@@ -32,6 +32,7 @@ private:
     void showColumns();
     void showHeadings();
     QString caption(int column) const;
+    Qt::SortOrder order() const;
     void showRows();
 
     TDBGrid &m_grid;

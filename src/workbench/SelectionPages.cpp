@@ -6,7 +6,7 @@
 
 SelectionPages::SelectionPages(const QString &purpose, QWidget *content, QWidget *parent)
     : QStackedWidget(parent)
-    , lblNoGrade(named(new QLabel(this), "lblNoGrade", "No grade is selected")) {
+    , lblNoGrade(named(new QLabel(this), "lblNoGrade")) {
     lblNoGrade->setText("No grade is selected.\n\nSelect the grades " + purpose +
                         ": search for them in the main window, and press Enter on each in the list there. "
                         "Find by Value (Ctrl+F) adds to them, too.");

@@ -7,6 +7,7 @@
 #include <QTabWidget>
 
 #include "exchange/value_tables.h"
+#include "platform/forms/announcement.h"
 #include "platform/forms/placement.h"
 #include "reports/save_taken.h"
 #include "shell/mdiVelmar.h"
@@ -25,7 +26,7 @@ frmCompare::frmCompare()
     : WorkbenchWindow("frmCompare", "Compare Grades", CompareTopic)
     , txtTemperature(numberBox("txtTemperature", "Temperature in °C"))
     , txtThickness(numberBox("txtThickness", "Thickness in mm"))
-    , lblTyped(named(new QLabel, "lblTyped", "What is wrong with the boxes"))
+    , lblTyped(named(new QLabel, "lblTyped"))
     , tabPages(named(new QTabWidget, "tabPages", "Pages"))
     , pagValues(new ComparisonPage(m_values, tabPages))
     , pagChart(new ComparisonChartPage(m_values, tabPages))
@@ -114,7 +115,9 @@ void frmCompare::showPage() {
     if (selected().size() > Comparison::MostGrades)
         faults << QStringLiteral("The first %1 of the selected grades are compared.")
                       .arg(Comparison::MostGrades);
-    lblTyped->setText(faults.join(QLatin1Char(' ')));
+    const QString told = faults.join(QLatin1Char(' '));
+    if (told != lblTyped->text()) announce(*this, told);
+    lblTyped->setText(told);
     const QWidget *page = tabPages->currentWidget();
     if (page == pagValues) pagValues->show(typed);
     if (page == pagChart) pagChart->show(typed);

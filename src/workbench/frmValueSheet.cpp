@@ -10,6 +10,7 @@
 #include "data/Material.h"
 #include "data/modDBase.h"
 #include "exchange/value_tables.h"
+#include "platform/forms/announcement.h"
 #include "platform/forms/busy_pointer.h"
 #include "platform/forms/placement.h"
 #include "platform/forms/tdb_grid.h"
@@ -42,7 +43,7 @@ frmValueSheet::frmValueSheet()
     , txtFrom(numberBox("txtFrom", "First temperature in °C"))
     , txtTo(numberBox("txtTo", "Last temperature in °C"))
     , txtStep(numberBox("txtStep", "Step in °C"))
-    , lblTyped(named(new QLabel, "lblTyped", "What is wrong with the boxes"))
+    , lblTyped(named(new QLabel, "lblTyped"))
     , lstColumns(named(new SheetColumns(this), "fraColumns"))
     , tdbSheet(named(new TDBGrid, "tdbSheet", "Values over temperature"))
     , cmdCopy(named(new QPushButton("&Copy"), "cmdCopy", "Copy the sheet with its headings"))
@@ -176,6 +177,7 @@ void frmValueSheet::showRows() {
         told = QStringLiteral("The grade has no design values.");
     else if (told.isEmpty() && m_columns.isEmpty())
         told = QStringLiteral("Tick the columns that you want.");
+    if (told != lblTyped->text()) announce(*this, told);
     lblTyped->setText(told);
     cmdCopy->setEnabled(!m_temperatures.isEmpty() && !m_columns.isEmpty());
     cmdSave->setEnabled(cmdCopy->isEnabled());

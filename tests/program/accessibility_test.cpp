@@ -1,4 +1,6 @@
 // What a screen reader is told of the windows, and how far Tab goes in them.
+#include <algorithm>
+
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
@@ -32,11 +34,22 @@ QString described(const QAccessibleInterface &place) {
         .arg(static_cast<int>(place.role()));
 }
 
-/// The places that take the keyboard and have no name to say.
+/// The name of a list to choose from is what is chosen, so that a label has to say what for.
+bool isWithoutCaption(const QAccessibleInterface &place) {
+    if (place.role() != QAccessible::ComboBox) return false;
+    const auto labels = place.relations(QAccessible::Label);
+    return std::none_of(labels.begin(), labels.end(), [](const auto &label) {
+        return label.first->role() == QAccessible::StaticText &&
+               !label.first->text(QAccessible::Name).isEmpty();
+    });
+}
+
+/// The places that take the keyboard and have no name to say, no caption, or nothing that they are.
 void collectNameless(const QAccessibleInterface *place, QStringList &nameless) {
     if (place == nullptr || place->state().invisible) return;
     if (place->state().focusable && !place->state().disabled &&
-        place->text(QAccessible::Name).trimmed().isEmpty())
+        (place->text(QAccessible::Name).trimmed().isEmpty() || place->role() == QAccessible::Client ||
+         isWithoutCaption(*place)))
         nameless << described(*place);
     if (holdsItems(*place)) return;
     for (int i = 0; i < place->childCount(); ++i)

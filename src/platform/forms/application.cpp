@@ -9,6 +9,7 @@
 #include <QFont>
 #include <QKeyEvent>
 
+#include "platform/forms/accessible_roles.h"
 #include "platform/forms/end_signals.h"
 #include "platform/forms/event_procedure.h"
 #include "platform/forms/forms.h"
@@ -34,6 +35,14 @@ bool asksForHelp(QObject *receiver, QEvent *event) {
            HelpContext::pressed(*static_cast<QWidget *>(receiver), *static_cast<QKeyEvent *>(event));
 }
 
+/// On X11 a text box of the library's takes Ctrl+E for the end of its line, before any command of that key.
+/// Not asked, it still gets the key where there is no such command.
+bool isKeptFromBoxes(const QEvent *event) {
+    if (event->type() != QEvent::ShortcutOverride) return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    return key->key() == Qt::Key_E && key->modifiers() == Qt::ControlModifier;
+}
+
 } // namespace
 
 Application::Application(int &argc, char **argv)
@@ -46,6 +55,7 @@ Application::Application(int &argc, char **argv)
     // Without a name the C library looks at the time zone's file anew for each date of local time.
     if (!qEnvironmentVariableIsSet("TZ")) qputenv("TZ", ":/etc/localtime");
     setStyle(new PlatformStyle);
+    AccessibleRoles::install();
     // The windows are laid out in twips for this font; a larger one would be cut off.
     QFont font(QStringList{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
     font.setPointSize(9);
@@ -67,6 +77,7 @@ bool Application::notify(QObject *receiver, QEvent *event) {
     bool handled = true; // as an event is that an error has ended
     EventProcedure::run([&] {
         narrowDialog(receiver, event);
+        if (isKeptFromBoxes(event)) return event->ignore();
         handled = asksForHelp(receiver, event) || QApplication::notify(receiver, event);
     });
     return handled;

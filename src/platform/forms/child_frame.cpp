@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 #include <QWindowStateChangeEvent>
 
+#include "platform/forms/announcement.h"
 #include "platform/forms/form.h"
 #include "platform/forms/mdi_form.h"
 
@@ -42,6 +43,11 @@ void ChildFrame::stateChanged(QWindowStateChangeEvent *event) {
     if (isMinimized() == event->oldState().testFlag(Qt::WindowMinimized)) return;
     if (form() != nullptr) form()->sizeChanged();
     if (isMinimized() && MDIForm::current() != nullptr) MDIForm::current()->activateBehind(this);
+}
+
+void ChildFrame::focusInEvent(QFocusEvent *event) {
+    QMdiSubWindow::focusInEvent(event);
+    tellFocusLater(*this); // it passes the keyboard on, and is itself told of last
 }
 
 void ChildFrame::showEvent(QShowEvent *event) {

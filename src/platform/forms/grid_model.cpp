@@ -107,6 +107,8 @@ QVariant GridModel::data(const QModelIndex &index, int role) const {
     }
     case Qt::TextAlignmentRole:
         return int(column(index.column()).Alignment() | Qt::AlignVCenter);
+    case Qt::AccessibleTextRole:
+        return hasCaptionRows() ? spokenText(index) : QVariant();
     default:
         return m_cells && m_cells->mark ? marked(index, role) : QVariant();
     }
@@ -125,9 +127,42 @@ QVariant GridModel::marked(const QModelIndex &index, int role) const {
     return font;
 }
 
+/// No heading tells a screen reader there what a value is, so that each says its caption.
+QString GridModel::spokenText(const QModelIndex &index) const {
+    const QString text = onOneLine(index.data().toString());
+    const int captions = captionRowOf(index.row());
+    if (text.isEmpty() || captions == index.row()) return text;
+    const QString caption = onOneLine(index.siblingAtRow(captions).data().toString());
+    return caption.isEmpty() ? text : text + QLatin1String(", ") + caption;
+}
+
+/// What stands first in a row says better than its number which one it is.
+QString GridModel::rowHeading(int row) const {
+    const int from = hasCaptionRows() ? captionRowOf(row) : row;
+    for (int i = 0; i < columnCount(); ++i)
+        if (column(i).Visible()) return onOneLine(index(from, i).data().toString());
+    return {};
+}
+
+void GridModel::setRowOrder(int column, Qt::SortOrder order) {
+    m_orderColumn = column;
+    m_order = order;
+}
+
+QString GridModel::spokenHeading(int column) const {
+    QString heading = onOneLine(this->column(column).Caption());
+    if (column != m_orderColumn) return heading;
+    for (const QChar mark :
+         {QChar(0x25B2), QChar(0x25BC)}) // triangles, which only the eye can take for an order
+        if (heading.endsWith(mark)) heading = heading.chopped(1).trimmed();
+    return heading +
+           (m_order == Qt::AscendingOrder ? QStringLiteral(", ascending") : QStringLiteral(", descending"));
+}
+
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role == Qt::AccessibleTextRole)
+        return orientation == Qt::Vertical ? rowHeading(section) : spokenHeading(section);
     if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? section + 1 : QVariant();
-    if (role == Qt::AccessibleTextRole) return onOneLine(column(section).Caption());
     if (role != Qt::DisplayRole) return {};
     return QString(column(section).Caption()).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }

@@ -1,6 +1,7 @@
 // The cells of a grid: its columns over the rows of a recordset or of an array.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -39,6 +40,16 @@ public:
     void checkReadable() const;
     void makeColumnsOfFields();
 
+    /// In a grid whose captions are rows among the others: gives the row with the captions of a row.
+    void setCaptionRows(std::function<int(int row)> finder) { m_captionRowOf = std::move(finder); }
+    bool hasCaptionRows() const { return m_captionRowOf != nullptr; }
+    int captionRowOf(int row) const { return m_captionRowOf(row); }
+
+    /// For a screen reader; -1 where the rows have no order by a column.
+    void setRowOrder(int column, Qt::SortOrder order);
+    /// A heading as a screen reader says it, with the order of the rows.
+    QString spokenHeading(int column) const;
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -51,6 +62,8 @@ private:
     void onColumnChanged(const GridColumn &column);
     QVariant value(int row, int column) const;
     QVariant marked(const QModelIndex &index, int role) const;
+    QString spokenText(const QModelIndex &index) const;
+    QString rowHeading(int row) const;
     void findFields();
 
     std::vector<std::unique_ptr<GridColumn>> m_columns;
@@ -58,6 +71,9 @@ private:
     std::shared_ptr<Recordset> m_recordset;
     std::shared_ptr<XArrayDB> m_array;
     std::shared_ptr<const GridCells> m_cells;
+    std::function<int(int row)> m_captionRowOf;
+    int m_orderColumn = -1;
+    Qt::SortOrder m_order = Qt::AscendingOrder;
     int m_rows = 0;
     int m_firstArrayRow = 0;
     int m_firstArrayColumn = 0;

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QStringList>
 
+#include "platform/forms/announcement.h"
 #include "platform/forms/drop_target.h"
 #include "platform/forms/grid_model.h"
 #include "platform/forms/grid_row_selector.h"
@@ -108,14 +109,14 @@ QString GridView::selectedText(CopyHeadings headings) const {
             if (!isColumnHidden(column)) columns.insert(column);
     }
     QStringList lines;
-    const bool captionRows = headings == CopyHeadings::Yes && m_captionRowOf;
+    const bool captionRows = headings == CopyHeadings::Yes && m_model.hasCaptionRows();
     if (captionRows)
         columns.insert(firstVisibleColumn());
     else if (headings == CopyHeadings::Yes)
         lines << columnHeadings(columns);
     int captions = -1;
     for (const int row : rows) {
-        const int own = captionRows ? m_captionRowOf(row) : -1;
+        const int own = captionRows ? m_model.captionRowOf(row) : -1;
         if (own != captions && own != row) lines << rowText(own, columns, nullptr);
         captions = own;
         lines << rowText(row, columns, own == row ? nullptr : &selection);
@@ -126,7 +127,7 @@ QString GridView::selectedText(CopyHeadings headings) const {
 QString GridView::columnHeadings(const std::set<int> &columns) const {
     QStringList cells;
     for (const int column : columns)
-        cells << clipboardCell(m_model.headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString());
+        cells << clipboardCell(onOneLine(m_model.column(column).Caption()));
     return cells.join(QLatin1Char('\t'));
 }
 
@@ -199,9 +200,19 @@ void GridView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 void GridView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
-    QTableView::currentChanged(current, previous);
+    // QTableView adds nothing but to tell a screen reader that the keyboard has come to the cell, also where
+    // a search in a box far from here has moved the row.
+    if (hasFocus())
+        QTableView::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
     viewport()->update(); // the mark of the current row spans cells that the base class leaves alone
     if (current.isValid() && current.row() != previous.row()) Q_EMIT currentRowChanged(current);
+}
+
+void GridView::focusInEvent(QFocusEvent *event) {
+    QTableView::focusInEvent(event);
+    tellFocusLater(*this); // the library tells of the table as a whole
 }
 
 void GridView::resizeEvent(QResizeEvent *event) {

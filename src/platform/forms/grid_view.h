@@ -29,10 +29,6 @@ public:
     void columnsChanged();
     void fitRows();
     void doItemsLayout() override;
-    /// In a grid whose captions are rows among the others: gives the row with the captions of a row.
-    using CaptionRowFinder = std::function<int(int row)>;
-    void setCaptionRows(CaptionRowFinder finder) { m_captionRowOf = std::move(finder); }
-
     /// As TDBGrid::setSaver.
     void setSaver(std::function<void()> save);
 
@@ -62,6 +58,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void verticalScrollbarValueChanged(int value) override;
@@ -78,7 +75,6 @@ private:
 
     GridModel &m_model;
     QWidget *m_dragSource = nullptr;
-    CaptionRowFinder m_captionRowOf;
     QAction *m_saveCommand = nullptr;
     std::function<void()> m_save;
     QPersistentModelIndex m_pressed;

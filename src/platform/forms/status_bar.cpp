@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QTimer>
 
+#include "platform/forms/announcement.h"
 #include "platform/forms/placement.h"
 #include "platform/runtime/regional_settings.h"
 #include "platform/runtime/runtime_error.h"
@@ -63,6 +64,7 @@ void StatusBar::showText(Panel &panel, const QString &text) {
     if (panel.text == text) return;
     panel.text = text;
     panel.label->setAccessibleName(text);
+    if (panel.style == sbrText) announce(*this, text);
     fit(panel);
 }
 

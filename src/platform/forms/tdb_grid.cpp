@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "platform/dao/recordset.h"
+#include "platform/forms/announcement.h"
 #include "platform/forms/data_control.h"
 #include "platform/forms/drop_target.h"
 #include "platform/forms/grid_cells.h"
@@ -185,7 +186,14 @@ void TDBGrid::setColumnFooters(bool shown) {
 }
 
 void TDBGrid::setCaptionRows(std::function<int(int row)> finder) {
-    m_view->setCaptionRows(std::move(finder));
+    m_model->setCaptionRows(std::move(finder));
+}
+
+void TDBGrid::setRowOrder(int column, Qt::SortOrder order) {
+    const QString before = column < 0 ? QString() : m_model->spokenHeading(column);
+    m_model->setRowOrder(column, order);
+    if (column < 0 || !m_view->hasFocus()) return;
+    if (const QString heading = m_model->spokenHeading(column); heading != before) announce(*m_view, heading);
 }
 
 void TDBGrid::setSaver(std::function<void()> save) {
@@ -279,6 +287,7 @@ void TDBGrid::userResized(int column, int pixels) {
 void TDBGrid::showRecordset() {
     const QScopedValueRollback<bool> layingOut(m_layingOut, true);
     const int left = m_view->horizontalScrollBar()->value();
+    m_columnBefore = m_fieldsHeld ? m_view->currentIndex().column() : -1;
     m_model->showRecordset(m_source->hasRecordset() ? m_source->recordset() : nullptr);
     if (!m_fieldsHeld) m_model->makeColumnsOfFields();
     applyColumns(0, ColumnCount() - 1);
@@ -297,6 +306,7 @@ void TDBGrid::showRows(bool sameRows, const std::function<void()> &show) {
     const int left = m_view->horizontalScrollBar()->value();
     const int top = sameRows ? m_view->verticalScrollBar()->value() : 0;
     const int row = sameRows ? qMax(Row(), 0) : 0;
+    m_columnBefore = sameRows ? m_view->currentIndex().column() : -1;
     show();
     applyColumns(0, ColumnCount() - 1);
     if (RowCount() > 0) selectRow(row);
@@ -320,6 +330,7 @@ void TDBGrid::moveRecordset(const QModelIndex &current) {
 void TDBGrid::selectRow(int row) {
     if (row > 0) m_view->fitRows(); // where it comes to lie depends on the rows above it
     int column = m_view->currentIndex().column();
+    if (column < 0) column = qMin(m_columnBefore, ColumnCount() - 1);
     if (column < 0 || m_view->isColumnHidden(column)) column = m_view->firstVisibleColumn();
     const int left = m_view->horizontalScrollBar()->value();
     m_view->setCurrentIndex(m_model->index(row, column));
@@ -371,7 +382,7 @@ QString TDBGrid::wholeTextAt(const QWidget &place, const QPoint &at) const {
     if (&place != m_header->viewport()) return {};
     const int column = m_header->logicalIndexAt(at.x());
     if (column < 0 || !m_header->isCut(column)) return {};
-    return m_model->headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString();
+    return onOneLine(m_model->column(column).Caption());
 }
 
 void TDBGrid::updateScrollBar() {

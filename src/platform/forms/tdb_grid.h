@@ -91,6 +91,10 @@ public:
     /// are copied with the cells where headings are asked for.
     void setCaptionRows(std::function<int(int row)> finder);
 
+    /// Has a screen reader say by which column the rows are ordered, at once where the keyboard is in the
+    /// rows. It orders nothing; column -1 for no such order, as at first.
+    void setRowOrder(int column, Qt::SortOrder order);
+
     /// Puts "Save Table As..." (Ctrl+Shift+S) into the menu of the cells, which runs `save`. An empty one
     /// takes it out again; there is none at first.
     void setSaver(std::function<void()> save);
@@ -154,5 +158,6 @@ private:
     CellTipFetcher m_fetchCellTip;
     int m_cellTips = 0;
     bool m_fieldsHeld = false;
+    int m_columnBefore = -1; // the one with the keyboard, for new rows in the same columns
     bool m_layingOut = false;
 };
