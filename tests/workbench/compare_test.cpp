@@ -8,7 +8,6 @@
 #include <QTabWidget>
 
 #include "platform/forms/ms_chart.h"
-#include "search/frmSearch.h"
 #include "tests/exchange/xlsx_reader.h"
 #include "tests/workbench/workbench_fixture.h"
 #include "workbench/ComparisonChartPage.h"
@@ -43,13 +42,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(Compare, ItsKeyHoldsInATextBoxToo) {
-    auto *box = DefaultInstance<frmSearch>().txtSearch(1);
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_E, Qt::ControlModifier);
-    EXPECT_TRUE(DefaultInstance<frmCompare>().Visible());
-}
 
 TEST_F(Compare, AThicknessTakesTheBandAndTellsWhereThereIsNone) {
     select({2});

@@ -35,14 +35,6 @@ bool asksForHelp(QObject *receiver, QEvent *event) {
            HelpContext::pressed(*static_cast<QWidget *>(receiver), *static_cast<QKeyEvent *>(event));
 }
 
-/// On X11 a text box of the library's takes Ctrl+E for the end of its line, before any command of that key.
-/// Not asked, it still gets the key where there is no such command.
-bool isKeptFromBoxes(const QEvent *event) {
-    if (event->type() != QEvent::ShortcutOverride) return false;
-    const auto *key = static_cast<const QKeyEvent *>(event);
-    return key->key() == Qt::Key_E && key->modifiers() == Qt::ControlModifier;
-}
-
 } // namespace
 
 Application::Application(int &argc, char **argv)
@@ -77,7 +69,6 @@ bool Application::notify(QObject *receiver, QEvent *event) {
     bool handled = true; // as an event is that an error has ended
     EventProcedure::run([&] {
         narrowDialog(receiver, event);
-        if (isKeptFromBoxes(event)) return event->ignore();
         handled = asksForHelp(receiver, event) || QApplication::notify(receiver, event);
     });
     return handled;
