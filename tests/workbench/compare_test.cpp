@@ -129,6 +129,7 @@ TEST_F(Compare, TheGraphHasACurveAGradeAndALineAtTheTemperature) {
 TEST_F(Compare, TheCompositionMarksWhatIsNotAsInTheFirstGrade) {
     select({2, 3});
     frmCompare &window = open();
+    window.pagComposition->patience = 60000;
     window.tabPages->setCurrentIndex(2);
     const TDBGrid &grid = *window.pagComposition->tdbComposition;
     const auto cells = [&](const QString &element) {
