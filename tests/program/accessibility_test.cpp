@@ -47,9 +47,11 @@ bool isWithoutCaption(const QAccessibleInterface &place) {
 /// The places that take the keyboard and have no name to say, no caption, or nothing that they are.
 void collectNameless(const QAccessibleInterface *place, QStringList &nameless) {
     if (place == nullptr || place->state().invisible) return;
+    const auto *widget = qobject_cast<QWidget *>(place->object());
+    const bool passesOn = widget != nullptr && widget->focusProxy() != nullptr;
     if (place->state().focusable && !place->state().disabled &&
-        (place->text(QAccessible::Name).trimmed().isEmpty() || place->role() == QAccessible::Client ||
-         isWithoutCaption(*place)))
+        (place->text(QAccessible::Name).trimmed().isEmpty() || isWithoutCaption(*place) ||
+         (place->role() == QAccessible::Client && !passesOn)))
         nameless << described(*place);
     if (holdsItems(*place)) return;
     for (int i = 0; i < place->childCount(); ++i)

@@ -5,6 +5,8 @@
 
 namespace {
 
+constexpr char RoleProperty[] = "accessibleRole";
+
 /// A form may be a window of its own or fill the frame of a child, which the library tells of.
 class AccessibleForm : public QAccessibleWidget {
 public:
@@ -19,6 +21,8 @@ public:
 QAccessibleInterface *make(const QString &className, QObject *object) {
     if (object == nullptr || !object->isWidgetType()) return nullptr;
     auto *widget = static_cast<QWidget *>(object);
+    if (const QVariant own = widget->property(RoleProperty); own.isValid())
+        return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(own.toInt()));
     if (className == QLatin1String("Form")) return new AccessibleForm(widget);
     static const QHash<QString, QAccessible::Role> roles{
         {QStringLiteral("QFrame"), QAccessible::Grouping},
@@ -34,4 +38,8 @@ QAccessibleInterface *make(const QString &className, QObject *object) {
 
 void AccessibleRoles::install() {
     QAccessible::installFactory(make);
+}
+
+void AccessibleRoles::set(QWidget &widget, QAccessible::Role role) {
+    widget.setProperty(RoleProperty, static_cast<int>(role));
 }

@@ -17,6 +17,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "platform/forms/accessible_roles.h"
 #include "platform/forms/busy_pointer.h"
 #include "platform/forms/common_dialog.h"
 #include "platform/forms/msg_box.h"
@@ -65,6 +66,7 @@ Viewer::Viewer(const Document &document, QWidget *parent)
     setWindowTitle(document.caption);
     setObjectName(QStringLiteral("Viewer"));
     m_view->setObjectName(QStringLiteral("pages"));
+    AccessibleRoles::set(*m_view, QAccessible::Document);
     m_view->setAccessibleName(tr("Pages"));
     m_toolBar->setObjectName(QStringLiteral("toolbar"));
     m_toolBar->setIconSize(ToolIconSize);
@@ -174,6 +176,9 @@ void Viewer::createZoomTools() {
         m_zoom->addItem(QStringLiteral("%1 %").arg(percent));
     connect(m_zoom, &QComboBox::activated, this, [this] { zoomToText(); });
     m_zoom->lineEdit()->installEventFilter(this);
+    auto *caption = new QLabel(tr("Zoom"), m_toolBar); // a list says its choice in place of a name
+    caption->setBuddy(m_zoom);
+    caption->hide();
     m_toolBar->addWidget(m_zoom);
     addTool(QStringLiteral("zoomIn"), QStringLiteral("+"), tr("Zoom in"), QKeySequence::ZoomIn,
             [this] { m_view->setZoom(m_view->zoom() * ZoomStep); });
