@@ -251,6 +251,7 @@ bool MDIForm::eventFilter(QObject *watched, QEvent *event) {
 /// A text box claims keys for itself that are a command of the menu: on X11 Ctrl+E would go to the end of its
 /// text.
 bool MDIForm::isMenuKey(const QKeyEvent &event) const {
+    if (!(event.modifiers() & Qt::ControlModifier)) return false; // as with every letter that is typed
     const QKeySequence keys(event.keyCombination());
     const QList<MenuEntry *> entries = findChildren<MenuEntry *>();
     return std::any_of(entries.begin(), entries.end(), [&](const MenuEntry *entry) {
