@@ -102,6 +102,7 @@ void TableSearch::searchNewPage(Notes &notes, const std::vector<Condition> &cond
         if (notes.hasRoom && (rows == 0 || found.mark != last)) {
             last = found.mark;
             notes.hasRoom = notes.runs.add(place, last);
+            if (!notes.hasRoom) notes.runs = {};
         }
         if (found.found && reply) m_writer.write(row, *reply);
         ++rows;

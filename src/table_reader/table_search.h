@@ -36,7 +36,7 @@ private:
         std::size_t pages = 0;
         std::uint64_t rows = 0; // on these pages
         KeyRuns runs;           // of pages, by their places in the scan
-        bool hasRoom = true;    // the runs are all there
+        bool hasRoom = true;    // without it there are no runs, and every page is read
     };
     struct Match {
         bool found = true;
