@@ -97,14 +97,15 @@ void TableSearch::searchNewPage(Notes &notes, const std::vector<Condition> &cond
     std::uint32_t last = KeyRuns::NoKey;
     std::uint64_t rows = 0;
     const auto place = static_cast<std::int64_t>(notes.pages);
+    // A copy of the row goes on, so that it need not be in memory where the last key is enough.
     m_scan.visit(m_scan.pages()[notes.pages], [&](const Row &row) {
-        const Match found = match(row, conditions);
+        const Match found = m_lastKey.isOf(row) ? m_lastMatch : match(Row(row), conditions);
         if (notes.hasRoom && (rows == 0 || found.mark != last)) {
             last = found.mark;
             notes.hasRoom = notes.runs.add(place, last);
             if (!notes.hasRoom) notes.runs = {};
         }
-        if (found.found && reply) m_writer.write(row, *reply);
+        if (found.found && reply) m_writer.write(Row(row), *reply);
         ++rows;
     });
     ++notes.pages;
@@ -130,15 +131,16 @@ void TableSearch::searchNotedPages(const Notes &notes, const std::vector<Conditi
 
 void TableSearch::searchPage(std::size_t place, const std::vector<Condition> &conditions, Reply &reply) {
     m_scan.visit(m_scan.pages()[place], [&](const Row &row) {
-        if (match(row, conditions).found) m_writer.write(row, reply);
+        if ((m_lastKey.isOf(row) ? m_lastMatch : match(Row(row), conditions)).found)
+            m_writer.write(Row(row), reply);
     });
     if (place % PagesBetweenLooks == 0) reply.stillBusy();
 }
 
-TableSearch::Match TableSearch::match(const Row &row, const std::vector<Condition> &conditions) {
+[[gnu::noinline]] TableSearch::Match TableSearch::match(const Row &row,
+                                                        const std::vector<Condition> &conditions) {
     if (conditions.empty()) return {};
     if (conditions.size() == 1 && !conditions.front().isText) return matchInteger(row, conditions.front());
-    if (m_lastKey.isOf(row)) return m_lastMatch;
     for (std::size_t i = 0; i < conditions.size(); ++i) {
         const Column &column = m_table.columns[conditions[i].column];
         m_cells[i] = row.bit(column) ? row.cell(column) : CellBytes();
