@@ -4,6 +4,7 @@
 #include <array>
 #include <ctime>
 #include <exception>
+#include <limits>
 #include <new>
 
 #include <unistd.h>
@@ -59,6 +60,16 @@ std::chrono::nanoseconds workDone() {
 }
 
 } // namespace
+
+std::optional<std::int32_t> SqliteValue::wholeNumber() const {
+    using Limits = std::numeric_limits<std::int32_t>;
+    const int stored = type();
+    if (stored != SQLITE_INTEGER && stored != SQLITE_FLOAT) return {};
+    const double number = real();
+    if (!(number >= Limits::min() && number <= Limits::max())) return {};
+    const auto integer = static_cast<std::int32_t>(number);
+    return integer == number ? std::optional(integer) : std::nullopt;
+}
 
 std::string_view SqliteValue::text() const {
     const unsigned char *text = sqlite3_value_text(m_value);

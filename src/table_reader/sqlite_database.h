@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,8 +26,12 @@ public:
     int type() const { return sqlite3_value_type(m_value); }
     bool isText() const { return type() == SQLITE_TEXT; }
     bool isNull() const { return type() == SQLITE_NULL; }
+    /// A text, or a number's digits.
+    bool hasText() const { return !isNull() && type() != SQLITE_BLOB; }
     std::int64_t integer() const { return sqlite3_value_int64(m_value); }
     double real() const { return sqlite3_value_double(m_value); }
+    /// Nothing for what no condition can ask for.
+    std::optional<std::int32_t> wholeNumber() const;
     /// In UTF-8; of a number, its digits. Valid until another form of it is asked for. Raises std::bad_alloc.
     std::string_view text() const;
     /// The same. SQLite knows what to make of bytes that are no UTF-8.

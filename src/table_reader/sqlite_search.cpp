@@ -10,25 +10,9 @@ namespace {
 
 constexpr std::uint64_t RowsAtOnce = 4000;
 
-/// Nothing for what no condition can ask for.
-std::optional<std::int32_t> integerOf(const SqliteValue &value) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    const int stored = value.type();
-    if (stored != SQLITE_INTEGER && stored != SQLITE_FLOAT) return {};
-    const double number = value.real();
-    if (!(number >= Limits::min() && number <= Limits::max())) return {};
-    const auto integer = static_cast<std::int32_t>(number);
-    return integer == number ? std::optional(integer) : std::nullopt;
-}
-
-bool hasText(const SqliteValue &value) {
-    const int stored = value.type();
-    return stored != SQLITE_NULL && stored != SQLITE_BLOB;
-}
-
 bool matches(const SqliteValue &value, const Condition &condition) {
-    if (!condition.isText) return integerOf(value) == condition.integer;
-    if (!hasText(value)) return false;
+    if (!condition.isText) return value.wholeNumber() == condition.integer;
+    if (!value.hasText()) return false;
     const std::u16string_view wanted = condition.text;
     const std::string_view text = value.text();
     return keyMatch::isAscii(text) ? keyMatch::mayBeEqual(text, wanted)
@@ -45,30 +29,6 @@ bool integersMatch(const SqliteStatement &row, const std::vector<Condition> &con
     return std::all_of(conditions.begin(), conditions.end(), [&](const Condition &condition) {
         return condition.isText || matches(row.value(condition.column), condition);
     });
-}
-
-std::uint32_t markOfKey(const std::vector<Condition> &conditions) {
-    KeyHash key;
-    for (const Condition &condition : conditions) {
-        if (condition.isText)
-            keyMatch::addNarrow(key, keyMatch::narrowed(condition.text));
-        else
-            key.add(static_cast<std::uint32_t>(condition.integer));
-    }
-    return KeyRuns::mark(key.value());
-}
-
-void addText(KeyHash &key, const SqliteValue &value) {
-    const KeyHash before = key;
-    if (keyMatch::addNarrow(key, value.text())) return;
-    key = before;
-    keyMatch::addNarrow(key, keyMatch::narrowed(value.wideText()));
-}
-
-/// Rows that do not come in the order of their numbers have lost their place, or come twice.
-void checkOrder(std::optional<std::int64_t> &last, std::int64_t row) {
-    if (last && row <= *last) throw Damaged("rows out of their order");
-    last = row;
 }
 
 } // namespace
@@ -100,7 +60,7 @@ bool SqliteSearch::lookAhead(Columns columns) {
     std::sort(columns.begin(), columns.end());
     Way &way = wayBy(columns);
     note(way, RowsAtOnce);
-    return way.kind == Way::Kind::Runs && !way.isNoted;
+    return way.notes && !way.notes->isWhole();
 }
 
 SqliteSearch::Way &SqliteSearch::wayBy(const Columns &columns) {
@@ -114,18 +74,21 @@ SqliteSearch::Way &SqliteSearch::wayBy(const Columns &columns) {
 SqliteSearch::Way SqliteSearch::newWay(const Columns &columns) const {
     const std::string &number = m_table.rowNumber;
     const std::string integers = integersOf(columns);
-    if (columns.empty() || number.empty())
-        return {columns, Way::Kind::Asking, select(integers), {}, {}, true};
+    if (columns.empty() || number.empty()) return askingWay(columns);
     // So the row itself is read, and not what the index says of it.
     if (!integers.empty() && hasIndex(integers))
-        return {columns,
-                Way::Kind::Index,
+        return {columns, Way::Kind::Index,
                 select(number + " IN (SELECT " + number + " FROM " + SqliteDatabase::quoted(m_table.name) +
                        " WHERE " + integers + ")"),
-                {},
-                {},
-                true};
-    return {columns, Way::Kind::Runs, select(number + " BETWEEN ? AND ?"), {}, {}, false};
+                nullptr};
+    Columns each = columns;
+    each.erase(std::unique(each.begin(), each.end()), each.end());
+    return {columns, Way::Kind::Runs, select(number + " BETWEEN ? AND ?"),
+            std::make_unique<SqliteKeyNotes>(m_database, m_table, each)};
+}
+
+SqliteSearch::Way SqliteSearch::askingWay(const Columns &columns) const {
+    return {columns, Way::Kind::Asking, select(integersOf(columns)), nullptr};
 }
 
 bool SqliteSearch::hasIndex(const std::string &integers) const {
@@ -137,49 +100,12 @@ bool SqliteSearch::hasIndex(const std::string &integers) const {
 }
 
 void SqliteSearch::note(Way &way, std::uint64_t rows) const {
-    if (way.isNoted) return;
-    std::string values = m_table.rowNumber;
-    for (const std::size_t each : way.columns)
-        values += ", " + column(each);
-    // An index, which SQLite might find the columns in, has the rows in another order.
-    std::string from = SqliteDatabase::quoted(m_table.name) + " NOT INDEXED";
-    if (way.lastNoted) from += " WHERE " + m_table.rowNumber + " > " + std::to_string(*way.lastNoted);
-    bool hasRoom = true;
-    try {
-        way.isNoted = m_database.visit(values, from, [&](const SqliteDatabase::Row &row) {
-            const std::int64_t number = row[0].integer();
-            checkOrder(way.lastNoted, number);
-            hasRoom = way.runs.add(number, markOf(row, way.columns));
-            return hasRoom && --rows > 0;
-        });
-    } catch (...) {
-        // The next one would go on behind the fault, and nobody hear of the rows that are lost there.
-        way.runs = {};
-        way.lastNoted.reset();
-        throw;
-    }
-    if (!hasRoom) way = {way.columns, Way::Kind::Asking, select(integersOf(way.columns)), {}, {}, true};
-}
-
-/// The columns stand behind the row's number.
-std::uint32_t SqliteSearch::markOf(const SqliteDatabase::Row &row, const Columns &columns) const {
-    KeyHash key;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const SqliteValue &value = row[i + 1];
-        if (isText(columns[i])) {
-            if (!hasText(value)) return KeyRuns::NoKey;
-            addText(key, value);
-        } else {
-            const std::optional<std::int32_t> integer = integerOf(value);
-            if (!integer) return KeyRuns::NoKey;
-            key.add(static_cast<std::uint32_t>(*integer));
-        }
-    }
-    return KeyRuns::mark(key.value());
+    if (!way.notes || way.notes->isWhole()) return;
+    if (!way.notes->add(rows)) way = askingWay(way.columns);
 }
 
 void SqliteSearch::readRuns(Way &way, const std::vector<Condition> &conditions, Reply &reply) {
-    for (const KeyRuns::Range &range : way.runs.ranges(markOfKey(conditions))) {
+    for (const KeyRuns::Range &range : way.notes->ranges(conditions)) {
         way.rows.restart();
         way.rows.bind(1, range.first);
         way.rows.bind(2, range.last);

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "table_reader/condition.h"
-#include "table_reader/key_runs.h"
 #include "table_reader/reply.h"
 #include "table_reader/sqlite_file.h"
+#include "table_reader/sqlite_key_notes.h"
 #include "table_reader/sqlite_row_writer.h"
 
 /// Integers are compared by SQLite, which takes an index of the file where one begins with the column. Texts,
@@ -34,18 +35,16 @@ private:
         Columns columns;
         Kind kind = Kind::Asking;
         SqliteStatement rows;
-        // As far as the rows have been looked at:
-        KeyRuns runs;
-        std::optional<std::int64_t> lastNoted;
-        bool isNoted = false;
+        std::unique_ptr<SqliteKeyNotes> notes; // of a way by runs
     };
 
     Way &wayBy(const Columns &columns);
     Way newWay(const Columns &columns) const;
+    /// Without notes.
+    Way askingWay(const Columns &columns) const;
     bool hasIndex(const std::string &integers) const;
     /// Notes the keys of so many rows more. Where there are too many keys it becomes a way without notes.
     void note(Way &way, std::uint64_t rows) const;
-    std::uint32_t markOf(const SqliteDatabase::Row &row, const Columns &columns) const;
     void readRuns(Way &way, const std::vector<Condition> &conditions, Reply &reply);
     void read(const Way &way, const std::vector<Condition> &conditions, Reply &reply);
     /// `where` is a condition or nothing. The row's number, if it has one, stands behind the columns.

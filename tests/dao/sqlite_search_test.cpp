@@ -74,6 +74,43 @@ TEST(SqliteSearch, EveryWayFindsTheSameRows) {
     }
 }
 
+// Large enough that the helper looks which column tells the keys apart.
+TEST(SqliteSearch, KeysOfALargeTableAreFoundWhereverTheyLie) {
+    const QTemporaryDir folder;
+    const QByteArray count =
+        "with recursive n (i) as (select 0 union all select i + 1 from n where i < 8999) ";
+    const QByteArray names[] = {
+        "'Steel K' || (i / 3)", // in runs, and some once more far away, in small letters
+        "'Steel ' || (i * 7919 % 4500)",
+        "'Steel ' || (i % 40)", // in every part of the table
+        "case when i % 5 = 0 then null when i % 11 = 0 then i else '\u017fteel ' || (i / 2) end",
+    };
+    for (const QByteArray &name : names) {
+        FileSource source(
+            makeSqliteFile(folder, QString::number(qHash(name)),
+                           "create table T (id Integer, standard Text(20), name Text(20), number Text(20));" +
+                               count + "insert into T select i, 'EN ' || (i / 1000), " + name +
+                               ", '1.' || (i / 4) from n;"
+                               "insert into T select id + 9000, standard, lower(name), number from T "
+                               "where id % 100 = 7;"),
+            helperPath());
+        const Rows rows = allRows(source, "T");
+        ASSERT_EQ(rows.size(), 9090);
+        const FieldDefinitions fields = source.fields("T");
+        for (const QVector<int> &columns : {QVector<int>{1, 2, 3}, {2, 3}, {0, 2}, {2, 2}})
+            for (int i = 7; i < rows.size(); i += 601) {
+                QVector<QVariant> key;
+                QVector<ColumnCondition> conditions;
+                for (const int column : columns) {
+                    key << (rows[i][column].isValid() ? rows[i][column] : QVariant("none"));
+                    conditions << ColumnCondition{fields[column].name, key.last()};
+                }
+                ASSERT_EQ(rowTexts(matchingRows(source, "T", conditions)), expectedRows(rows, columns, key))
+                    << name.constData() << i;
+            }
+    }
+}
+
 // What the helper takes for granted when it looks for texts.
 TEST(SqliteSearch, TwoCharactersOutsideAsciiHaveASmallLetterInIt) {
     QList<char32_t> found;
