@@ -127,6 +127,12 @@ TEST_F(ChartWindowTest, TableAndGraphChangePlaces) {
     EXPECT_FALSE(window.framChart->isVisible());
     EXPECT_TRUE(window.tdbBoundTable->isVisible());
 
+    // Looking through all tables passes some without data, after which tables show as tables.
+    window.CommandShowGraph->click();
+    window.CheckTablesForRecords();
+    EXPECT_FALSE(window.framChart->isVisible());
+    EXPECT_TRUE(window.tdbBoundTable->isVisible());
+
     window.ShowTable("CreepProp");
     window.cmdUnBoundGraph->click();
     EXPECT_TRUE(window.framChart->isVisible());

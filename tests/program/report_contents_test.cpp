@@ -1,4 +1,5 @@
 // What stands on the pages of the reports, in reading order, as tests/program/contents tells it.
+#include <QImage>
 #include <QRegularExpression>
 
 #include "reports/actRepMain.h"
@@ -6,6 +7,13 @@
 #include "tests/program/reports_fixture.h"
 
 namespace {
+
+bool isDrawn(const Printing::Element &element) {
+    const QImage image = element.picture.toImage(element.pictureSize, 24);
+    QImage empty = image;
+    empty.fill(Qt::white);
+    return image != empty;
+}
 
 QString contentsOf(const Printing::Document &document) {
     static const QRegularExpression now("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d$");
@@ -16,7 +24,11 @@ QString contentsOf(const Printing::Document &document) {
         for (const Printing::Element &element : page.elements) {
             QString text = element.text;
             text.replace(now, "(now)");
-            if (!element.pictureSize.isEmpty()) text += "(picture) " + element.alternativeText;
+            if (!element.pictureSize.isEmpty())
+                text += (isDrawn(element) ? "(picture) " : "(no picture) ") + element.alternativeText;
+            if (element.Font.Bold && !text.isEmpty()) text.prepend("(bold) ");
+            if (element.HeadingLevel > 0)
+                text.prepend(QStringLiteral("(heading %1) ").arg(element.HeadingLevel));
             if (!text.isEmpty()) lines += "  " + text.replace("\r\n", "\\n").replace('\n', "\\n") + '\n';
         }
     }

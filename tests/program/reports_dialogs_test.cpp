@@ -53,6 +53,18 @@ QStringList shownBoxes(const frmSelData &dialog) {
     return captions;
 }
 
+/// In pixels, from the top of a box to that of the next.
+int largestGap(const frmSelData &dialog) {
+    int gap = 0;
+    std::optional<int> last;
+    for (const auto &[index, box] : dialog.chkData) {
+        if (box->isHidden()) continue;
+        if (last) gap = std::max(gap, box->y() - *last);
+        last = box->y();
+    }
+    return gap;
+}
+
 } // namespace
 
 TEST_F(ReportDialogs, OfferTheTablesWithData) {
@@ -66,6 +78,14 @@ TEST_F(ReportDialogs, OfferTheTablesWithData) {
     command(2);
     const QString standing = status();
     EXPECT_FALSE(material->PrintTable(0)); // nothing is chosen by Cancel
+
+    open(SampleGrades::P265GH);
+    drive([](frmSelData &dialog) {
+        EXPECT_TRUE(dialog.chkData(5)->isHidden()) << "Rp1,0, in the middle";
+        EXPECT_LE(largestGap(dialog), 26) << "a hidden box has left its place empty";
+        click(dialog.cmdCancel);
+    });
+    command(2);
 
     open(SampleGrades::ReferenceOnly);
     drive([&](frmSelData &dialog) {
