@@ -12,6 +12,8 @@ namespace {
 // Where rows are looked at to learn which column tells the keys apart, and how many at each place.
 constexpr int Places = 8;
 constexpr int RowsOfPlace = 256;
+// A text can have many megabytes: of more than so many bytes none is kept.
+constexpr std::size_t KeptSize = 200;
 
 void addText(KeyHash &key, const SqliteValue &value, std::string_view text) {
     const KeyHash before = key;
@@ -53,7 +55,7 @@ SqliteKeyNotes::Columns SqliteKeyNotes::tellingColumns(const Columns &columns) c
             std::vector<std::string> key;
             for (std::size_t i = 0; i < columns.size(); ++i) {
                 const SqliteValue value = rows.value(i + 1);
-                key.emplace_back(value.hasText() ? value.text() : std::string_view());
+                key.emplace_back(value.hasText() ? value.text().substr(0, KeptSize) : std::string_view());
                 placesOfTexts[i][key.back()].insert(place);
             }
             keys.insert(std::move(key));
@@ -105,12 +107,13 @@ bool SqliteKeyNotes::addRow(const Row &row) {
     return m_runs.add(row[0].integer(), hasTexts ? markOfTexts(row) : markOf(row));
 }
 
-/// False where a cell has another kind of value.
+/// False where a cell has another kind of value, or a text too long to be kept.
 bool SqliteKeyNotes::readTexts(const Row &row) {
     m_texts.clear();
     for (std::size_t i = 1; i < row.size(); ++i) {
         if (!row[i].isText()) return false;
         m_texts.push_back(row[i].text());
+        if (m_texts.back().size() > KeptSize) return false;
     }
     return true;
 }
