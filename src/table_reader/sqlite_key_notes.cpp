@@ -1,6 +1,7 @@
 #include "table_reader/sqlite_key_notes.h"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <set>
 
@@ -44,14 +45,16 @@ SqliteKeyNotes::Columns SqliteKeyNotes::tellingColumns(const Columns &columns) c
     if (columns.size() < 2 || !first || !last) return columns;
 
     SqliteStatement rows = m_database.prepare("SELECT " + values(columns) + " FROM " + fromTable() +
-                                              " WHERE " + m_table.rowNumber + " >= ? ORDER BY " +
+                                              " WHERE " + m_table.rowNumber + " > ? ORDER BY " +
                                               m_table.rowNumber + " LIMIT " + std::to_string(RowsOfPlace));
     std::vector<std::map<std::string, std::set<int>>> placesOfTexts(columns.size());
     std::set<std::vector<std::string>> keys;
+    std::int64_t before = std::numeric_limits<std::int64_t>::min();
     for (int place = 0; place < Places; ++place) {
         rows.restart();
-        rows.bind(1, *first / Places * (Places - place) + *last / Places * place);
+        rows.bind(1, std::max(before, *first / Places * (Places - place) + *last / Places * place));
         while (m_database.step(rows)) {
+            before = rows.value(0).integer();
             std::vector<std::string> key;
             for (std::size_t i = 0; i < columns.size(); ++i) {
                 const SqliteValue value = rows.value(i + 1);
