@@ -85,4 +85,8 @@ TEST_F(TableReports, AComparisonIsSavedInEveryForm) {
         for (const char *part : {"163,60", "108,80", "310", "P265GH", "Velmar_PED.mdb", "Modulus"})
             EXPECT_TRUE(text.contains(QLatin1String(part))) << ending << ' ' << part;
     }
+    EXPECT_EQ(
+        modal().asked().last().filter.toStdString(),
+        "Workbook (*.xlsx)|*.xlsx|Comma-Separated Values (*.csv)|*.csv|Tab-Separated Values (*.tsv)|*.tsv|"
+        "Portable Document Format (*.pdf)|*.pdf|Rich Text Format (*.rtf)|*.rtf|Text Format (*.txt)|*.txt");
 }
