@@ -217,6 +217,18 @@ TEST(DesignWindowTest, OneTemperatureHoldsForAllWindows) {
     spread("55", 1);
 }
 
+TEST(DesignWindowTest, ADecimalSignThatIsLeftAloneIsForgottenWithTheText) {
+    SmallProgram program({PlainRm});
+    frmMaterial2 &window = program.open(1);
+    window.ShowTable("Design");
+    type(window, "5,");
+    QTest::keyClick(window.txtDesignTemp, Qt::Key_Home);
+    QTest::keyClick(window.txtDesignTemp, Qt::Key_Delete);
+    EXPECT_EQ(window.txtDesignTemp->text(), "");
+    QTest::keyClicks(window.txtDesignTemp, "62,5");
+    EXPECT_EQ(window.txtDesignTemp->text(), "62,5") << "and not 625";
+}
+
 TEST(DesignWindowTest, WindowsOfTheSameCaptionAndDisabledBoxesAreLeftOut) {
     SmallProgram program({PlainRm, Rm + "(2, 20, -1, 1, '420')"});
     frmMaterial2 &first = program.open(1);

@@ -309,6 +309,21 @@ TEST(ReferencePage, LongTextsCanBeRead) {
               placeOf(window.framStand).top() + placeOf(window.framStand).height() + 120);
 }
 
+TEST(ReferencePage, ShortTextsGiveTheirRoomToLongOnes) {
+    const QString sentence = QString("Seamless steel tubes for pressure purposes, ").repeated(6).left(255);
+    const QString name = QString("X2CrNiMo17-12-2 ").repeated(5).left(80);
+    const TestProgram program(
+        smallDatabase({"standard values (2, 'EN 1', '" + sentence + "', '2020-01-01', 0)",
+                       "materials values (11, '" + name + "', '1.0425', '" + sentence +
+                           "', 'EN 1', '2020-01-01', '1.1', null, null, null)"}));
+    frmMaterial2 &window = program.open(program.material(11));
+    window.ShowTable("Ref");
+    QCoreApplication::processEvents();
+    for (const int box : {0, 1, 2, 3, 4, 5, 7})
+        EXPECT_EQ(window.txtMainData(box)->verticalScrollBar()->maximum(), 0) << box;
+    EXPECT_LT(placeOf(window.txtMainData(7)).height(), placeOf(window.txtMainData(1)).height());
+}
+
 TEST(MenuPlaceTest, EveryTableHasItsEntry) {
     const QStringList places{"View0", "View1", "Mech0", "View3", "Mech1", "Mech1", "Mech1",
                              "Phys0", "Phys1", "Phys2", "Phys3", "Phys4", "Mech3", "View5"};
