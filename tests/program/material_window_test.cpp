@@ -155,6 +155,8 @@ TEST_F(MaterialWindow, AdditionalInformationTakesThePageAndGivesItBack) {
     const QRect notes = placeOf(window.framNotes);
     window.ShowTable("AddInfo");
     EXPECT_EQ(window.lblNotes->text(), "Additional Information...");
+    EXPECT_TRUE(window.txtNotes->isVisible());
+    EXPECT_TRUE(window.txtNotes->toPlainText().contains("General"));
     EXPECT_FALSE(window.cmdShowNotes->isVisible());
     EXPECT_GT(placeOf(window.txtNotes).height(), notes.height());
 
