@@ -208,6 +208,9 @@ TEST_F(Dialect, Errors) {
          "3075: Syntax error (missing operator) in query expression 'label = 'a' 'b''."},
         {"select * from part order by label note",
          "3075: Syntax error (missing operator) in query expression 'label note'."},
+        // Of a list, only the item.
+        {"select id, label note, id from part",
+         "3075: Syntax error (missing operator) in query expression 'label note'."},
         {"select max(id, 2) from part",
          "3075: Wrong number of arguments used with function in query expression 'max(id, 2)'."},
         {"select * from nothing where x = 1", "3078: The database engine cannot find the input table or "
