@@ -187,6 +187,7 @@ TEST_F(MaterialWindow, TheNotesButtonCallsForAttention) {
     EXPECT_TRUE(window.TimerFlash->isActive()) << "meant so: the timer runs on";
 
     const auto picture = [&window] { return window.cmdShowNotes->icon().pixmap(18).toImage(); };
+    EXPECT_EQ(window.TimerFlash->interval(), 500) << "slow enough for anybody";
     window.TimerFlash->setInterval(1);
     const QImage open = picture();
     QTest::qWait(20);
@@ -324,6 +325,13 @@ TEST(ReferencePage, ShortTextsGiveTheirRoomToLongOnes) {
     for (const int box : {0, 1, 2, 3, 4, 5, 7})
         EXPECT_EQ(window.txtMainData(box)->verticalScrollBar()->maximum(), 0) << box;
     EXPECT_LT(placeOf(window.txtMainData(7)).height(), placeOf(window.txtMainData(1)).height());
+    for (int one = 0; one < 9; ++one)
+        for (int other = 0; other < one; ++other) {
+            const QWidget *const boxes[] = {window.txtMainData(one), window.txtMainData(other)};
+            const bool neighbours = boxes[0]->parent() == boxes[1]->parent();
+            EXPECT_FALSE(neighbours && boxes[0]->geometry().intersects(boxes[1]->geometry()))
+                << one << ' ' << other;
+        }
 }
 
 TEST(MenuPlaceTest, EveryTableHasItsEntry) {

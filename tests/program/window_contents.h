@@ -42,6 +42,8 @@ inline QString lineOf(QWidget &control) {
     const char *const names[] = {"", "named", "says", "tip"};
     for (int i = 1; i < 4; ++i)
         if (!parts[i].isEmpty()) line += QStringLiteral("; %1 \"%2\"").arg(names[i], parts[i]);
+    if (const auto *label = qobject_cast<QLabel *>(&control); label && label->buddy())
+        line += "; of " + label->buddy()->objectName();
     return line.replace("\r\n", "\\n").replace('\n', "\\n");
 }
 
